@@ -1,0 +1,116 @@
+#include "toolkit/Form.h"
+
+#include <algorithm>
+
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+
+namespace qv {
+
+namespace {
+std::vector<std::weak_ptr<Form>>& registry() {
+    static std::vector<std::weak_ptr<Form>> forms;
+    return forms;
+}
+std::vector<std::shared_ptr<void>>& graveyard() {
+    static std::vector<std::shared_ptr<void>> dead;
+    return dead;
+}
+}  // namespace
+
+Form::Form(std::string name) : name_(std::move(name)) {}
+
+Form::~Form() = default;
+
+void Form::setCaption(const std::string& c) {
+    caption_ = c;
+    Changed();
+}
+
+void Form::load() {
+    if (loaded_) return;
+    loaded_ = true;
+    registry().push_back(weak_from_this());
+    Form_Load();
+}
+
+void Form::showModal(Form* owner) {
+    load();
+    owner_ = owner;
+    ui().showModal(*this);
+}
+
+void Form::hide() {
+    if (!visible_) return;
+    ui().hide(*this);
+    setVisible(false);
+}
+
+void Form::setVisible(bool v) {
+    if (visible_ == v) return;
+    visible_ = v;
+    Changed();
+}
+
+void Form::unload() {
+    if (!loaded_) return;
+    // Keep this object alive for the rest of the caller's handler.
+    if (auto self = weak_from_this().lock()) deferRelease(self);
+    Form_Unload();
+    hide();
+    loaded_ = false;
+    auto& forms = registry();
+    forms.erase(std::remove_if(forms.begin(), forms.end(),
+                               [this](const std::weak_ptr<Form>& w) {
+                                   auto f = w.lock();
+                                   return !f || f.get() == this;
+                               }),
+                forms.end());
+    Unloaded();
+}
+
+void Form::requestClose() {
+    bool cancel = false;
+    Form_QueryUnload(cancel, 0);
+    if (!cancel) unload();
+}
+
+void Form::keyDown(int32_t keyCode, int32_t shift) { Form_KeyDown(keyCode, shift); }
+
+void Form::move(int32_t left, int32_t top, int32_t width, int32_t height) {
+    geometry_.left = left;
+    geometry_.top = top;
+    geometry_.width = width;
+    geometry_.height = height;
+    Changed();
+}
+
+void Form::setWindowState(int32_t state) {
+    geometry_.state = state;
+    Changed();
+}
+
+void Form::userResized(const Geometry& g) {
+    geometry_ = g;
+    Form_Resize();
+}
+
+std::vector<std::shared_ptr<Form>> Form::openForms() {
+    std::vector<std::shared_ptr<Form>> out;
+    for (const auto& w : registry())
+        if (auto f = w.lock()) out.push_back(std::move(f));
+    return out;
+}
+
+void deferRelease(std::shared_ptr<void> object) { graveyard().push_back(std::move(object)); }
+
+void releaseDeferred() {
+    // Destructors may defer more; drain until quiet.
+    while (!graveyard().empty()) {
+        auto dead = std::move(graveyard());
+        graveyard().clear();
+        dead.clear();
+    }
+}
+
+}  // namespace qv

@@ -1,0 +1,36 @@
+#pragma once
+// Where the logic finds its ports. The host (or a test fixture) installs
+// them before the first SetupTask; the logic never creates one itself.
+
+#include <functional>
+#include <string>
+
+namespace qv {
+
+class Ui;
+class Clock;
+class Reporter;
+class ColorChooser;
+class HelpViewer;
+class PrintSurface;
+class SpellChecker;
+class LocaleInfo;
+
+struct Ports {
+    Ui* ui = nullptr;
+    Clock* clock = nullptr;
+    Reporter* reporter = nullptr;  // the default reporter of the error path
+    ColorChooser* colorChooser = nullptr;
+    HelpViewer* help = nullptr;
+    PrintSurface* print = nullptr;
+    SpellChecker* spell = nullptr;
+    LocaleInfo* locale = nullptr;
+};
+
+Ports& ports();
+
+// Shorthands that fail loudly when a port is missing.
+Ui& ui();
+Clock& clock();
+
+}  // namespace qv

@@ -1,0 +1,86 @@
+#include "toolkit/Sheet.h"
+
+#include "toolkit/Failure.h"
+
+namespace qv {
+
+Sheet::Sheet(std::string name, std::string title) : name_(std::move(name)), title_(std::move(title)) {}
+
+void Sheet::setTitle(const std::string& t) {
+    title_ = t;
+    notify();
+}
+
+void Sheet::setEnabled(bool e) {
+    enabled_ = e;
+    notify();
+}
+
+Tool& Sheet::add(int32_t type, const std::string& key, const std::string& caption) {
+    if (!key.empty() && find(key)) throw Failure(35602, "Key is not unique in collection");
+    tools_.push_back(std::make_unique<Tool>(this, nullptr, type, key, caption));
+    lastAdded_ = tools_.back().get();
+    notify();
+    return *lastAdded_;
+}
+
+void Sheet::removeAll() {
+    tools_.clear();
+    lastAdded_ = nullptr;
+    notify();
+}
+
+void Sheet::remove(const std::string& key) {
+    for (auto it = tools_.begin(); it != tools_.end(); ++it) {
+        if ((*it)->key() == key) {
+            if (lastAdded_ == it->get()) lastAdded_ = nullptr;
+            tools_.erase(it);
+            notify();
+            return;
+        }
+    }
+    throw Failure(35601, "Element not found");
+}
+
+bool Sheet::hasKey(const std::string& key) const { return !key.empty() && find(key) != nullptr; }
+
+Tool& Sheet::tool(const std::string& key) const {
+    if (Tool* t = key.empty() ? nullptr : find(key)) return *t;
+    throw Failure(35601, "Element not found: " + key);
+}
+
+Tool& Sheet::at(int32_t position) const {
+    if (position < 1 || position > count()) throw Failure(35600, "Index out of bounds");
+    return *tools_[static_cast<size_t>(position - 1)];
+}
+
+Tool* Sheet::find(const std::string& key) const {
+    for (const auto& t : tools_) {
+        if (t->key() == key) return t.get();
+        if (Tool* sub = t->item(key)) return sub;
+    }
+    return nullptr;
+}
+
+void Sheet::click(Tool& t) {
+    if (!enabled_ || !t.enabled()) return;
+    if (t.type() == ttOption) {
+        // A click on the chosen option still reaches the handlers.
+        if (t.checked()) Click(t);
+        else t.setChecked(true);
+        return;
+    }
+    if (t.type() == ttCheck) {
+        t.setChecked(!t.checked());
+        return;
+    }
+    Click(t);
+}
+
+void Sheet::userEdit(Tool& t, const std::string& text) {
+    if (!enabled_ || !t.enabled()) return;
+    t.setText(text);
+}
+
+}  // namespace qv
+

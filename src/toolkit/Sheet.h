@@ -1,0 +1,65 @@
+#pragma once
+// A property sheet: an ordered set of tools, addressed by key or by a
+// position that counts from 1. Views observe it through Changed; the dialog
+// logic handles Click and Change.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "toolkit/Event.h"
+#include "toolkit/Tool.h"
+
+namespace qv {
+
+class Sheet {
+public:
+    explicit Sheet(std::string name, std::string title = {});
+    Sheet(const Sheet&) = delete;
+    Sheet& operator=(const Sheet&) = delete;
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] const std::string& title() const { return title_; }
+    void setTitle(const std::string& t);
+    [[nodiscard]] bool enabled() const { return enabled_; }
+    void setEnabled(bool e);
+
+    // Adds a tool at the end. A key that stands already throws (invalid key).
+    Tool& add(int32_t type, const std::string& key = {}, const std::string& caption = {});
+    void removeAll();
+    void remove(const std::string& key);
+
+    [[nodiscard]] int32_t count() const { return static_cast<int32_t>(tools_.size()); }
+    [[nodiscard]] bool hasKey(const std::string& key) const;
+    // By key: throws Failure (invalid key) when absent.
+    [[nodiscard]] Tool& tool(const std::string& key) const;
+    // By position from 1: throws Failure when out of range.
+    [[nodiscard]] Tool& at(int32_t position) const;
+    // By key, or nullptr; searches sub-items too.
+    [[nodiscard]] Tool* find(const std::string& key) const;
+    [[nodiscard]] Tool* lastAdded() const { return lastAdded_; }
+    [[nodiscard]] const std::vector<std::unique_ptr<Tool>>& tools() const { return tools_; }
+
+    // The user's actions, as a view forwards them.
+    void click(Tool& t);
+    void userEdit(Tool& t, const std::string& text);
+
+    Event<Tool&> Click;
+    Event<Tool&, const std::string&> Change;  // tool, property name ("Value")
+    Event<> Changed;                           // anything a view shows changed
+
+private:
+    friend class Tool;
+    void raiseChange(Tool& t, const std::string& property) { Change(t, property); }
+    void raiseClick(Tool& t) { Click(t); }
+    void notify() { Changed(); }
+
+    std::string name_;
+    std::string title_;
+    bool enabled_ = true;
+    std::vector<std::unique_ptr<Tool>> tools_;
+    Tool* lastAdded_ = nullptr;
+};
+
+}  // namespace qv

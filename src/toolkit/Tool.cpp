@@ -1,0 +1,99 @@
+#include "toolkit/Tool.h"
+
+#include "toolkit/Failure.h"
+#include "toolkit/Sheet.h"
+
+namespace qv {
+
+Tool::Tool(Sheet* sheet, Tool* parent, int32_t type, std::string key, std::string caption)
+    : sheet_(sheet), parent_(parent), type_(type), key_(std::move(key)), caption_(std::move(caption)) {}
+
+void Tool::changed() {
+    if (sheet_) sheet_->notify();
+}
+
+void Tool::setCaption(const std::string& c) {
+    if (caption_ == c) return;
+    caption_ = c;
+    changed();
+}
+
+void Tool::setText(const std::string& t) {
+    if (text_ == t) return;
+    text_ = t;
+    changed();
+    if (sheet_) sheet_->raiseChange(*this, "Value");
+}
+
+void Tool::setTip(const std::string& t) {
+    tip_ = t;
+    changed();
+}
+
+void Tool::setImage(const std::string& i) {
+    if (image_ == i) return;
+    image_ = i;
+    changed();
+}
+
+void Tool::setEnabled(bool e) {
+    if (enabled_ == e) return;
+    enabled_ = e;
+    changed();
+}
+
+void Tool::setVisible(bool v) {
+    if (visible_ == v) return;
+    visible_ = v;
+    changed();
+}
+
+void Tool::setBold(bool b) {
+    if (bold_ == b) return;
+    bold_ = b;
+    changed();
+}
+
+void Tool::setForeColor(int32_t c) {
+    if (foreColor_ == c) return;
+    foreColor_ = c;
+    changed();
+}
+
+void Tool::setHostedControl(const std::string& name) {
+    hosted_ = name;
+    changed();
+}
+
+void Tool::setChecked(bool c) {
+    if (c && type_ == ttOption && sheet_) {
+        // Options are exclusive among their siblings.
+        const auto& siblings = parent_ ? parent_->items() : sheet_->tools();
+        for (const auto& s : siblings)
+            if (s.get() != this && s->type_ == ttOption) s->checked_ = false;
+    }
+    const bool was = checked_;
+    checked_ = c;
+    changed();
+    if (was != c && sheet_) sheet_->raiseClick(*this);
+}
+
+Tool& Tool::addItem(int32_t type, const std::string& key, const std::string& caption) {
+    if (!key.empty() && item(key)) throw Failure(35602, "Key is not unique in collection");
+    items_.push_back(std::make_unique<Tool>(sheet_, this, type, key, caption));
+    changed();
+    return *items_.back();
+}
+
+void Tool::clearItems() {
+    items_.clear();
+    changed();
+}
+
+Tool* Tool::item(const std::string& key) const {
+    for (const auto& i : items_)
+        if (i->key_ == key) return i.get();
+    return nullptr;
+}
+
+}  // namespace qv

@@ -1,0 +1,92 @@
+#pragma once
+// One tool of a property sheet: a row addressed by key or by position.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "toolkit/Event.h"
+
+namespace qv {
+
+class Sheet;
+
+// The numbers the sheet's add operation takes.
+enum ToolType : int32_t {
+    ttButton = 100,
+    ttDropSeparator = 205,
+    ttCheck = 501,
+    ttOption = 901,
+    ttSeparator = 1104,
+    ttHeading = 1300,
+    ttTextBox = 1400,
+};
+
+class Tool {
+public:
+    Tool(Sheet* sheet, Tool* parent, int32_t type, std::string key, std::string caption);
+
+    [[nodiscard]] int32_t type() const { return type_; }
+    [[nodiscard]] const std::string& key() const { return key_; }
+    [[nodiscard]] Sheet* sheet() const { return sheet_; }
+    [[nodiscard]] Tool* parent() const { return parent_; }
+
+    [[nodiscard]] const std::string& caption() const { return caption_; }
+    void setCaption(const std::string& c);
+    [[nodiscard]] const std::string& text() const { return text_; }
+    // Raises the sheet's Change with the property "Value" when the text changes.
+    void setText(const std::string& t);
+    [[nodiscard]] const std::string& tag() const { return tag_; }
+    void setTag(const std::string& t) { tag_ = t; }
+    [[nodiscard]] const std::string& tip() const { return tip_; }
+    void setTip(const std::string& t);
+    [[nodiscard]] const std::string& image() const { return image_; }
+    void setImage(const std::string& i);
+
+    [[nodiscard]] bool enabled() const { return enabled_; }
+    void setEnabled(bool e);
+    [[nodiscard]] bool visible() const { return visible_; }
+    void setVisible(bool v);
+    [[nodiscard]] bool bold() const { return bold_; }
+    void setBold(bool b);
+    // A colour as a 32-bit RGB long (red in the low byte).
+    [[nodiscard]] int32_t foreColor() const { return foreColor_; }
+    void setForeColor(int32_t c);
+
+    [[nodiscard]] bool checked() const { return checked_; }
+    // Checking an option unchecks its sibling options; raises the sheet's Click.
+    void setChecked(bool c);
+
+    // The name of a control (a date box) hosted inside this tool; empty if none.
+    [[nodiscard]] const std::string& hostedControl() const { return hosted_; }
+    void setHostedControl(const std::string& name);
+
+    // Sub-items: entries of a drop-down list or a split button.
+    Tool& addItem(int32_t type, const std::string& key, const std::string& caption);
+    void clearItems();
+    [[nodiscard]] const std::vector<std::unique_ptr<Tool>>& items() const { return items_; }
+    [[nodiscard]] Tool* item(const std::string& key) const;
+
+private:
+    void changed();
+
+    Sheet* sheet_;
+    Tool* parent_;
+    int32_t type_;
+    std::string key_;
+    std::string caption_;
+    std::string text_;
+    std::string tag_;
+    std::string tip_;
+    std::string image_;
+    std::string hosted_;
+    bool enabled_ = true;
+    bool visible_ = true;
+    bool bold_ = false;
+    bool checked_ = false;
+    int32_t foreColor_ = 0;
+    std::vector<std::unique_ptr<Tool>> items_;
+};
+
+}  // namespace qv
