@@ -3,6 +3,7 @@
 // load/unload life. Dialog logic derives from it; the Ui port shows it.
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -10,6 +11,13 @@
 #include "toolkit/Event.h"
 
 namespace qv {
+
+class Sheet;
+class TextEditor;
+class DateBox;
+class Timer;
+class Splitter;
+class Grid;
 
 // Key codes the dialogs look at.
 enum KeyCode : int32_t { vbKeyReturn = 13, vbKeyEscape = 27, vbKeyF1 = 112 };
@@ -57,6 +65,15 @@ public:
     // Reported by a view when the user resizes; runs Form_Resize.
     void userResized(const Geometry& g);
 
+    // The form's named controls, for views and scripts (nullptr if none).
+    [[nodiscard]] Sheet* sheet(const std::string& name) const { return lookup(sheets_, name); }
+    [[nodiscard]] TextEditor* editor(const std::string& name) const { return lookup(editors_, name); }
+    [[nodiscard]] DateBox* dateBox(const std::string& name) const { return lookup(dateBoxes_, name); }
+    [[nodiscard]] Timer* timer(const std::string& name) const { return lookup(timers_, name); }
+    [[nodiscard]] Splitter* splitter(const std::string& name) const { return lookup(splitters_, name); }
+    [[nodiscard]] Grid* grid(const std::string& name) const { return lookup(grids_, name); }
+    [[nodiscard]] const std::map<std::string, Sheet*>& sheets() const { return sheets_; }
+
     // The forms loaded now, oldest first (the error path unloads them all).
     static std::vector<std::shared_ptr<Form>> openForms();
 
@@ -72,8 +89,22 @@ protected:
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
 
+    // Dialogs name their controls once, in their constructor.
+    void addControl(const std::string& name, Sheet& c) { sheets_[name] = &c; }
+    void addControl(const std::string& name, TextEditor& c) { editors_[name] = &c; }
+    void addControl(const std::string& name, DateBox& c) { dateBoxes_[name] = &c; }
+    void addControl(const std::string& name, Timer& c) { timers_[name] = &c; }
+    void addControl(const std::string& name, Splitter& c) { splitters_[name] = &c; }
+    void addControl(const std::string& name, Grid& c) { grids_[name] = &c; }
+
 private:
     friend class FormAccess;
+    template <typename T>
+    static T* lookup(const std::map<std::string, T*>& m, const std::string& name) {
+        auto it = m.find(name);
+        return it == m.end() ? nullptr : it->second;
+    }
+
     void setVisible(bool v);
 
     std::string name_;
@@ -82,6 +113,12 @@ private:
     bool loaded_ = false;
     Form* owner_ = nullptr;
     Geometry geometry_;
+    std::map<std::string, Sheet*> sheets_;
+    std::map<std::string, TextEditor*> editors_;
+    std::map<std::string, DateBox*> dateBoxes_;
+    std::map<std::string, Timer*> timers_;
+    std::map<std::string, Splitter*> splitters_;
+    std::map<std::string, Grid*> grids_;
 };
 
 // The Ui ports' side door: they flip visibility as their windows come and go.
