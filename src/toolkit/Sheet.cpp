@@ -64,6 +64,11 @@ Tool* Sheet::find(const std::string& key) const {
 
 void Sheet::click(Tool& t) {
     if (!enabled_ || !t.enabled()) return;
+    // Choosing an entry of a drop-down list puts its caption in the list.
+    if (t.type() == ttOption && t.parent() && t.parent()->type() != ttOption) {
+        userEdit(*t.parent(), t.caption());
+        return;
+    }
     if (t.type() == ttOption) {
         // A click on the chosen option still reaches the handlers.
         if (t.checked()) Click(t);

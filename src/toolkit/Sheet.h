@@ -41,7 +41,8 @@ public:
     [[nodiscard]] Tool* lastAdded() const { return lastAdded_; }
     [[nodiscard]] const std::vector<std::unique_ptr<Tool>>& tools() const { return tools_; }
 
-    // The user's actions, as a view forwards them.
+    // The user's actions, as a view forwards them. Clicking an option entry
+    // of a drop-down list chooses it: the list's text becomes its caption.
     void click(Tool& t);
     void userEdit(Tool& t, const std::string& text);
 
