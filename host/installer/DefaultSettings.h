@@ -1,0 +1,20 @@
+#pragma once
+// The Settings rows of a fresh store: every section the settings load reads.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace qv {
+
+struct SettingRow {
+    std::string section;
+    std::string name;
+    std::string value;  // also the row's default
+    int32_t displayOrd = 0;
+    std::string comment;
+};
+
+const std::vector<SettingRow>& defaultSettings();
+
+}  // namespace qv

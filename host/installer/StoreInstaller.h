@@ -1,0 +1,17 @@
+#pragma once
+// Brings a fresh store into the program's folder on first run: the eight
+// tables and the default Settings rows. The component itself never
+// creates or alters a table.
+
+#include <string>
+
+namespace qv {
+
+// Creates QuorvelData.mdb in folder. An existing store is left untouched
+// (false); true when a store was made. Throws Failure when it can't be made.
+bool installStore(const std::string& folder);
+
+// Writes QuorvelSettings.txt in folder, pointing at the store there.
+void installSettingsFile(const std::string& folder);
+
+}  // namespace qv

@@ -1,0 +1,127 @@
+#include "store/ADOCode.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+
+namespace qv {
+
+namespace {
+
+constexpr const char* kCrLf = "\r\n";
+constexpr int32_t kPathFileAccessError = 75;
+
+std::string settingsPath() { return pathInFolder(g().AppPath, kSettingsFileName); }
+std::string defaultStorePath() { return pathInFolder(g().AppPath, kStoreFileName); }
+
+bool fileExists(const std::string& path) {
+    std::error_code ec;
+    return !path.empty() && std::filesystem::is_regular_file(path, ec);
+}
+
+std::string readWholeFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw Failure(err::FileNotFound, "File not found: " + path);
+    std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    if (in.bad()) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+    return text;
+}
+
+// 1-based position of what in text, searching from start; 0 when absent.
+size_t inStr(size_t start, const std::string& text, const std::string& what) {
+    if (start < 1) start = 1;
+    if (start > text.size()) return 0;
+    const auto at = text.find(what, start - 1);
+    return at == std::string::npos ? 0 : at + 1;
+}
+
+// Characters from a 1-based start; a negative length gives nothing.
+std::string mid(const std::string& text, long long start, long long length) {
+    if (length <= 0 || start < 1 || static_cast<size_t>(start) > text.size()) return {};
+    return text.substr(static_cast<size_t>(start - 1), static_cast<size_t>(length));
+}
+
+// The path between the DBLoc tags. The arithmetic takes the shape that
+// saveTheLoc writes: the tag, CR LF, the path, CR LF, the closing tag.
+std::string dbLocFrom(const std::string& text) {
+    const auto p = static_cast<long long>(inStr(1, text, "<DBLoc>"));
+    const auto q = static_cast<long long>(inStr(static_cast<size_t>(p + 8), text, "</DBLoc>"));
+    return mid(text, p + 9, q - p - 11);
+}
+
+std::string lostStoreMessage(const std::string& path) {
+    return std::string("The Quorvel data file, \"") + path + "\", could not be found." + kCrLf +
+           "Without this file, Quorvel cannot work." + kCrLf + kCrLf + "Quorvel will now check in " +
+           g().AppPath + " in hopes of locating the originally installed datafile (QuorvelData.mdb).";
+}
+
+std::string settingsFileMessage() {
+    return std::string("The Quorvel settings file, \"QuorvelSettings.txt\", could not be found in (\"") +
+           g().AppPath + "\" )." + kCrLf +
+           "Without this file, Quorvel cannot determine where its database resides. Please find "
+           "this file and put it back!";
+}
+
+void pointAtDefaultStore() {
+    g().DBLocation = defaultStorePath();
+    saveTheLoc();
+}
+
+bool locateStore() {
+    int retries = 0;
+    std::string path;
+    for (;;) {
+        if (retries == 2) return false;
+        if (!fileExists(settingsPath())) pointAtDefaultStore();
+        path = dbLocFrom(readWholeFile(settingsPath()));
+        if (fileExists(path)) break;
+        ++retries;
+        ui().msgBox(lostStoreMessage(path), vbCritical, kProgramTitle);
+        pointAtDefaultStore();
+    }
+    g().ConnString = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + path + ";";
+    SetConnStringSHAPED(path);
+    g().DBLocation = path;
+    return true;
+}
+
+}  // namespace
+
+bool ADOTest() {
+    try {
+        return locateStore();
+    } catch (...) {
+        // Any file fault ends in the one message; the next data request retries.
+        if (ports().ui) ui().msgBox(settingsFileMessage(), vbCritical, kProgramTitle);
+        return false;
+    }
+}
+
+void saveTheLoc() { writeSettingsFile(g().AppPath, g().DBLocation); }
+
+void SetConnStringSHAPED(const std::string& path) {
+    g().ConnStringShaped =
+        "Provider=MSDataShape; Data Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + path + ";";
+}
+
+std::string pathInFolder(const std::string& folder, const std::string& name) {
+    if (!folder.empty() && folder.back() == '/') return folder + name;
+    return folder + "/" + name;
+}
+
+void writeSettingsFile(const std::string& folder, const std::string& dbPath) {
+    const auto path = pathInFolder(folder, kSettingsFileName);
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    if (!out) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+    out << "<Quorvel>" << kCrLf << "<DBLoc>" << kCrLf << dbPath << kCrLf << "</DBLoc>" << kCrLf
+        << "</Quorvel>" << kCrLf;
+    out.close();
+    if (!out) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+}
+
+}  // namespace qv

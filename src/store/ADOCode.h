@@ -1,0 +1,25 @@
+#pragma once
+// Where the store is: the settings file beside the program names the
+// database file; ADOTest reads it, repairs it and sets the connection texts.
+
+#include <string>
+
+namespace qv {
+
+inline constexpr const char* kStoreFileName = "QuorvelData.mdb";
+inline constexpr const char* kSettingsFileName = "QuorvelSettings.txt";
+
+// Locates the store and sets ConnString, ConnStringShaped and DBLocation.
+// False after two lost passes or when the settings file can't be handled.
+bool ADOTest();
+// Overwrites the settings file with DBLocation.
+void saveTheLoc();
+// Forms ConnStringShaped for the store at path.
+void SetConnStringSHAPED(const std::string& path);
+
+// A file in a folder: no second separator when the folder ends in "/".
+std::string pathInFolder(const std::string& folder, const std::string& name);
+// Writes the five tagged lines that point at dbPath; throws Failure.
+void writeSettingsFile(const std::string& folder, const std::string& dbPath);
+
+}  // namespace qv

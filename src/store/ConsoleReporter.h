@@ -1,0 +1,19 @@
+#pragma once
+// The headless default reporter: the fault goes to standard error and to
+// QuorvelErrors.log in the program's folder, then the session must end.
+
+#include <string>
+
+#include "toolkit/Reporter.h"
+
+namespace qv {
+
+class ConsoleReporter : public Reporter {
+public:
+    bool report(const FaultReport& fault) override;
+
+    // One line per fault, as it is written to the log.
+    static std::string format(const FaultReport& fault);
+};
+
+}  // namespace qv

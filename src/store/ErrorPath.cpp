@@ -1,0 +1,93 @@
+#include "store/ErrorPath.h"
+
+#include <new>
+#include <stdexcept>
+
+#include "session/globals/SessionGlobals.h"
+#include "store/ConsoleReporter.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Form.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Reporter.h"
+
+namespace qv {
+
+namespace {
+
+constexpr int32_t kOutOfMemory = 7;
+constexpr const char* kMainFormName = "frmMain";
+
+struct Described {
+    int32_t number;
+    std::string description;
+};
+
+// Numbers as the platform gave them for the usual kinds of fault.
+Described describeCurrent() {
+    try {
+        throw;
+    } catch (const Failure& f) {
+        return {f.number(), f.description()};
+    } catch (const std::bad_alloc&) {
+        return {kOutOfMemory, "Out of memory"};
+    } catch (const std::out_of_range& e) {
+        return {err::SubscriptOutOfRange, std::string("Subscript out of range: ") + e.what()};
+    } catch (const std::overflow_error& e) {
+        return {err::Overflow, std::string("Overflow: ") + e.what()};
+    } catch (const std::exception& e) {
+        return {err::InvalidProcedureCall, e.what()};
+    } catch (...) {
+        return {err::InvalidProcedureCall, "Unknown failure"};
+    }
+}
+
+Reporter& reporter() {
+    static ConsoleReporter fallback;
+    return ports().reporter ? *ports().reporter : fallback;
+}
+
+// "NONE" or nothing means the user has no mail profile.
+std::string profileForReport() {
+    const auto& profile = g().OutlookProfile;
+    return (profile.empty() || profile == "NONE") ? std::string() : profile;
+}
+
+void unloadQuietly(Form& form) {
+    try {
+        form.unload();
+    } catch (...) {
+        // The error path goes on whatever a form's unload does.
+    }
+}
+
+// The main window's form goes last.
+void unloadAllForms() {
+    for (const auto& form : Form::openForms())
+        if (form->name() != kMainFormName) unloadQuietly(*form);
+    for (const auto& form : Form::openForms()) unloadQuietly(*form);
+}
+
+}  // namespace
+
+void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
+                 const std::string& description, int32_t number, int32_t line,
+                 const std::array<std::string, 6>& UStuff) {
+    FaultReport fault{project, module, procedure, description, number, line, UStuff, profileForReport()};
+    try {
+        reporter().report(fault);
+    } catch (...) {
+        // A reporter that fails must not stop the forms from closing.
+    }
+    unloadAllForms();
+}
+
+void reportCurrentFailure(const char* module, const char* procedure) noexcept {
+    try {
+        const auto fault = describeCurrent();
+        ReportError(kProjectName, module, procedure, fault.description, fault.number, 0, g().UStuff);
+    } catch (...) {
+        // Nothing may leave the trap.
+    }
+}
+
+}  // namespace qv

@@ -1,0 +1,46 @@
+#pragma once
+// The one error path: a failure inside a procedure is caught at the
+// procedure's boundary (the trap), reported, and every form is unloaded.
+
+#include <array>
+#include <cstdint>
+#include <exception>
+#include <string>
+#include <type_traits>
+
+namespace qv {
+
+// Tells the reporter of the fault, then unloads every open form.
+void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
+                 const std::string& description, int32_t number, int32_t line,
+                 const std::array<std::string, 6>& UStuff);
+
+// Reports the exception in flight as a fault of module.procedure. Call it
+// only from a catch block.
+void reportCurrentFailure(const char* module, const char* procedure) noexcept;
+
+// Runs body under the trap. A failure is reported and the procedure's
+// default result comes back: false, 0, empty. A body without a result
+// gives true when it ran to its end.
+template <class F>
+auto trap(const char* module, const char* procedure, F&& body) {
+    using R = std::invoke_result_t<F>;
+    if constexpr (std::is_void_v<R>) {
+        try {
+            body();
+            return true;
+        } catch (...) {
+            reportCurrentFailure(module, procedure);
+            return false;
+        }
+    } else {
+        try {
+            return body();
+        } catch (...) {
+            reportCurrentFailure(module, procedure);
+            return R{};
+        }
+    }
+}
+
+}  // namespace qv

@@ -1,0 +1,7 @@
+#include "store/clsNewKeyword.h"
+
+namespace qv {
+
+clsNewKeyword::clsNewKeyword() : NewRowSource("clsNewKeyword") {}
+
+}  // namespace qv

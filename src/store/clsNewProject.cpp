@@ -1,0 +1,7 @@
+#include "store/clsNewProject.h"
+
+namespace qv {
+
+clsNewProject::clsNewProject() : NewRowSource("clsNewProject") {}
+
+}  // namespace qv

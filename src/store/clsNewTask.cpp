@@ -1,0 +1,7 @@
+#include "store/clsNewTask.h"
+
+namespace qv {
+
+clsNewTask::clsNewTask() : NewRowSource("clsNewTask") {}
+
+}  // namespace qv

@@ -1,0 +1,23 @@
+#pragma once
+// Task Appointments: the public class through which the host and the
+// dialogs add and remove rows of TASKAPPTS in the set opened by GetDataKEY.
+
+#include "store/DataSource.h"
+#include "values/Value.h"
+
+namespace qv {
+
+class clsTaskSchedule : public DataSource {
+public:
+    clsTaskSchedule();
+
+    bool GetDataKEY(RecordsetPtr& rst);
+    // Removes every row of the set whose key is TAGUID; false when none was.
+    bool KillTA(const std::string& TAGUID);
+    // diffImp: importance digit first, difficulty digit last.
+    bool AddTA(const std::string& TAGUID, const std::string& taTaskGuid, const std::string& Project,
+               const std::string& projectKey, Date Dstart, Date Dend, const std::string& desc,
+               const std::string& diffImp);
+};
+
+}  // namespace qv
