@@ -18,6 +18,7 @@ class DateBox;
 class Timer;
 class Splitter;
 class Grid;
+class Label;
 
 // Key codes the dialogs look at.
 enum KeyCode : int32_t { vbKeyReturn = 13, vbKeyEscape = 27, vbKeyF1 = 112 };
@@ -72,6 +73,7 @@ public:
     [[nodiscard]] Timer* timer(const std::string& name) const { return lookup(timers_, name); }
     [[nodiscard]] Splitter* splitter(const std::string& name) const { return lookup(splitters_, name); }
     [[nodiscard]] Grid* grid(const std::string& name) const { return lookup(grids_, name); }
+    [[nodiscard]] Label* label(const std::string& name) const { return lookup(labels_, name); }
     [[nodiscard]] const std::map<std::string, Sheet*>& sheets() const { return sheets_; }
 
     // The forms loaded now, oldest first (the error path unloads them all).
@@ -96,6 +98,7 @@ protected:
     void addControl(const std::string& name, Timer& c) { timers_[name] = &c; }
     void addControl(const std::string& name, Splitter& c) { splitters_[name] = &c; }
     void addControl(const std::string& name, Grid& c) { grids_[name] = &c; }
+    void addControl(const std::string& name, Label& c) { labels_[name] = &c; }
 
 private:
     friend class FormAccess;
@@ -119,6 +122,7 @@ private:
     std::map<std::string, Timer*> timers_;
     std::map<std::string, Splitter*> splitters_;
     std::map<std::string, Grid*> grids_;
+    std::map<std::string, Label*> labels_;
 };
 
 // The Ui ports' side door: they flip visibility as their windows come and go.
