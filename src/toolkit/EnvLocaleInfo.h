@@ -1,0 +1,18 @@
+#pragma once
+// The locale as the environment names it (LC_ALL, then LC_MEASUREMENT, then
+// LANG): US units for en_US, metric for everything else.
+
+#include <string>
+
+#include "toolkit/LocaleInfo.h"
+
+namespace qv {
+
+class EnvLocaleInfo : public LocaleInfo {
+public:
+    [[nodiscard]] int32_t measurementSystem() const override;
+    // The locale name that decides, or empty.
+    [[nodiscard]] static std::string measurementLocale();
+};
+
+}  // namespace qv

@@ -1,0 +1,15 @@
+#pragma once
+// The locale port: what the user's locale says about units.
+
+#include <cstdint>
+
+namespace qv {
+
+class LocaleInfo {
+public:
+    virtual ~LocaleInfo() = default;
+    // 0 metric, 1 US units.
+    [[nodiscard]] virtual int32_t measurementSystem() const = 0;
+};
+
+}  // namespace qv
