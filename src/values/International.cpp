@@ -1,0 +1,13 @@
+#include "values/International.h"
+
+#include "toolkit/EnvLocaleInfo.h"
+#include "toolkit/Ports.h"
+
+namespace qv {
+
+int32_t getLocalMeasurement() {
+    if (ports().locale) return ports().locale->measurementSystem();
+    return EnvLocaleInfo().measurementSystem();
+}
+
+}  // namespace qv
