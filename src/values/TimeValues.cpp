@@ -11,6 +11,7 @@
 #include "toolkit/Ui.h"
 #include "values/Convert.h"
 #include "values/DateTimeFormatter.h"
+#include "values/TextChars.h"
 
 namespace qv {
 
@@ -32,23 +33,6 @@ std::string upperAscii(std::string s) {
     for (char& c : s)
         if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
     return s;
-}
-
-bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
-
-size_t charCount(std::string_view s) {
-    size_t n = 0;
-    for (char c : s) n += !isContinuation(c);
-    return n;
-}
-
-// Byte offset of the character at a 0-based index, npos beyond the end.
-size_t byteOfChar(std::string_view s, size_t index) {
-    for (size_t i = 0; i < s.size(); ++i) {
-        if (isContinuation(s[i])) continue;
-        if (index-- == 0) return i;
-    }
-    return npos;
 }
 
 bool endsWith(std::string_view s, std::string_view tail) {
@@ -192,7 +176,7 @@ bool countUnreadable(const std::string& s) {
 
 bool checkTypedTime(const std::string& text) {
     std::string s = text;
-    if (charCount(s) == 8) s = s.substr(0, byteOfChar(s, 5));  // "hh:mm:ss" reads as "hh:mm"
+    if (charCount(s) == 8) s = s.substr(0, charOffset(s, 5));  // "hh:mm:ss" reads as "hh:mm"
     if (s.empty()) return false;
     s = upperAscii(trimSpaces(s));
     if (isColonForm(s) || colonIsLast(s) || !countUnreadable(s)) return true;
@@ -206,7 +190,7 @@ bool checkTypedTime(const std::string& text) {
 bool checkDayCell(const std::string& s, size_t dayAt) {
     const int64_t start = checkedLong(int64_t{toLong(s.substr(0, dayAt))} * 1440);
     if (start < 1) throw Failure(err::InvalidProcedureCall, "Invalid procedure call or argument");
-    const size_t from = byteOfChar(s, static_cast<size_t>(start - 1));
+    const size_t from = charOffset(s, static_cast<size_t>(start - 1));
     const size_t colon = from == npos ? npos : s.find(':', from);
     if (colon == npos || colon <= dayAt)
         throw Failure(err::InvalidProcedureCall, "Invalid procedure call or argument");

@@ -1,0 +1,38 @@
+#include "values/SettingsSection.h"
+
+#include "store/clsSettings.h"
+#include "toolkit/Failure.h"
+#include "values/Convert.h"
+
+namespace qv {
+
+SettingsSection::SettingsSection(clsSettings& reader, const std::string& section) {
+    reader.SetSQL(query(section));
+    reader.GetData(rs_);
+    if (!rs_) throw Failure(err::ObjectRequired, "Object variable not set: section " + section);
+}
+
+SettingsSection::~SettingsSection() {
+    try {
+        if (rs_ && rs_->State() == adStateOpen) rs_->Close();
+    } catch (...) {
+        // Closing a read set must not turn into a second failure.
+    }
+}
+
+std::string SettingsSection::query(const std::string& section) {
+    return "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = " + sqlLiteral(section) +
+           " ORDER BY setSettingDisplayOrd";
+}
+
+std::string SettingsSection::valueOrDefault() {
+    std::string value = text("SetSettingValue");
+    return value.empty() ? text("SetDefault") : value;
+}
+
+int32_t SettingsSection::windowValue() {
+    const int32_t value = toLong(text("SetSettingValue"));
+    return value >= 0 ? value : toLong(text("SetDefault"));
+}
+
+}  // namespace qv

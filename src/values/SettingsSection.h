@@ -1,0 +1,39 @@
+#pragma once
+// One section of the table Settings, opened through a clsSettings reader in
+// the display order and closed when this object goes, so that each
+// section's result is closed before the next is opened.
+
+#include <cstdint>
+#include <string>
+
+#include "store/Recordset.h"
+
+namespace qv {
+
+class clsSettings;
+
+class SettingsSection {
+public:
+    // Throws Failure(err::ObjectRequired) when the reader could not open it.
+    SettingsSection(clsSettings& reader, const std::string& section);
+    ~SettingsSection();
+    SettingsSection(const SettingsSection&) = delete;
+    SettingsSection& operator=(const SettingsSection&) = delete;
+
+    // The query every settings read runs.
+    [[nodiscard]] static std::string query(const std::string& section);
+
+    [[nodiscard]] Recordset& rows() { return *rs_; }
+    [[nodiscard]] int32_t count() { return rs_->RecordCount(); }
+    // A field of the current row as text; null reads as empty.
+    [[nodiscard]] std::string text(const char* field) { return rs_->Fields(field).value().toText(); }
+    // The value sections' rule: the value when it has any length, else the default.
+    [[nodiscard]] std::string valueOrDefault();
+    // The window sections' rule: the value as a number when 0 or more, else the default.
+    [[nodiscard]] int32_t windowValue();
+
+private:
+    RecordsetPtr rs_;
+};
+
+}  // namespace qv
