@@ -1,0 +1,86 @@
+#include "toolkit/Sheet.h"
+
+#include <gtest/gtest.h>
+
+#include "toolkit/Failure.h"
+
+namespace qv {
+
+TEST(Sheet, OptionsAreExclusiveAndClicksReachTheHandlers) {
+    Sheet s("smtImp", "Importance");
+    for (int i = 0; i < 3; ++i) s.add(ttOption, "IMP-" + std::to_string(i), "Level " + std::to_string(i));
+    std::vector<std::string> clicks;
+    s.Click.connect([&](Tool& t) { clicks.push_back(t.key()); });
+
+    s.click(s.tool("IMP-1"));
+    s.click(s.tool("IMP-2"));
+    EXPECT_FALSE(s.tool("IMP-1").checked());
+    EXPECT_TRUE(s.tool("IMP-2").checked());
+    s.click(s.tool("IMP-2"));  // the chosen one again: still a click
+    EXPECT_TRUE(s.tool("IMP-2").checked());
+    EXPECT_EQ(clicks, (std::vector<std::string>{"IMP-1", "IMP-2", "IMP-2"}));
+
+    // A disabled tool or sheet swallows the click.
+    s.tool("IMP-0").setEnabled(false);
+    s.click(s.tool("IMP-0"));
+    s.setEnabled(false);
+    s.click(s.tool("IMP-1"));
+    EXPECT_EQ(clicks.size(), 3u);
+    EXPECT_TRUE(s.tool("IMP-2").checked());
+}
+
+TEST(Sheet, ChecksToggleAndTextEditsRaiseChange) {
+    Sheet s("smtOther");
+    Tool& current = s.add(ttCheck, "ISCURRENT", "Current Task");
+    Tool& time = s.add(ttTextBox, "DEADTIME", "Time:");
+    int clicks = 0;
+    std::vector<std::string> changes;
+    s.Click.connect([&](Tool&) { ++clicks; });
+    s.Change.connect([&](Tool& t, const std::string& prop) { changes.push_back(t.key() + "." + prop); });
+
+    s.click(current);
+    EXPECT_TRUE(current.checked());
+    s.click(current);
+    EXPECT_FALSE(current.checked());
+    EXPECT_EQ(clicks, 2);
+
+    s.userEdit(time, "9:30");
+    s.userEdit(time, "9:30");  // same text: no change
+    time.setText("");          // the program's change is a change too
+    EXPECT_EQ(changes, (std::vector<std::string>{"DEADTIME.Value", "DEADTIME.Value"}));
+}
+
+TEST(Sheet, LookupsByKeyAndPositionFailClearly) {
+    Sheet s("smtOther");
+    Tool& status = s.add(ttButton, "STATUS");
+    status.addItem(ttOption, "STATUS-0", "Completed");
+    s.add(ttSeparator);
+    s.add(ttButton, "CLEARDEAD", "Clear Deadline");
+
+    EXPECT_EQ(s.count(), 3);
+    EXPECT_EQ(&s.at(1), &status);
+    EXPECT_EQ(s.at(3).key(), "CLEARDEAD");
+    EXPECT_EQ(s.lastAdded()->key(), "CLEARDEAD");
+    EXPECT_TRUE(s.hasKey("STATUS-0")) << "sub-items are found by key too";
+    EXPECT_FALSE(s.hasKey(""));
+    EXPECT_EQ(s.find("NOPE"), nullptr);
+
+    try {
+        (void)s.at(4);
+        FAIL();
+    } catch (const Failure& f) {
+        EXPECT_EQ(f.number(), 35600);
+    }
+    EXPECT_THROW((void)s.at(0), Failure);
+    EXPECT_THROW((void)s.tool("NOPE"), Failure);
+    EXPECT_THROW(s.add(ttButton, "STATUS"), Failure) << "keys are unique";
+    EXPECT_THROW(s.remove("NOPE"), Failure);
+
+    s.remove("CLEARDEAD");
+    EXPECT_EQ(s.lastAdded(), nullptr);
+    EXPECT_EQ(s.count(), 2);
+    s.removeAll();
+    EXPECT_EQ(s.count(), 0);
+}
+
+}  // namespace qv
