@@ -82,6 +82,11 @@ void Sheet::click(Tool& t) {
     Click(t);
 }
 
+void Sheet::doubleClick(Tool& t) {
+    if (!enabled_ || !t.enabled()) return;
+    DblClick(t);
+}
+
 void Sheet::userEdit(Tool& t, const std::string& text) {
     if (!enabled_ || !t.enabled()) return;
     t.setText(text);

@@ -45,8 +45,11 @@ public:
     // of a drop-down list chooses it: the list's text becomes its caption.
     void click(Tool& t);
     void userEdit(Tool& t, const std::string& text);
+    // A double click on a tool, after the click that went before it.
+    void doubleClick(Tool& t);
 
     Event<Tool&> Click;
+    Event<Tool&> DblClick;
     Event<Tool&, const std::string&> Change;  // tool, property name ("Value")
     Event<> Changed;                           // anything a view shows changed
 
