@@ -1,0 +1,99 @@
+#include "values/TaskUtil.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "toolkit/Failure.h"
+#include "toolkit/FakeClock.h"
+#include "toolkit/LocaleInfo.h"
+#include "toolkit/Ports.h"
+#include "toolkit/ScriptedUi.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/Timer.h"
+#include "values/International.h"
+
+namespace qv {
+
+TEST(TaskUtil, ColourTexts) {
+    EXPECT_EQ(LongToRGB(65535, ","), "255,255,0");
+    EXPECT_EQ(LongToRGB(0x0A00FF, ";"), "255;0;10");
+    EXPECT_EQ(RGBToHex("255,0,10", ","), "FF00A") << "only a 0 part is padded";
+    EXPECT_EQ(RGBToHex("1;2;3;4", ";"), "123");
+    EXPECT_EQ(LongToHex(255), "FF0000");
+    EXPECT_EQ(LongToHex(0), "000000");
+    EXPECT_THROW((void)RGBToHex("255,0", ","), Failure);
+    EXPECT_THROW((void)RGBToHex("red,0,0", ","), Failure);
+    EXPECT_THROW((void)RGBToHex("1,2,3", ""), Failure);
+}
+
+TEST(TaskUtil, TextAndListHelpers) {
+    EXPECT_EQ(ZapAmps("R&D"), "R+D");
+    EXPECT_EQ(ZapAmps("&&x&"), "++x+");
+
+    Sheet s("smtOther");
+    Tool& status = s.add(ttButton, "STATUS");
+    status.addItem(ttOption, "STATUS-0", "Completed");
+    Tool& defined = status.addItem(ttOption, "STATUS-1", "Defined");
+    status.setText("Defined");
+    EXPECT_EQ(GetItemSelected(status), &defined);
+    status.setText("defined");
+    EXPECT_EQ(GetItemSelected(status), nullptr);
+}
+
+class SubDelayTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        saved_ = ports();
+        ports().clock = &clock_;
+        ports().ui = &ui_;
+    }
+    void TearDown() override { ports() = saved_; }
+    FakeClock clock_;
+    ScriptedUi ui_;
+    Ports saved_;
+};
+
+TEST_F(SubDelayTest, EndsOnTheFakeClockAndAtMidnight) {
+    Timer t;
+    int ticks = 0;
+    t.Tick.connect([&] { ++ticks; });
+    t.setInterval(500);
+    t.setEnabled(true);
+    const uint32_t t0 = clock_.tickCount();
+    subDelay(2.0f);
+    EXPECT_GE(clock_.tickCount() - t0, 2000u);
+    EXPECT_LT(clock_.tickCount() - t0, 2100u);
+    EXPECT_EQ(ticks, 4) << "events flow while waiting";
+
+    // Starting a second before midnight, the wait ends once the day turns.
+    clock_.setNow(45306.0 + 86399.0 / 86400.0);
+    const uint32_t t1 = clock_.tickCount();
+    subDelay(30.0f);
+    EXPECT_LE(clock_.tickCount() - t1, 1100u);
+    EXPECT_LT(clock_.secondsSinceMidnight(), 1.0);
+}
+
+TEST(International, MeasurementFromThePortOrTheEnvironment) {
+    struct Us : LocaleInfo {
+        int32_t measurementSystem() const override { return 1; }
+    } us;
+    const Ports saved = ports();
+    ports().locale = &us;
+    EXPECT_EQ(getLocalMeasurement(), 1);
+    ports().locale = nullptr;
+
+    const char* old = std::getenv("LC_ALL");
+    const std::string keep = old ? old : "";
+    setenv("LC_ALL", "en_US.UTF-8", 1);
+    EXPECT_EQ(getLocalMeasurement(), 1);
+    setenv("LC_ALL", "en_GB.UTF-8", 1);
+    EXPECT_EQ(getLocalMeasurement(), 0);
+    if (old)
+        setenv("LC_ALL", keep.c_str(), 1);
+    else
+        unsetenv("LC_ALL");
+    ports() = saved;
+}
+
+}  // namespace qv
