@@ -1,0 +1,27 @@
+#pragma once
+// The contents of one form's window. A dialog's view composes the generic
+// pieces (sheets, editors, date boxes, splitters) that show its model.
+
+#include <QSize>
+#include <QWidget>
+
+namespace qv {
+
+class Form;
+
+class FormView : public QWidget {
+    Q_OBJECT
+public:
+    FormView(Form& form, QWidget* parent = nullptr) : QWidget(parent), form_(form) {}
+
+    [[nodiscard]] Form& form() const { return form_; }
+    // The smallest window, in twips, the dialog allows; empty for no limit.
+    [[nodiscard]] virtual QSize minimumTwips() const { return {}; }
+    // A size to open at when the form gives none, in twips.
+    [[nodiscard]] virtual QSize defaultTwips() const { return {6000, 4000}; }
+
+private:
+    Form& form_;
+};
+
+}  // namespace qv

@@ -1,0 +1,106 @@
+#include "kit/FormWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QVBoxLayout>
+
+#include "kit/FormView.h"
+#include "kit/Twips.h"
+#include "toolkit/Form.h"
+
+namespace qv {
+
+namespace {
+int32_t keyCodeOf(int qtKey) {
+    switch (qtKey) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return vbKeyReturn;
+    case Qt::Key_Escape: return vbKeyEscape;
+    case Qt::Key_F1: return vbKeyF1;
+    default: return 0;
+    }
+}
+}  // namespace
+
+FormWindow::FormWindow(Form& form, FormView* view, QWidget* parent)
+    : QDialog(parent), form_(form), view_(view) {
+    setObjectName(QString::fromStdString(form.name()));
+    setSizeGripEnabled(true);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(view);
+    if (const QSize min = view->minimumTwips(); !min.isEmpty()) setMinimumSize(Twips::toPixels(min, this));
+    changed_ = EventLink(form.Changed, [this] { followModel(); });
+    setWindowTitle(QString::fromStdString(form.caption()));
+    applyGeometry();
+}
+
+FormWindow::~FormWindow() = default;
+
+void FormWindow::finish() {
+    finished_ = true;
+    changed_.reset();
+    QDialog::done(0);
+}
+
+void FormWindow::reject() {
+    // Only the model closes the window.
+}
+
+void FormWindow::closeEvent(QCloseEvent* e) {
+    e->ignore();
+    if (!finished_) form_.requestClose();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* e) {
+    const int32_t code = keyCodeOf(e->key());
+    if (code == 0) {
+        QDialog::keyPressEvent(e);
+        return;
+    }
+    e->accept();
+    form_.keyDown(code, 0);
+}
+
+void FormWindow::followModel() {
+    setWindowTitle(QString::fromStdString(form_.caption()));
+    applyGeometry();
+}
+
+void FormWindow::applyGeometry() {
+    const Form::Geometry& g = form_.geometry();
+    applying_ = true;
+    if (g.state == vbMaximized) {
+        setWindowState(windowState() | Qt::WindowMaximized);
+    } else {
+        const QSize size = g.width > 0 && g.height > 0 ? QSize(g.width, g.height) : view_->defaultTwips();
+        const QSize px = Twips::toPixels(size, this).expandedTo(minimumSize());
+        if (px != this->size()) resize(px);
+        const QPoint at(Twips::toPixels(g.left, this), Twips::toPixels(g.top, this));
+        if (g.width > 0 && at != pos()) move(at);
+    }
+    applying_ = false;
+}
+
+void FormWindow::reportGeometry() {
+    if (applying_ || finished_ || !isVisible()) return;
+    Form::Geometry g;
+    g.left = Twips::fromPixels(x(), this);
+    g.top = Twips::fromPixels(y(), this);
+    g.width = Twips::fromPixels(width(), this);
+    g.height = Twips::fromPixels(height(), this);
+    g.state = isMaximized() ? vbMaximized : (isMinimized() ? vbMinimized : vbNormal);
+    form_.userResized(g);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* e) {
+    QDialog::resizeEvent(e);
+    reportGeometry();
+}
+
+void FormWindow::moveEvent(QMoveEvent* e) {
+    QDialog::moveEvent(e);
+    reportGeometry();
+}
+
+}  // namespace qv

@@ -1,0 +1,179 @@
+#include "kit/SheetWidget.h"
+
+#include <exception>
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QTimer>
+
+#include "kit/ToolCell.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/Tool.h"
+
+namespace qv {
+
+SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent)
+    : QFrame(parent), sheet_(sheet), style_(style) {
+    setObjectName(QString::fromStdString(sheet.name()));
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    if (style_ == Style::List) {
+        setFrameShape(QFrame::StyledPanel);
+        buildTitle(outer);
+        scroll_ = new QScrollArea(this);
+        scroll_->setWidgetResizable(true);
+        scroll_->setFrameShape(QFrame::NoFrame);
+        scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        outer->addWidget(scroll_, 1);
+    }
+    changed_ = EventLink(sheet.Changed, [this] { modelChanged(); });
+    rebuild();
+}
+
+SheetWidget::~SheetWidget() = default;
+
+void SheetWidget::buildTitle(QBoxLayout* outer) {
+    title_ = new QLabel(this);
+    title_->setObjectName(objectName() + ".title");
+    title_->setTextFormat(Qt::PlainText);
+    title_->setAutoFillBackground(true);
+    title_->setBackgroundRole(QPalette::Mid);
+    title_->setForegroundRole(QPalette::BrightText);
+    title_->setContentsMargins(6, 3, 6, 3);
+    QFont f = title_->font();
+    f.setBold(true);
+    title_->setFont(f);
+    outer->addWidget(title_);
+}
+
+void SheetWidget::setHostMaker(HostMaker maker) {
+    hostMaker_ = std::move(maker);
+    shape_.clear();  // hosted cells must be made again
+    rebuild();
+}
+
+QWidget* SheetWidget::makeHosted(const std::string& controlName, QWidget* parent) const {
+    if (hostMaker_)
+        if (QWidget* w = hostMaker_(controlName, parent)) return w;
+    auto* missing = new QLabel(parent);
+    missing->setObjectName(QString::fromStdString(controlName));
+    return missing;
+}
+
+void SheetWidget::modelChanged() { scheduleSync(); }
+
+void SheetWidget::scheduleSync() {
+    if (pending_) return;
+    pending_ = true;
+    QTimer::singleShot(0, this, [this] { syncNow(); });
+}
+
+void SheetWidget::syncNow() {
+    pending_ = false;
+    if (shapeOfModel() != shape_) rebuild();
+    else refresh();
+}
+
+std::vector<SheetWidget::Shape> SheetWidget::shapeOfModel() const {
+    std::vector<Shape> shape;
+    shape.reserve(sheet_.tools().size());
+    for (const auto& t : sheet_.tools()) shape.push_back({t.get(), t->type(), t->items().size(), t->hostedControl()});
+    return shape;
+}
+
+bool SheetWidget::owns(const Tool* tool) const {
+    for (const auto& t : sheet_.tools()) {
+        if (t.get() == tool) return true;
+        for (const auto& i : t->items())
+            if (i.get() == tool) return true;
+    }
+    return false;
+}
+
+void SheetWidget::forward(Tool* tool, const std::function<void(Tool&)>& action) {
+    if (!owns(tool)) return;
+    try {
+        action(*tool);
+    } catch (const std::exception& e) {
+        // The logic traps its own faults; anything left must not end the program.
+        qWarning("qv: %s: %s", sheet_.name().c_str(), e.what());
+    }
+    scheduleSync();
+}
+
+void SheetWidget::rebuild() {
+    cells_.clear();
+    if (body_) {
+        // The old cells may be inside their own signal: let them go later.
+        body_->hide();
+        body_->deleteLater();
+    }
+    body_ = buildBody();
+    if (scroll_) {
+        if (QWidget* old = scroll_->takeWidget(); old && old != body_) old->setParent(nullptr);
+        scroll_->setWidget(body_);
+    } else {
+        layout()->addWidget(body_);
+    }
+    shape_ = shapeOfModel();
+    refresh();
+}
+
+QWidget* SheetWidget::buildBody() {
+    auto* body = new QWidget;
+    body->setObjectName(objectName() + ".body");
+    const bool toolbar = style_ == Style::Toolbar;
+    QBoxLayout* column = toolbar ? static_cast<QBoxLayout*>(new QHBoxLayout(body)) : new QVBoxLayout(body);
+    column->setContentsMargins(2, 2, 2, 2);
+    column->setSpacing(toolbar ? 2 : 0);
+    QBoxLayout* iconRow = nullptr;
+    int position = 0;
+    for (const auto& t : sheet_.tools()) {
+        auto* cell = new ToolCell(*t, *this, ++position, body);
+        cells_.push_back(cell);
+        placeCell(column, iconRow, cell);
+    }
+    if (!toolbar) column->addStretch(1);
+    return body;
+}
+
+void SheetWidget::placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell) {
+    const bool toolbar = style_ == Style::Toolbar;
+    if (cell->kind() == ToolCell::Kind::Spacer && toolbar) {
+        column->addWidget(cell, 1);
+        iconRow = nullptr;
+        return;
+    }
+    // Consecutive image-only tools share one line.
+    if (cell->kind() == ToolCell::Kind::Icon && !toolbar) {
+        if (!iconRow) {
+            iconRow = new QHBoxLayout;
+            iconRow->setSpacing(2);
+            column->addLayout(iconRow);
+            iconRow->addStretch(1);
+        }
+        iconRow->insertWidget(iconRow->count() - 1, cell);
+        return;
+    }
+    iconRow = nullptr;
+    column->addWidget(cell);
+}
+
+void SheetWidget::refresh() {
+    if (title_) {
+        title_->setText(QString::fromStdString(sheet_.title()));
+        title_->setVisible(!sheet_.title().empty());
+    }
+    if (body_) body_->setEnabled(sheet_.enabled());
+    for (ToolCell* c : cells_) c->refresh();
+}
+
+ToolCell* SheetWidget::cellOf(const std::string& key) const {
+    for (ToolCell* c : cells_)
+        if (c->tool()->key() == key) return c;
+    return nullptr;
+}
+
+}  // namespace qv

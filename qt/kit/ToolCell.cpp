@@ -1,0 +1,281 @@
+#include "kit/ToolCell.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+#include "kit/SheetWidget.h"
+#include "kit/ToolIcons.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/Tool.h"
+
+namespace qv {
+
+namespace {
+
+QString qs(const std::string& s) { return QString::fromStdString(s); }
+
+bool hasOptionItems(const Tool& t) {
+    for (const auto& i : t.items())
+        if (i->type() == ttOption) return true;
+    return false;
+}
+
+// A colour as the model keeps it: red in the low byte.
+QColor colorOf(int32_t rgb) { return {rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16) & 0xFF}; }
+
+}  // namespace
+
+ToolCell::Kind ToolCell::kindOf(const Tool& t, bool toolbar) {
+    if (!t.hostedControl().empty()) return Kind::Hosted;
+    if (hasOptionItems(t)) return Kind::List;
+    if (!t.items().empty()) return Kind::MenuButton;
+    switch (t.type()) {
+    case ttButton: return t.caption().empty() && !t.image().empty() ? Kind::Icon : Kind::Button;
+    case ttCheck: return Kind::Check;
+    case ttOption: return Kind::Option;
+    case ttTextBox: return Kind::TextBox;
+    case ttHeading: return Kind::Heading;
+    case ttSeparator: return toolbar ? Kind::Spacer : Kind::Separator;
+    case ttDropSeparator: return toolbar ? Kind::Spacer : Kind::Separator;
+    default: return t.caption().empty() && !t.image().empty() ? Kind::Icon : Kind::Label;
+    }
+}
+
+QString ToolCell::objectNameOf(const Tool& t, int position) {
+    const QString sheet = t.sheet() ? qs(t.sheet()->name()) : QString();
+    return sheet + "." + (t.key().empty() ? QStringLiteral("#%1").arg(position) : qs(t.key()));
+}
+
+ToolCell::ToolCell(Tool& tool, SheetWidget& owner, int position, QWidget* parent)
+    : QWidget(parent),
+      tool_(&tool),
+      owner_(owner),
+      kind_(kindOf(tool, owner.style() == SheetWidget::Style::Toolbar)),
+      toolbar_(owner.style() == SheetWidget::Style::Toolbar) {
+    setObjectName(objectNameOf(tool, position));
+    build();
+    refresh();
+}
+
+void ToolCell::build() {
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(toolbar_ ? 1 : 4, 1, 4, 1);
+    row->setSpacing(4);
+    icon_ = new QLabel(this);
+    icon_->setObjectName(objectName() + ".image");
+    row->addWidget(icon_);
+    switch (kind_) {
+    case Kind::Button: main_ = makeButton(); break;
+    case Kind::MenuButton: main_ = makeMenuButton(); break;
+    case Kind::Check: main_ = makeCheck(); break;
+    case Kind::Option: main_ = makeOption(); break;
+    case Kind::List: main_ = makeLabeled(makeList()); break;
+    case Kind::TextBox: main_ = makeTextBox(); break;
+    case Kind::Heading: main_ = makeHeading(); break;
+    case Kind::Separator: main_ = makeSeparator(); break;
+    case Kind::Spacer: main_ = new QWidget(this); break;
+    case Kind::Label: main_ = makeLabel(); break;
+    case Kind::Hosted: main_ = makeLabeled(owner_.makeHosted(tool_->hostedControl(), this)); break;
+    case Kind::Icon: main_ = makeIcon(); break;
+    }
+    if (main_) row->addWidget(main_, 1);
+    if (kind_ == Kind::Spacer) row->addStretch(1);
+}
+
+QWidget* ToolCell::makeButton() {
+    auto* b = new QToolButton(this);
+    b->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    b->setAutoRaise(!toolbar_);
+    if (!toolbar_) b->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(b, &QToolButton::clicked, this, [this] { owner_.forward(tool_, [](Tool& t) { t.sheet()->click(t); }); });
+    return b;
+}
+
+QWidget* ToolCell::makeMenuButton() {
+    auto* b = qobject_cast<QToolButton*>(makeButton());
+    menu_ = new QMenu(b);
+    b->setMenu(menu_);
+    // A list with a key is a split button: its face acts too.
+    const bool split = !tool_->key().empty() && tool_->type() != ttDropSeparator;
+    b->setPopupMode(split ? QToolButton::MenuButtonPopup : QToolButton::InstantPopup);
+    if (!split) disconnect(b, &QToolButton::clicked, this, nullptr);
+    fillMenu();
+    return b;
+}
+
+void ToolCell::fillMenu() {
+    for (const auto& item : tool_->items()) {
+        if (item->type() == ttDropSeparator || item->type() == ttSeparator) {
+            menu_->addSeparator();
+            continue;
+        }
+        Tool* sub = item.get();
+        QAction* a = menu_->addAction(qs(sub->caption()));
+        a->setObjectName(qs(sub->key()));
+        connect(a, &QAction::triggered, this, [this, sub] { owner_.forward(sub, [](Tool& t) { t.sheet()->click(t); }); });
+    }
+}
+
+QWidget* ToolCell::makeCheck() {
+    auto* c = new QCheckBox(this);
+    connect(c, &QCheckBox::clicked, this, [this] { owner_.forward(tool_, [](Tool& t) { t.sheet()->click(t); }); });
+    return c;
+}
+
+QWidget* ToolCell::makeOption() {
+    auto* r = new QRadioButton(this);
+    r->setAutoExclusive(false);
+    connect(r, &QRadioButton::clicked, this, [this] { owner_.forward(tool_, [](Tool& t) { t.sheet()->click(t); }); });
+    return r;
+}
+
+QWidget* ToolCell::makeList() {
+    auto* box = new QComboBox(this);
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    connect(box, &QComboBox::activated, this, [this, box](int) {
+        const std::string text = box->currentText().toStdString();
+        owner_.forward(tool_, [&text](Tool& t) { t.sheet()->userEdit(t, text); });
+    });
+    connect(box->lineEdit(), &QLineEdit::editingFinished, this, [this, box] {
+        const std::string text = box->currentText().toStdString();
+        owner_.forward(tool_, [&text](Tool& t) { t.sheet()->userEdit(t, text); });
+    });
+    return box;
+}
+
+QWidget* ToolCell::makeLabeled(QWidget* field) {
+    auto* holder = new QWidget(this);
+    auto* row = new QHBoxLayout(holder);
+    row->setContentsMargins(0, 0, 0, 0);
+    caption_ = new QLabel(holder);
+    caption_->setBuddy(field);
+    row->addWidget(caption_);
+    if (field) {
+        field->setParent(holder);
+        row->addWidget(field, 1);
+    }
+    return holder;
+}
+
+QWidget* ToolCell::makeTextBox() {
+    auto* edit = new QLineEdit(this);
+    edit->setObjectName(objectName() + ".edit");
+    connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+        const std::string s = text.toStdString();
+        owner_.forward(tool_, [&s](Tool& t) { t.sheet()->userEdit(t, s); });
+    });
+    return makeLabeled(edit);
+}
+
+QWidget* ToolCell::makeHeading() {
+    auto* l = new QLabel(this);
+    l->setTextFormat(Qt::PlainText);
+    l->setAutoFillBackground(true);
+    l->setBackgroundRole(QPalette::AlternateBase);
+    l->setContentsMargins(2, 2, 2, 2);
+    return l;
+}
+
+QWidget* ToolCell::makeSeparator() {
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+QWidget* ToolCell::makeLabel() {
+    auto* l = new QLabel(this);
+    l->setTextFormat(Qt::PlainText);
+    l->setWordWrap(!toolbar_);
+    return l;
+}
+
+QWidget* ToolCell::makeIcon() { return nullptr; }
+
+void ToolCell::refresh() {
+    const Tool& t = *tool_;
+    setVisible(t.visible());
+    setEnabled(t.enabled());
+    setToolTip(qs(t.tip()));
+    const QPixmap pm = ToolIcons::pixmap(t.image());
+    icon_->setPixmap(pm);
+    icon_->setVisible(!pm.isNull() && kind_ != Kind::Button && kind_ != Kind::MenuButton);
+    const QString caption = qs(t.caption());
+    if (caption_) caption_->setText(caption);
+    if (auto* b = qobject_cast<QAbstractButton*>(main_)) {
+        QSignalBlocker block(b);
+        b->setText(caption);
+        if (kind_ == Kind::Button || kind_ == Kind::MenuButton) b->setIcon(ToolIcons::icon(t.image()));
+        if (kind_ == Kind::Check || kind_ == Kind::Option) b->setChecked(t.checked());
+    }
+    if (auto* l = qobject_cast<QLabel*>(main_)) {
+        const bool both = !t.caption().empty() && !t.text().empty();
+        l->setText(both ? caption + " " + qs(t.text()) : caption + qs(t.text()));
+    }
+    if (kind_ == Kind::TextBox) {
+        auto* edit = findChild<QLineEdit*>();
+        if (edit && edit->text() != qs(t.text())) {
+            QSignalBlocker block(edit);
+            edit->setText(qs(t.text()));
+        }
+    }
+    if (kind_ == Kind::List) refreshList();
+    if (kind_ == Kind::MenuButton) refreshMenu();
+    refreshLook(main_ ? main_ : this);
+    if (caption_) refreshLook(caption_);
+}
+
+void ToolCell::refreshList() {
+    auto* box = findChild<QComboBox*>();
+    if (!box) return;
+    QSignalBlocker block(box);
+    const auto& items = tool_->items();
+    if (box->count() != static_cast<int>(items.size())) {
+        box->clear();
+        for (const auto& i : items) box->addItem(qs(i->caption()));
+    } else {
+        for (int n = 0; n < box->count(); ++n) box->setItemText(n, qs(items[static_cast<size_t>(n)]->caption()));
+    }
+    if (box->currentText() != qs(tool_->text())) box->setEditText(qs(tool_->text()));
+}
+
+void ToolCell::refreshMenu() {
+    const auto actions = menu_->actions();
+    int n = 0;
+    for (const auto& item : tool_->items()) {
+        if (n >= actions.size()) break;
+        QAction* a = actions[n++];
+        if (a->isSeparator()) continue;
+        a->setText(qs(item->caption()));
+        a->setEnabled(item->enabled());
+        a->setVisible(item->visible());
+        a->setToolTip(qs(item->tip()));
+        a->setIcon(ToolIcons::icon(item->image()));
+    }
+}
+
+void ToolCell::refreshLook(QWidget* w) {
+    QFont f = w->font();
+    const bool bold = tool_->bold() || kind_ == Kind::Heading;
+    if (f.bold() != bold) {
+        f.setBold(bold);
+        w->setFont(f);
+    }
+    QPalette p = w->palette();
+    const QColor fore = tool_->foreColor() ? colorOf(tool_->foreColor()) : palette().color(QPalette::WindowText);
+    for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Active, role, fore);
+    for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Inactive, role, fore);
+    w->setPalette(p);
+}
+
+}  // namespace qv
