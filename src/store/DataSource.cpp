@@ -12,7 +12,7 @@ namespace qv {
 DataSource::DataSource(const char* className, OpenSpec bindingSpec)
     : className_(className), bindingSpec_(bindingSpec) {}
 
-DataSource::~DataSource() { setTempErrReport(nullptr); }
+DataSource::~DataSource() = default;
 
 void DataSource::SetSQL(const std::string& SQL) { sql_ = SQL; }
 
@@ -38,7 +38,10 @@ void DataSource::Class_GetDataMember(const std::string& DataMember, RecordsetPtr
 void DataSource::setTempErrReport(Reporter* reporter) {
     if (tempErrReport_) tempErrReport_->GotErrExitNow.disconnect(relayId_);
     tempErrReport_ = reporter;
-    if (reporter) relayId_ = reporter->GotErrExitNow.connect([this] { GotErrExitNow(); });
+    if (!reporter) return;
+    relayId_ = reporter->GotErrExitNow.connect([weak = std::weak_ptr<DataSource*>(self_)] {
+        if (auto alive = weak.lock()) (*alive)->GotErrExitNow();
+    });
 }
 
 bool DataSource::openSet(const char* procedure, const std::string& sql, const OpenSpec& spec,

@@ -4,6 +4,7 @@
 // that reports a failure with the class name as module.
 
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "store/ErrorPath.h"
@@ -38,6 +39,7 @@ public:
     void Class_GetDataMember(const std::string& DataMember, RecordsetPtr& Data);
 
     [[nodiscard]] Reporter* tempErrReport() const { return tempErrReport_; }
+    // The reporter whose GotErrExitNow this class relays as its own.
     void setTempErrReport(Reporter* reporter);
 
     // Relayed from the reporter: the session must end.
@@ -69,6 +71,9 @@ private:
     RecordsetPtr rs_;
     Reporter* tempErrReport_ = nullptr;
     std::size_t relayId_ = 0;
+    // The relay holds only a weak hold on this object, so a reporter that
+    // outlives the class never calls into a destroyed one.
+    std::shared_ptr<DataSource*> self_ = std::make_shared<DataSource*>(this);
 };
 
 }  // namespace qv

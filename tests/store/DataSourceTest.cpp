@@ -15,9 +15,9 @@ namespace {
 constexpr const char* kStatusQuery =
     "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = 'Status' ORDER BY setSettingDisplayOrd";
 
-class StoreWithoutSettings : public TestEnv {
+class StoreNotYetLocated : public TestEnv {
 protected:
-    StoreWithoutSettings() : TestEnv({.store = true, .settingsFile = false}) {}
+    StoreNotYetLocated() : TestEnv({.store = true, .settingsFile = false}) {}
 };
 
 class NotAStore : public TestEnv {
@@ -25,7 +25,7 @@ protected:
     NotAStore() : TestEnv({.store = false, .settingsFile = true}) {}
 };
 
-TEST_F(StoreWithoutSettings, TheStoreIsLocatedOnlyWhileConnStringIsEmpty) {
+TEST_F(StoreNotYetLocated, TheStoreIsLocatedOnlyWhileConnStringIsEmpty) {
     g().ConnString = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + storePath() + ";";
     clsStatusList statuses;
     statuses.SetSQL(kStatusQuery);
