@@ -1,0 +1,100 @@
+#include "dialogs/add/frmAddKeyword.h"
+
+#include "store/ErrorPath.h"
+#include "store/clsNewKeyword.h"
+#include "values/CCreateGuid.h"
+
+namespace qv {
+
+namespace {
+constexpr const char* kModule = "frmAddKeyword";
+}  // namespace
+
+frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, "Keyword"}) {
+    smtKeywords.add(ttTextBox, "CATEGORY", "Category:").setTip("Pick a category or enter a new category");
+    smtKeywords.add(ttTextBox, "KEYWORD", "Keyword:").setTip("Enter the new Keyword");
+    smtAction.add(ttButton, "HELP", "&Help");
+    smtAction.add(ttButton, "OK", "D&one").setTip("Close this dialog box");
+    smtAction.add(ttButton, "ADD", "A&dd").setTip("Add this Keyword");
+    addControl("smtKeywords", smtKeywords);
+    addControl("lblCreate", lblCreate);
+}
+
+// A category exists only while a keyword names it.
+bool frmAddKeyword::LoadCategories() {
+    return trap(kModule, "LoadCategories", [&] {
+        clsNewKeyword source;
+        source.SetSQL(
+            "SELECT Keywords.keySubject From Keywords GROUP BY Keywords.keySubject ORDER BY "
+            "Keywords.keySubject");
+        RecordsetPtr rs;
+        if (!source.GetData(rs)) return false;
+        Tool& list = field("CATEGORY");
+        list.clearItems();
+        for (; !rs->EOF_(); rs->MoveNext())
+            list.addItem(ttOption, {}, rs->Fields("keySubject").value().toText());
+        return true;
+    });
+}
+
+// The message for an empty category speaks of a Keyword; kept.
+bool frmAddKeyword::validateNew() {
+    return trap(kModule, "validateNew", [&] {
+        const char* problem = nullptr;
+        if (field("KEYWORD").text().empty()) problem = "Enter a new Keyword.";
+        else if (field("CATEGORY").text().empty()) problem = "Select or enter a new Keyword.";
+        if (problem) {
+            info(problem);
+            return false;
+        }
+        const auto exists = keywordExists();
+        if (exists.value_or(false)) {
+            info("That Keyword already exists.");
+            field("KEYWORD").setText({});
+        }
+        return exists == false;
+    });
+}
+
+// Exact comparison, letter case included: unlike projects.
+std::optional<bool> frmAddKeyword::keywordExists() const {
+    clsNewKeyword source;
+    source.SetSQL("SELECT * from Keywords ORDER BY keyKeyword");
+    RecordsetPtr rs;
+    if (!source.GetData(rs)) return std::nullopt;
+    const std::string keyword = trimSpaces(field("KEYWORD").text());
+    const std::string category = trimSpaces(field("CATEGORY").text());
+    for (; !rs->EOF_(); rs->MoveNext())
+        if (rs->Fields("keyKeyword").value().toText() == keyword &&
+            rs->Fields("keySubject").value().toText() == category)
+            return true;
+    return false;
+}
+
+// UpdateBatch alone writes the new row here, with no Update before it.
+bool frmAddKeyword::createNewKeyword() {
+    return trap(kModule, "createNewKeyword", [&] {
+        const std::string key = CCreateGuid::guid();
+        clsNewKeyword source;
+        source.SetSQL("SELECT * From Keywords ORDER BY Keywords.keySubject");
+        RecordsetPtr rs;
+        if (!source.GetData(rs)) return false;
+        rs->AddNew();
+        rs->Fields("keySubject") = trimSpaces(field("CATEGORY").text());
+        rs->Fields("keyKeyword") = trimSpaces(field("KEYWORD").text());
+        rs->Fields("keyGUIDID") = key;
+        rs->UpdateBatch(adAffectAllChapters);
+        return true;
+    });
+}
+
+std::string frmAddKeyword::addedName() const { return field("KEYWORD").text(); }
+
+// The category keeps its text, so a run of keywords goes into one
+// category; the list itself is not reloaded until the next opening.
+void frmAddKeyword::afterAdd(AddTrigger) {
+    KeywordAdded();
+    field("KEYWORD").setText({});
+}
+
+}  // namespace qv
