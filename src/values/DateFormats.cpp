@@ -19,10 +19,8 @@ constexpr const char* kModule = "m_Task";
 std::string dayLettersAt(std::initializer_list<std::size_t> positions) {
     const std::string& letters = g().DateFormats[datefmt::DayLetters];
     std::string out;
-    for (std::size_t p : positions) {
-        if (!out.empty()) out += ',';
-        out += midChars(letters, p, 1);
-    }
+    for (std::size_t p : positions) out += midChars(letters, p, 1) + ",";
+    out.pop_back();
     return out;
 }
 
