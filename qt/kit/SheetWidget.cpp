@@ -72,8 +72,13 @@ void SheetWidget::scheduleSync() {
 
 void SheetWidget::syncNow() {
     pending_ = false;
-    if (shapeOfModel() != shape_) rebuild();
-    else refresh();
+    if (shapeOfModel() == shape_) {
+        refresh();
+        return;
+    }
+    // A cell whose action is still on the stack must outlive it: rebuild
+    // once the action has returned.
+    if (forwarding_ == 0) rebuild();
 }
 
 std::vector<SheetWidget::Shape> SheetWidget::shapeOfModel() const {
@@ -94,12 +99,14 @@ bool SheetWidget::owns(const Tool* tool) const {
 
 void SheetWidget::forward(Tool* tool, const std::function<void(Tool&)>& action) {
     if (!owns(tool)) return;
+    ++forwarding_;
     try {
         action(*tool);
     } catch (const std::exception& e) {
         // The logic traps its own faults; anything left must not end the program.
         qWarning("qv: %s: %s", sheet_.name().c_str(), e.what());
     }
+    --forwarding_;
     scheduleSync();
 }
 
@@ -170,7 +177,8 @@ void SheetWidget::refresh() {
     for (ToolCell* c : cells_) c->refresh();
 }
 
-ToolCell* SheetWidget::cellOf(const std::string& key) const {
+ToolCell* SheetWidget::cellOf(const std::string& key) {
+    if (pending_ || shapeOfModel() != shape_) syncNow();
     for (ToolCell* c : cells_)
         if (c->tool()->key() == key) return c;
     return nullptr;

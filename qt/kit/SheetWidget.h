@@ -40,7 +40,7 @@ public:
     // Applies pending model changes now.
     void syncNow();
     // The cell of a tool, or nullptr (tests and views).
-    [[nodiscard]] ToolCell* cellOf(const std::string& key) const;
+    [[nodiscard]] ToolCell* cellOf(const std::string& key);
 
     // Runs a user action on a tool that is still in the sheet, then follows
     // whatever the model did. A stale tool is ignored.
@@ -75,6 +75,7 @@ private:
     std::vector<ToolCell*> cells_;
     std::vector<Shape> shape_;
     bool pending_ = false;
+    int forwarding_ = 0;
 };
 
 }  // namespace qv

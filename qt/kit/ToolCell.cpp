@@ -1,6 +1,7 @@
 #include "kit/ToolCell.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -86,7 +87,10 @@ void ToolCell::build() {
     case Kind::Hosted: main_ = makeLabeled(owner_.makeHosted(tool_->hostedControl(), this)); break;
     case Kind::Icon: main_ = makeIcon(); break;
     }
-    if (main_) row->addWidget(main_, 1);
+    if (main_) {
+        row->addWidget(main_, 1);
+        main_->installEventFilter(this);
+    }
     if (kind_ == Kind::Spacer) row->addStretch(1);
 }
 
@@ -142,9 +146,10 @@ QWidget* ToolCell::makeList() {
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(box, &QComboBox::activated, this, [this, box](int) {
-        const std::string text = box->currentText().toStdString();
-        owner_.forward(tool_, [&text](Tool& t) { t.sheet()->userEdit(t, text); });
+    connect(box, &QComboBox::activated, this, [this](int index) {
+        const auto& items = tool_->items();
+        if (index < 0 || index >= static_cast<int>(items.size())) return;
+        owner_.forward(items[static_cast<size_t>(index)].get(), [](Tool& t) { t.sheet()->click(t); });
     });
     connect(box->lineEdit(), &QLineEdit::editingFinished, this, [this, box] {
         const std::string text = box->currentText().toStdString();
@@ -201,6 +206,12 @@ QWidget* ToolCell::makeLabel() {
 }
 
 QWidget* ToolCell::makeIcon() { return nullptr; }
+
+bool ToolCell::eventFilter(QObject* watched, QEvent* e) {
+    if (watched == main_ && e->type() == QEvent::MouseButtonDblClick)
+        owner_.forward(tool_, [](Tool& t) { t.sheet()->doubleClick(t); });
+    return QWidget::eventFilter(watched, e);
+}
 
 void ToolCell::refresh() {
     const Tool& t = *tool_;

@@ -30,6 +30,9 @@ public:
     [[nodiscard]] static Kind kindOf(const Tool& tool, bool toolbar);
     [[nodiscard]] static QString objectNameOf(const Tool& tool, int position);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* e) override;
+
 private:
     void build();
     QWidget* makeButton();
