@@ -37,7 +37,8 @@ CColorDialog::CColorDialog() {
 
 void CColorDialog::checkOwner(int32_t owner) {
     if (owner > 0 && !WindowHandles::isWindow(owner))
-        throw Failure(kInvalidWindowHandle, "Invalid window handle", std::string(kProjectName) + ".CColorDialog");
+        throw Failure(kInvalidWindowHandle, "Invalid window handle",
+                      std::string(kProjectName) + ".CColorDialog");
 }
 
 void CColorDialog::Init(int32_t flags, const std::string& title, int32_t owner, int32_t initialColor) {
@@ -64,19 +65,29 @@ bool CColorDialog::Show() {
     return true;
 }
 
-bool CColorDialog::CenterDialog() const { return hook().center; }
+bool CColorDialog::CenterDialog() const {
+    return hook().center;
+}
 
-void CColorDialog::setCenterDialog(bool center) { hook().center = center; }
+void CColorDialog::setCenterDialog(bool center) {
+    hook().center = center;
+}
 
-std::string CColorDialog::DialogTitle() const { return hook().title; }
+std::string CColorDialog::DialogTitle() const {
+    return hook().title;
+}
 
-void CColorDialog::setDialogTitle(const std::string& title) { hook().title = title; }
+void CColorDialog::setDialogTitle(const std::string& title) {
+    hook().title = title;
+}
 
 void CColorDialog::setHWndOwner(int32_t owner) {
     checkOwner(owner);
     owner_ = owner;
 }
 
-const std::array<int32_t, 16>& CColorDialog::customColors() { return customs(); }
+const std::array<int32_t, 16>& CColorDialog::customColors() {
+    return customs();
+}
 
 }  // namespace qv

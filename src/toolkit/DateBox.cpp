@@ -65,9 +65,12 @@ std::string DateBox::text() const {
     const std::string year = std::to_string(d.year);
     const std::string& s = separator_;
     switch (dateStyle_) {
-        case DayMonthYear: return day + s + month + s + year;
-        case YearMonthDay: return year + s + month + s + day;
-        default: return month + s + day + s + year;
+        case DayMonthYear:
+            return day + s + month + s + year;
+        case YearMonthDay:
+            return year + s + month + s + day;
+        default:
+            return month + s + day + s + year;
     }
 }
 

@@ -8,7 +8,9 @@ namespace {
 // Days from 1970-01-01 to 1899-12-30.
 constexpr int64_t kEpochShift = 25569;
 
-int64_t floorDiv(int64_t a, int64_t b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
+int64_t floorDiv(int64_t a, int64_t b) {
+    return a / b - ((a % b != 0) && ((a < 0) != (b < 0)));
+}
 
 // Howard Hinnant's days-from-civil, counted from 1970-01-01.
 int64_t daysFromCivil(int64_t y, int64_t m, int64_t d) {

@@ -12,6 +12,8 @@ std::string EnvLocaleInfo::measurementLocale() {
     return {};
 }
 
-int32_t EnvLocaleInfo::measurementSystem() const { return measurementLocale().rfind("en_US", 0) == 0 ? 1 : 0; }
+int32_t EnvLocaleInfo::measurementSystem() const {
+    return measurementLocale().rfind("en_US", 0) == 0 ? 1 : 0;
+}
 
 }  // namespace qv

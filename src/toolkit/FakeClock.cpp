@@ -13,23 +13,31 @@ constexpr int64_t kMsPerDay = 86400000;
 
 FakeClock::FakeClock() : FakeClock(45306.375) {}
 
-FakeClock::FakeClock(double startSerial) { setNow(startSerial); }
+FakeClock::FakeClock(double startSerial) {
+    setNow(startSerial);
+}
 
-double FakeClock::now() const { return static_cast<double>(msSinceEpoch_) / kMsPerDay; }
+double FakeClock::now() const {
+    return static_cast<double>(msSinceEpoch_) / kMsPerDay;
+}
 
 double FakeClock::secondsSinceMidnight() const {
     const int64_t ms = ((msSinceEpoch_ % kMsPerDay) + kMsPerDay) % kMsPerDay;
     return static_cast<double>(ms) / 1000.0;
 }
 
-void FakeClock::setNow(double serial) { msSinceEpoch_ = std::llround(serial * kMsPerDay); }
+void FakeClock::setNow(double serial) {
+    msSinceEpoch_ = std::llround(serial * kMsPerDay);
+}
 
 void FakeClock::step(int64_t ms) {
     msSinceEpoch_ += ms;
     tick_ += static_cast<uint32_t>(ms);
 }
 
-bool FakeClock::installed() const { return ports().clock == this; }
+bool FakeClock::installed() const {
+    return ports().clock == this;
+}
 
 void FakeClock::advance(int64_t ms) {
     if (ms <= 0) return;

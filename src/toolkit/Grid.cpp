@@ -15,7 +15,8 @@ void Grid::checkRow(int32_t row) const {
 
 void Grid::checkColumn(int32_t column) const {
     if (column < 0 || column >= columnCount())
-        throw Failure(err::SubscriptOutOfRange, "Column " + std::to_string(column) + " is not in grid " + name_);
+        throw Failure(err::SubscriptOutOfRange,
+                      "Column " + std::to_string(column) + " is not in grid " + name_);
 }
 
 int32_t Grid::addColumn(const std::string& caption, const std::string& field, int32_t width) {

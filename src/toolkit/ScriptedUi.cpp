@@ -9,18 +9,27 @@
 
 namespace qv {
 
-void ScriptedUi::queueAnswer(int32_t answer) { answers_.push_back(answer); }
+void ScriptedUi::queueAnswer(int32_t answer) {
+    answers_.push_back(answer);
+}
 
-void ScriptedUi::queueAction(Action action) { actions_.push_back(std::move(action)); }
+void ScriptedUi::queueAction(Action action) {
+    actions_.push_back(std::move(action));
+}
 
 const ScriptedUi::Message& ScriptedUi::lastMessage() const {
     if (messages_.empty()) throw std::logic_error("no message box was shown");
     return messages_.back();
 }
 
+void ScriptedUi::scriptError(const std::string& what) {
+    scriptErrors_.push_back(what);
+    throw std::logic_error(what);
+}
+
 int32_t ScriptedUi::msgBox(const std::string& text, int32_t style, const std::string& title) {
     messages_.push_back({text, style, title});
-    if (answers_.empty()) throw std::logic_error("no answer queued for the message \"" + text + "\"");
+    if (answers_.empty()) scriptError("no answer queued for the message \"" + text + "\"");
     const int32_t answer = answers_.front();
     answers_.pop_front();
     return answer;
@@ -28,7 +37,7 @@ int32_t ScriptedUi::msgBox(const std::string& text, int32_t style, const std::st
 
 void ScriptedUi::runUntilHidden(Form& form) {
     while (form.visible()) {
-        if (actions_.empty()) throw std::logic_error("script ran out while " + form.name() + " is shown");
+        if (actions_.empty()) scriptError("script ran out while " + form.name() + " is shown");
         Action next = std::move(actions_.front());
         actions_.pop_front();
         next();
@@ -55,7 +64,9 @@ void ScriptedUi::show(Form& form) {
     FormAccess::setVisible(form, true);
 }
 
-void ScriptedUi::hide(Form& form) { FormAccess::setVisible(form, false); }
+void ScriptedUi::hide(Form& form) {
+    FormAccess::setVisible(form, false);
+}
 
 void ScriptedUi::doEvents() {
     if (auto* fake = dynamic_cast<FakeClock*>(ports().clock); fake && doEventsStepMs_ > 0)

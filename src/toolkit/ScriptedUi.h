@@ -40,6 +40,8 @@ public:
     [[nodiscard]] const std::vector<std::string>& shown() const { return shown_; }
     [[nodiscard]] bool waitCursor() const { return waitCursor_; }
     [[nodiscard]] int32_t modalDepth() const { return depth_; }
+    // Every script error thrown, kept even when a handler's trap swallowed it.
+    [[nodiscard]] const std::vector<std::string>& scriptErrors() const { return scriptErrors_; }
 
     // How far doEvents moves the installed clock when it is a FakeClock, so
     // that clock loops such as subDelay end. 0 keeps time still.
@@ -54,11 +56,13 @@ public:
 
 private:
     void runUntilHidden(Form& form);
+    [[noreturn]] void scriptError(const std::string& what);
 
     std::deque<int32_t> answers_;
     std::deque<Action> actions_;
     std::vector<Message> messages_;
     std::vector<std::string> shown_;
+    std::vector<std::string> scriptErrors_;
     bool waitCursor_ = false;
     int32_t depth_ = 0;
     int64_t doEventsStepMs_ = 10;

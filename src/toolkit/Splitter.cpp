@@ -23,11 +23,14 @@ Splitter::Pane& Splitter::addPane(const std::string& name, int32_t width, int32_
 
 const Splitter::Pane& Splitter::pane(int32_t index) const {
     if (index < 0 || index >= paneCount())
-        throw Failure(err::SubscriptOutOfRange, "Pane " + std::to_string(index) + " is not in splitter " + name_);
+        throw Failure(err::SubscriptOutOfRange,
+                      "Pane " + std::to_string(index) + " is not in splitter " + name_);
     return panes_[static_cast<std::size_t>(index)];
 }
 
-Splitter::Pane& Splitter::at(int32_t index) { return const_cast<Pane&>(std::as_const(*this).pane(index)); }
+Splitter::Pane& Splitter::at(int32_t index) {
+    return const_cast<Pane&>(std::as_const(*this).pane(index));
+}
 
 const Splitter::Pane* Splitter::paneNamed(const std::string& name) const {
     for (const auto& p : panes_)
@@ -52,7 +55,9 @@ void Splitter::setPaneMinimum(int32_t index, int32_t minWidth, int32_t minHeight
     Changed();
 }
 
-void Splitter::setPaneMinWidth(int32_t index, int32_t minWidth) { setPaneMinimum(index, minWidth, pane(index).minHeight); }
+void Splitter::setPaneMinWidth(int32_t index, int32_t minWidth) {
+    setPaneMinimum(index, minWidth, pane(index).minHeight);
+}
 
 void Splitter::setPaneMinHeight(int32_t index, int32_t minHeight) {
     setPaneMinimum(index, pane(index).minWidth, minHeight);

@@ -62,10 +62,10 @@ public:
     // The user finished dragging a bar, as the view reports it.
     void userEndDrag() { EndDrag(); }
 
-    Event<> EndDrag;        // the user finished dragging
-    Event<> AboutToSave;    // views put their arrangement in the blob now
-    Event<> LayoutLoaded;   // views restore the arrangement from the blob
-    Event<> Changed;        // sizes or limits changed
+    Event<> EndDrag;       // the user finished dragging
+    Event<> AboutToSave;   // views put their arrangement in the blob now
+    Event<> LayoutLoaded;  // views restore the arrangement from the blob
+    Event<> Changed;       // sizes or limits changed
 
 private:
     Pane& at(int32_t index);

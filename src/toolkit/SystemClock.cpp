@@ -42,6 +42,8 @@ uint32_t SystemClock::tickCount() const {
     return static_cast<uint32_t>(ms);
 }
 
-double SystemClock::secondsSinceMidnight() const { return secondsOfDay(localNow()); }
+double SystemClock::secondsSinceMidnight() const {
+    return secondsOfDay(localNow());
+}
 
 }  // namespace qv

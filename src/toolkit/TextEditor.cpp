@@ -12,7 +12,12 @@ struct Entity {
     const char* text;
 };
 constexpr std::array<Entity, 6> kEntities{{
-    {"&amp;", "&"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&#39;", "'"}, {"&nbsp;", " "},
+    {"&amp;", "&"},
+    {"&lt;", "<"},
+    {"&gt;", ">"},
+    {"&quot;", "\""},
+    {"&#39;", "'"},
+    {"&nbsp;", " "},
 }};
 
 std::string lowerTagName(const std::string& tag) {
@@ -74,13 +79,25 @@ std::string TextEditor::htmlOf(const std::string& plain) {
     std::string out;
     for (char c : plain) {
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            case '\r': break;
-            case '\n': out += "<br>"; break;
-            default: out += c;
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            case '\r':
+                break;
+            case '\n':
+                out += "<br>";
+                break;
+            default:
+                out += c;
         }
     }
     return out;
@@ -95,9 +112,13 @@ void TextEditor::apply(const std::string& text, const std::string& rich) {
     if (textChanged) Change();
 }
 
-void TextEditor::setText(const std::string& t) { apply(t, htmlOf(t)); }
+void TextEditor::setText(const std::string& t) {
+    apply(t, htmlOf(t));
+}
 
-void TextEditor::setRichText(const std::string& html) { apply(plainOf(html), html); }
+void TextEditor::setRichText(const std::string& html) {
+    apply(plainOf(html), html);
+}
 
 void TextEditor::userEdit(const std::string& t) {
     if (readOnly_ || locked_) return;

@@ -25,7 +25,9 @@ std::optional<uint32_t> tickNow() {
 }
 }  // namespace
 
-Timer::Timer(std::string name) : name_(std::move(name)) { registry().push_back(this); }
+Timer::Timer(std::string name) : name_(std::move(name)) {
+    registry().push_back(this);
+}
 
 Timer::~Timer() {
     auto& r = registry();
@@ -82,7 +84,8 @@ std::optional<int64_t> Timer::msUntilNextDue() {
 
 int32_t Timer::activeCount() {
     const auto& r = registry();
-    return static_cast<int32_t>(std::count_if(r.begin(), r.end(), [](const Timer* t) { return t->waiting(); }));
+    return static_cast<int32_t>(
+        std::count_if(r.begin(), r.end(), [](const Timer* t) { return t->waiting(); }));
 }
 
 }  // namespace qv

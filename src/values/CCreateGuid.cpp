@@ -30,7 +30,8 @@ std::string CCreateGuid::PadHex(uint64_t value, int width, bool addDash) {
         hex.insert(hex.begin(), digits[value & 0xF]);
         value >>= 4;
     } while (value != 0);
-    if (static_cast<int>(hex.size()) < width) hex.insert(0, static_cast<std::size_t>(width) - hex.size(), '0');
+    if (static_cast<int>(hex.size()) < width)
+        hex.insert(0, static_cast<std::size_t>(width) - hex.size(), '0');
     if (addDash) hex += '-';
     return hex;
 }
@@ -41,10 +42,11 @@ std::string CCreateGuid::guid() {
         hi = engine()();
         lo = engine()();
     } catch (const std::exception&) {
-        throw Failure(kObjectError, "CCreateGuid component failure", std::string(kProjectName) + ".CCreateGuid");
+        throw Failure(kObjectError, "CCreateGuid component failure",
+                      std::string(kProjectName) + ".CCreateGuid");
     }
-    hi = (hi & ~uint64_t{0xF000}) | 0x4000;                           // version 4
-    lo = (lo & ~(uint64_t{0xC0} << 56)) | (uint64_t{0x80} << 56);      // RFC 4122 variant
+    hi = (hi & ~uint64_t{0xF000}) | 0x4000;                        // version 4
+    lo = (lo & ~(uint64_t{0xC0} << 56)) | (uint64_t{0x80} << 56);  // RFC 4122 variant
     std::string out = PadHex(hi >> 32, 8, true);
     out += PadHex((hi >> 16) & 0xFFFF, 4, true);
     out += PadHex(hi & 0xFFFF, 4, true);

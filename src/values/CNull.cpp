@@ -8,12 +8,18 @@
 namespace qv {
 
 namespace {
-[[noreturn]] void overflow() { throw Failure(err::Overflow, "Overflow"); }
+[[noreturn]] void overflow() {
+    throw Failure(err::Overflow, "Overflow");
+}
 }  // namespace
 
-Value CNull::NVL(const Value& v, const Value& def) { return v.isNull() ? def : v; }
+Value CNull::NVL(const Value& v, const Value& def) {
+    return v.isNull() ? def : v;
+}
 
-bool CNull::NVLBool(const Value& v, bool def) { return v.isNull() ? def : v.toBool(); }
+bool CNull::NVLBool(const Value& v, bool def) {
+    return v.isNull() ? def : v.toBool();
+}
 
 uint8_t CNull::NVLByte(const Value& v, uint8_t def) {
     if (v.isNull()) return def;
@@ -30,16 +36,28 @@ int64_t CNull::NVLCur(const Value& v, int64_t def) {
     return static_cast<int64_t>(scaled);
 }
 
-Date CNull::NVLDate(const Value& v, Date def) { return v.isNull() ? def : v.toDate(); }
+Date CNull::NVLDate(const Value& v, Date def) {
+    return v.isNull() ? def : v.toDate();
+}
 
-double CNull::NVLDbl(const Value& v, double def) { return v.isNull() ? def : v.toDouble(); }
+double CNull::NVLDbl(const Value& v, double def) {
+    return v.isNull() ? def : v.toDouble();
+}
 
-int16_t CNull::NVLInt(const Value& v, int16_t def) { return v.isNull() ? def : v.toInt16(); }
+int16_t CNull::NVLInt(const Value& v, int16_t def) {
+    return v.isNull() ? def : v.toInt16();
+}
 
-int32_t CNull::NVLLng(const Value& v, int32_t def) { return v.isNull() ? def : v.toInt32(); }
+int32_t CNull::NVLLng(const Value& v, int32_t def) {
+    return v.isNull() ? def : v.toInt32();
+}
 
-float CNull::NVLSng(const Value& v, float def) { return v.isNull() ? def : toSingleFloat(v.toDouble()); }
+float CNull::NVLSng(const Value& v, float def) {
+    return v.isNull() ? def : toSingleFloat(v.toDouble());
+}
 
-std::string CNull::NVLStr(const Value& v, const std::string& def) { return v.isNull() ? def : v.toText(); }
+std::string CNull::NVLStr(const Value& v, const std::string& def) {
+    return v.isNull() ? def : v.toText();
+}
 
 }  // namespace qv

@@ -47,11 +47,15 @@ std::string LongToRGB(int32_t color, const std::string& separator) {
 
 std::string RGBToHex(const std::string& rgb, const std::string& separator) {
     const auto parts = split(rgb, separator);
-    if (parts.size() < 3) throw Failure(err::SubscriptOutOfRange, "Subscript out of range: \"" + rgb + "\" holds no three colour parts");
+    if (parts.size() < 3)
+        throw Failure(err::SubscriptOutOfRange,
+                      "Subscript out of range: \"" + rgb + "\" holds no three colour parts");
     return hexPart(parts[0]) + hexPart(parts[1]) + hexPart(parts[2]);
 }
 
-std::string LongToHex(int32_t color) { return RGBToHex(LongToRGB(color, ","), ","); }
+std::string LongToHex(int32_t color) {
+    return RGBToHex(LongToRGB(color, ","), ",");
+}
 
 std::string ZapAmps(const std::string& text) {
     std::string out = text;

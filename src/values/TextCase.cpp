@@ -9,7 +9,9 @@ bool evenOddPair(char32_t c) {
            (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) || (c >= 0x4D0 && c <= 0x52F);
 }
 // Pairs where the capital is odd and the small letter even.
-bool oddEvenPair(char32_t c) { return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E); }
+bool oddEvenPair(char32_t c) {
+    return (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+}
 
 char32_t upperGreek(char32_t c) {
     if (c == 0x3C2) return 0x3A3;  // final sigma

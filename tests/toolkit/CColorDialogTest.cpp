@@ -1,10 +1,9 @@
-#include "toolkit/CColorDialog.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 
 #include "ToolkitFixture.h"
+#include "toolkit/CColorDialog.h"
 #include "toolkit/ColorChooser.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"

@@ -33,7 +33,8 @@ TEST(DateBox, TextFollowsTheFormatSettings) {
     DateBox box;
     box.setValue(DaySerial::fromCivil(2024, 3, 5));
     EXPECT_EQ(box.text(), "3/5/2024");
-    box.setMonthNames("January,February,March,April,May,June,July,August,September,October,November,December");
+    box.setMonthNames(
+        "January,February,March,April,May,June,July,August,September,October,November,December");
     box.setSeparator("-");
     box.setDateStyle(DateBox::DayMonthYear);
     box.setMonthStyle(DateBox::MonthShortName);

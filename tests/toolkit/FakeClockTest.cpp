@@ -1,7 +1,6 @@
-#include "toolkit/FakeClock.h"
-
 #include <gtest/gtest.h>
 
+#include "toolkit/FakeClock.h"
 #include "toolkit/SystemClock.h"
 
 namespace qv {

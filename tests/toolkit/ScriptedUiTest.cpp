@@ -1,5 +1,3 @@
-#include "toolkit/ScriptedUi.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,6 +5,7 @@
 
 #include "ToolkitFixture.h"
 #include "toolkit/Form.h"
+#include "toolkit/ScriptedUi.h"
 
 namespace qv {
 
@@ -80,6 +79,7 @@ TEST_F(ScriptedUiTest, RunningOutOfActionsThrowsInsteadOfHanging) {
     } catch (const std::logic_error& e) {
         EXPECT_STREQ(e.what(), "script ran out while frmTask3 is shown");
     }
+    EXPECT_EQ(ui_.scriptErrors(), (std::vector<std::string>{"script ran out while frmTask3 is shown"}));
     EXPECT_EQ(ui_.modalDepth(), 0);
     form->unload();
 }

@@ -1,8 +1,7 @@
-#include "toolkit/Sheet.h"
-
 #include <gtest/gtest.h>
 
 #include "toolkit/Failure.h"
+#include "toolkit/Sheet.h"
 
 namespace qv {
 

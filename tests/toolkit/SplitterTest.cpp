@@ -1,11 +1,10 @@
-#include "toolkit/Splitter.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <string>
 
 #include "toolkit/Failure.h"
+#include "toolkit/Splitter.h"
 
 namespace qv {
 

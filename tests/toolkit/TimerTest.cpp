@@ -1,10 +1,9 @@
-#include "toolkit/Timer.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
 
 #include "ToolkitFixture.h"
+#include "toolkit/Timer.h"
 
 namespace qv {
 

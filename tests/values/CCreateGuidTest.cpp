@@ -1,8 +1,8 @@
-#include "values/CCreateGuid.h"
-
 #include <gtest/gtest.h>
 
 #include <set>
+
+#include "values/CCreateGuid.h"
 
 namespace qv {
 
@@ -15,7 +15,8 @@ TEST(CCreateGuid, ThirtySixUpperHexWithDashesAndUnique) {
             if (k == 8 || k == 13 || k == 18 || k == 23)
                 ASSERT_EQ(g[k], '-') << g;
             else
-                ASSERT_TRUE(std::isdigit(static_cast<unsigned char>(g[k])) || (g[k] >= 'A' && g[k] <= 'F')) << g;
+                ASSERT_TRUE(std::isdigit(static_cast<unsigned char>(g[k])) || (g[k] >= 'A' && g[k] <= 'F'))
+                    << g;
         }
         EXPECT_EQ(g[14], '4') << "version 4";
         seen.insert(g);

@@ -1,8 +1,7 @@
-#include "values/CNull.h"
-
 #include <gtest/gtest.h>
 
 #include "toolkit/Failure.h"
+#include "values/CNull.h"
 
 namespace qv {
 

@@ -1,6 +1,6 @@
-#include "values/CStringBag.h"
-
 #include <gtest/gtest.h>
+
+#include "values/CStringBag.h"
 
 namespace qv {
 

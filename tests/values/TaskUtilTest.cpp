@@ -1,5 +1,3 @@
-#include "values/TaskUtil.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -12,6 +10,7 @@
 #include "toolkit/Sheet.h"
 #include "toolkit/Timer.h"
 #include "values/International.h"
+#include "values/TaskUtil.h"
 
 namespace qv {
 
