@@ -1,0 +1,123 @@
+#include "dialogs/newtask/NewTaskActions.h"
+
+#include "dialogs/newtask/NewTaskFields.h"
+#include "dialogs/newtask/frmTask3.h"
+#include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/TaskPrinter.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/HelpViewer.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+
+namespace qv {
+
+namespace {
+const char* const kCancelQuestion = "Cancel creating the current task?";
+constexpr int32_t kHelpTopic = 600;
+}  // namespace
+
+void NewTaskActions::smtActions_Click(Tool& tool) {
+    const std::string& key = tool.key();
+    if (key == "RESETL") f_.resetLayout();
+    else if (key == "CLEAR") clearAll();
+    else if (key == "HELP") help();
+    else if (key == "PRINT") print(false);
+    else if (key == "PRINTPREVIEW") print(true);
+    else if (key == "PAGESETUP") pageSetup();
+    else if (key == "DONE") closeOrCancel();
+    else if (key == "TC") addToCatalog();
+    else if (key == "QV" || key == "QV2") addToTaskList();
+}
+
+// Enter saves to the task list and always tells NewTask, whatever the status.
+void NewTaskActions::Form_KeyDown(int32_t keyCode) {
+    if (keyCode == vbKeyReturn) {
+        g().TaskMode = 0;
+        f_.PackATask();
+        if (f_.SaveTask()) {
+            f_.NewTask();
+            afterAdd();
+        }
+    } else if (keyCode == vbKeyEscape) {
+        if (dirty() && !DialogMessages::askYesNo(kCancelQuestion)) return;
+        f_.TaskCanceled(g().CurrentTaskGUID);
+    }
+}
+
+// Only the close box asks; the program's own unloads go straight on.
+void NewTaskActions::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
+    if (unloadMode == 0 && dirty() && !DialogMessages::askYesNo(kCancelQuestion)) cancel = true;
+}
+
+// A task born completed reaches the host by its own event.
+void NewTaskActions::addToTaskList() {
+    g().TaskMode = 0;
+    f_.PackATask();
+    const int32_t status = f_.fields().utilStatus();
+    if (!f_.SaveTask()) return;
+    if (status == 0) f_.TaskIsNewButDone();
+    else f_.NewTask();
+    ui().doEvents();
+    afterAdd();
+}
+
+void NewTaskActions::addToCatalog() {
+    g().TaskMode = 5;
+    f_.PackATask();
+    if (!f_.SaveTask()) return;
+    f_.NewTaskCATTask();
+    afterAdd();
+}
+
+void NewTaskActions::afterAdd() {
+    auto& actions = f_.controls().smtActions;
+    for (const char* key : {"QV", "QV2", "TC"}) actions.tool(key).setEnabled(false);
+    actions.tool("DONE").setCaption("D&one");
+}
+
+void NewTaskActions::closeOrCancel() {
+    Tool& done = f_.controls().smtActions.tool("DONE");
+    if (dirty()) {
+        if (!DialogMessages::askYesNo(kCancelQuestion)) return;
+        done.setCaption("Done");
+    }
+    f_.TaskCanceled(g().CurrentTaskGUID);
+}
+
+// No check runs: flags, points and add tools keep their last state.
+void NewTaskActions::clearAll() {
+    auto& c = f_.controls();
+    g().SettingUp = true;
+    for (Sheet* sheet : {&c.smtProj, &c.smtTimeNeeded, &c.smtImp, &c.smtDiff}) SheetPicks::uncheckAll(*sheet);
+    if (Tool* custom = c.smtTimeNeeded.find("CUSTOMTIME")) custom->setText("");
+    c.SpellNotes.setText("");
+    c.spellTask.setText("");
+    SheetPicks::uncheckAll(c.smtKeywords);
+    f_.setCKEditMode(0);
+    g().SettingUp = false;
+}
+
+void NewTaskActions::help() {
+    if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
+}
+
+void NewTaskActions::print(bool preview) {
+    const char* question = preview ? "Print Preview this Task? It may take a moment or two to prepare."
+                                   : "Print this Task? It may take a moment or two to prepare.";
+    if (!DialogMessages::askYesNo(question)) return;
+    if (preview) f_.printer().DoPrintPreview();
+    else f_.printer().DoPrint();
+}
+
+// The page set-up works with the flag raised; it comes down on every path.
+void NewTaskActions::pageSetup() {
+    struct Lower {
+        ~Lower() { g().SettingUp = false; }
+    } lower;
+    f_.printer().PageSetup();
+}
+
+bool NewTaskActions::dirty() const { return f_.controls().smtActions.tool("DONE").caption() == "C&ancel"; }
+
+}  // namespace qv

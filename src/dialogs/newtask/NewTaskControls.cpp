@@ -1,0 +1,73 @@
+#include "dialogs/newtask/NewTaskControls.h"
+
+namespace qv {
+
+NewTaskControls::NewTaskControls() {
+    buildActions();
+    buildOther();
+    buildReady();
+    buildChecklistActions();
+    buildPanes();
+    spellCK.setReadOnly(true);
+    lblTaskSaved.setVisible(false);
+    startTimer.setInterval(500);
+}
+
+void NewTaskControls::buildActions() {
+    auto& s = smtActions;
+    s.add(ttButton, "HELP", "&Help").setTip("Help with New Tasks");
+    Tool& printing = s.add(ttDropSeparator, {}, "Printin&g ");
+    printing.addItem(ttButton, "PRINT", "&Print");
+    printing.addItem(ttButton, "PRINTPREVIEW", "Print Pr&eview");
+    printing.addItem(ttButton, "PAGESETUP", "Page &Setup...");
+    s.add(ttButton, "RESETL", "&Reset").setTip("Reset the layout of this screen");
+    Tool& clear = s.add(ttButton, "CLEAR", "C&lear");
+    clear.setTip("Clear all information");
+    clear.setEnabled(false);
+    s.add(ttSeparator);
+    s.add(ttButton, "DONE", "D&one").setTip("Finished with this screen");
+    Tool& add = s.add(ttButton, "QV2", "A&dd");
+    add.setTip("Add to Quorvel");
+    add.setEnabled(false);
+    add.addItem(ttButton, "TC", "Add to &Task Catalog").setEnabled(false);
+    add.addItem(ttButton, "QV", "Add to &Quorvel").setEnabled(false);
+}
+
+void NewTaskControls::buildOther() {
+    auto& s = smtOther;
+    Tool& done = s.add(ttTextBox, "DATEDONE", "Date Done:");
+    done.setVisible(false);
+    done.setHostedControl("cttheDateDone");
+    s.add(ttTextBox, "STATUS").setText("Defined");
+    s.add(ttCheck, "ISCURRENT", "Current Task");
+    s.add(ttHeading, {}, "DeadLine:");
+    s.add(ttTextBox, "DEADDATE", "Date:");
+    s.add(ttTextBox, "DEADTIME", "Time:");
+    s.add(ttButton, "CLEARDEAD", "Clear Deadline").setTip("Clears the Deadline date and time");
+}
+
+void NewTaskControls::buildReady() {
+    auto& s = smtReady;
+    s.add(ttHeading, {}, "Ready:");
+    for (const char* key : {"DESCFLAG", "PROJECTFLAG", "TIMENEEDEDFLAG", "IMPFLAG", "DIFFFLAG"})
+        s.add(ttButton, key).setImage("BAD");
+    s.add(ttHeading, {}, "Possible Points:");
+    s.add(ttTextBox, "POINTS");
+}
+
+void NewTaskControls::buildChecklistActions() {
+    auto& s = smtCKActions;
+    s.add(ttButton, "NEW", "New");
+    s.add(ttSeparator, "S1");
+    s.add(ttButton, "PICK", "Pick...");
+    s.add(ttSeparator, "S2").setVisible(false);
+    s.add(ttButton, "EDIT", "Edit...").setVisible(false);
+}
+
+void NewTaskControls::buildPanes() {
+    for (const char* name :
+         {"Status", "Project", "Task", "Checklist", "Notes", "Keywords", "Needed", "Imp", "Diff", "Pic", "Actions"})
+        splitTask.addPane(name);
+}
+
+}  // namespace qv

@@ -1,0 +1,214 @@
+#include "dialogs/newtask/NewTaskFields.h"
+
+#include <cmath>
+
+#include "dialogs/newtask/NewTaskControls.h"
+#include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/KeywordSheet.h"
+#include "dialogs/shared/SheetPicks.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsStatusList.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Failure.h"
+#include "values/CCreateGuid.h"
+#include "values/Convert.h"
+#include "values/DateTimeFormatter.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+const char* const kNoProject = "NOPROJECT";
+const char* const kBadTimeNeeded = "Value for Time Needed entered is not recognized as a valid time.";
+const char* const kBadDeadTime = "Deadline time is not a recognized time. Please reenter it.";
+constexpr std::size_t kGuidLength = 36;
+}  // namespace
+
+void NewTaskFields::PackATask() {
+    auto& r = rec_;
+    r.Desc = c_.spellTask.text();
+    r.KeywordList = utilKeywordList();
+    r.IsCurrent = c_.smtOther.tool("ISCURRENT").checked();
+    r.TaskGUID = utilNewTaskGUID();
+    r.CustSortQV = utilCustSortQV();
+    r.CustProj = utilCustProj();
+    if (r.IsCurrent) r.CustCur = utilCustCur();
+    r.Notes = c_.SpellNotes.text();
+    r.TimeNeeded = utilTimeNeeded();
+    r.Imp = utilImp();
+    r.Diff = utilDiff();
+    r.ChecklistKey = checklist.utilChecklistKey;
+    r.HasChecklist = checklist.utilCheckListExists;
+    r.ChecklistName = checklist.utilChecklistName;
+    r.HasNotes = !c_.SpellNotes.text().empty();
+    r.HasKeywords = KeywordCount > 0;
+    r.HasSchedule = false;
+    r.Deadline = c_.ctDeadline.value() > 1.0 ? utilDeadLine() : kNoDate;
+    r.CreatedDate = clock().now();
+    r.LastMod = clock().now();
+    r.Project = utilProjectName();
+    r.ProjectKey = utilProjectKey();
+    r.TaskGUID = utilNewTaskGUID();
+    r.PossPoints = utilPossPoints;
+    r.Status = utilStatus();
+    r.DateDone = c_.ctTheDateDone.value() > 1.0 ? utiltheDateDone() : kNoDate;
+}
+
+int32_t NewTaskFields::utilImp() {
+    imp_ = kNothingChosen;
+    imp_ = SheetPicks::checkedTag(c_.smtImp);
+    return imp_;
+}
+
+void NewTaskFields::setUtilImp(int32_t value) {
+    SheetPicks::checkByTag(c_.smtImp, value);
+    imp_ = value;
+}
+
+int32_t NewTaskFields::utilDiff() {
+    diff_ = kNothingChosen;
+    diff_ = SheetPicks::checkedTag(c_.smtDiff);
+    return diff_;
+}
+
+void NewTaskFields::setUtilDiff(int32_t value) {
+    SheetPicks::checkByTag(c_.smtDiff, value);
+    diff_ = value;
+}
+
+std::string NewTaskFields::utilProjectName() const {
+    const Tool* t = SheetPicks::checkedTool(c_.smtProj);
+    return t ? t->caption() : kNoProject;
+}
+
+std::string NewTaskFields::utilProjectKey() const {
+    const Tool* t = SheetPicks::checkedTool(c_.smtProj);
+    return t ? t->key() : kNoProject;
+}
+
+void NewTaskFields::setUtilProjectKey(const std::string& key) {
+    SheetPicks::uncheckAll(c_.smtProj);
+    SheetPicks::checkByKey(c_.smtProj, key);
+}
+
+int32_t NewTaskFields::utilStatus() {
+    status_ = SheetPicks::listValue(c_.smtOther.tool("STATUS"));
+    return status_;
+}
+
+void NewTaskFields::setUtilStatus(int32_t value) {
+    SheetPicks::setListValue(c_.smtOther.tool("STATUS"), value);
+    status_ = value;
+}
+
+int32_t NewTaskFields::utilTimeNeeded() {
+    int32_t value = SheetPicks::checkedTag(c_.smtTimeNeeded);
+    // A preset tagged 0 counts like no preset.
+    if (value != kNothingChosen && value != 0) return value;
+    Tool* custom = c_.smtTimeNeeded.find("CUSTOMTIME");
+    if (!custom) {
+        DialogMessages::inform(kBadTimeNeeded);
+        return 0;
+    }
+    const std::string text = custom->text();
+    if (IsTime(text)) return FormatCTasTime(text);
+    if (!text.empty()) {
+        DialogMessages::inform(kBadTimeNeeded);
+        custom->setText("");
+    }
+    return value;
+}
+
+// A custom value shows even where a preset matched.
+void NewTaskFields::setUtilTimeNeeded(int32_t minutes) {
+    SheetPicks::checkByTag(c_.smtTimeNeeded, minutes);
+    if (minutes != kNothingChosen)
+        if (Tool* custom = c_.smtTimeNeeded.find("CUSTOMTIME")) custom->setText(SetTimeFormat(minutes));
+}
+
+double NewTaskFields::utilDeadLine() {
+    return std::floor(c_.ctDeadline.value()) + static_cast<double>(utilGetDeadTime());
+}
+
+void NewTaskFields::setUtilDeadLine(double value) {
+    if (value <= kNoDate) {
+        c_.ctDeadline.clear();
+        return;
+    }
+    const double day = std::floor(value);
+    c_.ctDeadline.setValue(day);
+    if (value - day > 0) writeDeadTime(DateTimeFormatter::current().longTime(value - day));
+}
+
+float NewTaskFields::utilGetDeadTime() {
+    const std::string text = c_.smtOther.tool("DEADTIME").text();
+    if (text.empty()) return 0.0f;
+    if (IsTime(text)) {
+        if (auto t = tryToDate(text)) return toSingleFloat(*t);
+    }
+    DialogMessages::inform(kBadDeadTime);
+    writeDeadTime("");
+    return 0.0f;
+}
+
+double NewTaskFields::utiltheDateDone() const { return c_.ctTheDateDone.value(); }
+
+void NewTaskFields::setUtiltheDateDone(double value) {
+    Tool& host = c_.smtOther.tool("DATEDONE");
+    if (value <= kNoDate) {
+        host.setVisible(false);
+        return;
+    }
+    c_.ctTheDateDone.setValue(value);
+    host.setHostedControl("cttheDateDone");
+    host.setVisible(true);
+}
+
+std::string NewTaskFields::utilKeywordList() {
+    keywordList_ = KeywordSheet::bagText(c_.smtKeywords);
+    return keywordList_;
+}
+
+std::string NewTaskFields::utilNewTaskGUID() {
+    auto& s = g();
+    if (s.CurrentTaskGUID.size() != kGuidLength) s.CurrentTaskGUID = CCreateGuid::guid();
+    return s.CurrentTaskGUID;
+}
+
+void NewTaskFields::setUtilNewTaskGUID(const std::string& guid) { g().CurrentTaskGUID = guid; }
+
+int32_t NewTaskFields::countPlusOne(const std::string& query) {
+    clsStatusList list;
+    RecordsetPtr rs;
+    list.SetSQL(query);
+    if (!list.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
+    const int32_t count = rs->RecordCount();
+    rs->Close();
+    return count + 1;
+}
+
+int32_t NewTaskFields::utilCustSortQV() {
+    if (custSortQV_ < 1) custSortQV_ = countPlusOne("SELECT tskGUIDID from TASKS");
+    return custSortQV_;
+}
+
+int32_t NewTaskFields::utilCustCur() {
+    if (custCur_ < 1) custCur_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskCURRENT=TRUE");
+    return custCur_;
+}
+
+int32_t NewTaskFields::utilCustProj() {
+    if (custProj_ < 1)
+        custProj_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskProjectKey = " + sqlLiteral(utilProjectKey(), '"'));
+    return custProj_;
+}
+
+void NewTaskFields::writeDeadTime(const std::string& text) {
+    writingDeadTime_ = true;
+    c_.smtOther.tool("DEADTIME").setText(text);
+    writingDeadTime_ = false;
+}
+
+}  // namespace qv

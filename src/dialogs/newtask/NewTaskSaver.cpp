@@ -1,0 +1,152 @@
+#include "dialogs/newtask/NewTaskSaver.h"
+
+#include <cmath>
+
+#include "dialogs/newtask/NewTaskFields.h"
+#include "dialogs/newtask/frmTask3.h"
+#include "dialogs/shared/KeywordSheet.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsNewTask.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Ports.h"
+#include "values/TaskUtil.h"
+
+namespace qv {
+
+namespace {
+
+constexpr float kBannerSeconds = 0.4f;
+
+// Queries that match nothing (no importance 6 exists): an updatable empty set.
+const char* addQuery(int32_t mode) {
+    switch (mode) {
+        case 0:
+        case 6: return "SELECT * from TASKS WHERE tskImp= 6";
+        case 5: return "SELECT * from TASKSCAT WHERE tskImp= 6";
+        default: return nullptr;
+    }
+}
+
+void resetEditor(TextEditor& editor, const std::string& text, double size) {
+    editor.setText(text);
+    editor.setFontName("Tahoma");
+    editor.setFontSize(size);
+    editor.setFontBold(false);
+}
+
+}  // namespace
+
+bool NewTaskSaver::SaveTask() {
+    if (!f_.ValidateTask()) return false;
+    if (!writeTask() || !writeKeywords()) return false;
+    g().SettingUp = true;
+    showBanner();
+    resetForNext();
+    g().SettingUp = false;
+    f_.ValidateTask();
+    subDelay(kBannerSeconds);
+    f_.controls().lblTaskSaved.setVisible(false);
+    return true;
+}
+
+bool NewTaskSaver::writeTask() {
+    clsNewTask task;
+    RecordsetPtr rs;
+    const int32_t mode = g().TaskMode;
+    if (const char* query = addQuery(mode)) task.SetSQL(query);
+    if (!task.GetData(rs)) return false;
+    rs->AddNew();
+    writeColumns(*rs);
+    writeChecklistLink(*rs, mode == 5);
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    rs->Close();
+    return true;
+}
+
+void NewTaskSaver::writeColumns(Recordset& rs) {
+    NewTaskFields& fields = f_.fields();
+    const TaskRecord& r = fields.record();
+    rs.Fields("tskStatus") = Value(r.Status);
+    // A task born completed is done today, whatever the date box said.
+    const double done = r.Status == 0 ? std::floor(clock().now()) : r.DateDone;
+    rs.Fields("tskDoneDate") = std::lround(done) == 1 ? Value() : Value(Date{done});
+    rs.Fields("tskDesc") = Value(r.Desc);
+    rs.Fields("tskProject") = Value(r.Project);
+    rs.Fields("tskProjectKey") = Value(r.ProjectKey);
+    if (g().TaskMode == 6) rs.Fields("tskTaskCatGUID") = Value(g().TaskCatGUID);
+    rs.Fields("tskDifficulty") = Value(r.Diff);
+    rs.Fields("tskImp") = Value(r.Imp);
+    rs.Fields("tskTimeNeeded") = Value(r.TimeNeeded);
+    rs.Fields("tskCurrent") = Value(r.IsCurrent);
+    rs.Fields("tskHasSchedule") = Value(false);
+    rs.Fields("tskNotes") = Value(r.Notes);
+    rs.Fields("tskHasNotes") = Value(r.HasNotes);
+    rs.Fields("tskCreatedDate") = Value(Date{r.CreatedDate});
+    rs.Fields("tskLastMod") = Value(Date{r.LastMod});
+    rs.Fields("tskGUIDID") = Value(r.TaskGUID);
+    rs.Fields("tskPossPoints") = Value(fields.utilPossPoints);
+    if (r.Deadline > kNoDate) rs.Fields("tskDeadline") = Value(Date{r.Deadline});
+    rs.Fields("tskCustSortQV") = Value(r.CustSortQV);
+    if (r.IsCurrent) rs.Fields("tskCustSortCUR") = Value(r.CustCur);
+    rs.Fields("tskCustSortProj") = Value(r.CustProj);
+    rs.Fields("tskHasChecklist") = Value(r.HasChecklist);
+}
+
+// The two tables name the link column differently; the schema's own names.
+void NewTaskSaver::writeChecklistLink(Recordset& rs, bool catalog) {
+    const int16_t mode = f_.CheckListMode();
+    if (mode != 1 && mode != 2) return;
+    rs.Fields(catalog ? "tskCheckListGUID" : "tskTCheckListGUID") = Value(f_.fields().record().ChecklistKey);
+    if (mode == 1) rs.Fields("tskHasChecklist") = Value(true);
+}
+
+// No transaction joins this to the task row: a failure here leaves the row.
+bool NewTaskSaver::writeKeywords() {
+    clsNewTask links;
+    RecordsetPtr rs;
+    const std::string guid = f_.fields().utilNewTaskGUID();
+    links.SetSQLKey("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(guid));
+    if (!links.GetDataKEY(rs)) return false;
+    const std::string bag = f_.fields().record().KeywordList;
+    const std::string taskText = f_.controls().spellTask.text();
+    for (const auto& t : f_.controls().smtKeywords.tools()) {
+        if (!KeywordSheet::isKeyword(*t) || !KeywordSheet::tickedIn(bag, t->key())) continue;
+        KeywordSheet::addLink(*rs, *t, taskText, guid);
+    }
+    rs->Close();
+    return true;
+}
+
+void NewTaskSaver::showBanner() {
+    Label& banner = f_.controls().lblTaskSaved;
+    banner.setCaption(g().TaskMode == 5 ? "Task added to Task Catalog." : "Task added to Quorvel.");
+    banner.setVisible(true);
+}
+
+// The project, levels, time, keywords and the current box carry over, so
+// a series of like tasks needs only new descriptions.
+void NewTaskSaver::resetForNext() {
+    auto& c = f_.controls();
+    auto& fields = f_.fields();
+    auto& r = fields.record();
+    c.ctDeadline.setValue(1.0);
+    fields.writeDeadTime("");
+    c.smtOther.tool("STATUS").setText(g().StatusList.at(3));
+    r.Deadline = kNoDate;
+    r.Status = 3;
+    g().CurrentTaskGUID.clear();
+    resetEditor(c.spellTask, "", 11);
+    resetEditor(c.spellCK, "(Pick a checklist...)", 10);
+    c.lblCk.setCaption("Checklist");
+    c.lblCk.setAlignment(Label::AlignCenter);
+    r.HasChecklist = false;
+    r.ChecklistKey.clear();
+    fields.checklist.utilCheckListExists = false;
+    resetEditor(c.SpellNotes, "", 8);
+    f_.setCKEditMode(0);
+}
+
+}  // namespace qv
+

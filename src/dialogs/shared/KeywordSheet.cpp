@@ -1,0 +1,89 @@
+#include "dialogs/shared/KeywordSheet.h"
+
+#include "store/Recordset.h"
+#include "store/clsKeywords.h"
+#include "toolkit/Sheet.h"
+#include "values/CStringBag.h"
+
+namespace qv {
+
+namespace {
+const char* const kKeywordsQuery = "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword";
+const char* const kLinksQuery = "SELECT * from TaskKeywords WHERE ktTASKGUID= ";
+}  // namespace
+
+bool KeywordSheet::build(Sheet& sheet) {
+    clsKeywords keywords;
+    RecordsetPtr rs;
+    keywords.SetSQL(kKeywordsQuery);
+    if (!keywords.GetData(rs)) return false;
+    sheet.removeAll();
+    std::string subject;
+    while (!rs->EOF_()) {
+        const std::string rowSubject = rs->Fields("keySubject").value().toText();
+        if (rowSubject != subject) {
+            subject = rowSubject;
+            sheet.add(ttHeading, subject, subject);
+        }
+        sheet.add(ttCheck, rs->Fields("keyGUIDID").value().toText(), rs->Fields("keyKeyword").value().toText());
+        rs->MoveNext();
+    }
+    rs->Close();
+    sheet.add(ttSeparator);
+    sheet.add(ttButton, kNewKeywordKey, "Add Keyword");
+    return true;
+}
+
+std::string KeywordSheet::bagText(const Sheet& sheet) {
+    CStringBag bag;
+    for (const auto& t : sheet.tools()) {
+        if (t->type() == ttSeparator || t->type() == ttHeading || t->key() == kNewKeywordKey) continue;
+        bag.WriteItem(t->key(), t->checked() ? "True" : "False");
+    }
+    return bag.Contents();
+}
+
+bool KeywordSheet::tickedIn(const std::string& bagText, const std::string& key) {
+    CStringBag bag;
+    bag.setContents(bagText);
+    return bag.ReadItem(key) == "True";
+}
+
+int32_t KeywordSheet::countTicked(const Sheet& sheet) {
+    int32_t count = 0;
+    for (const auto& t : sheet.tools())
+        if (t->checked()) ++count;
+    return count;
+}
+
+bool KeywordSheet::isKeyword(const Tool& tool) {
+    return tool.type() != ttHeading && tool.type() != ttButton && !tool.key().empty();
+}
+
+bool KeywordSheet::tickFromLinks(Sheet& sheet, const std::string& taskGUID) {
+    clsKeywords keywords;
+    RecordsetPtr rs;
+    keywords.SetSQL(kLinksQuery + sqlLiteral(taskGUID));
+    if (!keywords.GetData(rs)) return false;
+    const bool anyRow = rs->RecordCount() > 0;
+    for (const auto& t : sheet.tools()) {
+        if (!anyRow) break;
+        for (rs->MoveFirst(); !rs->EOF_(); rs->MoveNext())
+            if (rs->Fields("ktKEYGUID").value().toText() == t->key()) t->setChecked(true);
+    }
+    rs->Close();
+    return true;
+}
+
+void KeywordSheet::addLink(Recordset& rs, const Tool& keyword, const std::string& taskText,
+                           const std::string& taskGUID) {
+    rs.AddNew();
+    rs.Fields("ktKeyword") = Value(keyword.caption());
+    rs.Fields("ktTask") = Value(taskText + "");
+    rs.Fields("ktKEYGUID") = Value(keyword.key());
+    rs.Fields("ktTASKGUID") = Value(taskGUID);
+    rs.Update();
+    rs.UpdateBatch(adAffectAllChapters);
+}
+
+}  // namespace qv

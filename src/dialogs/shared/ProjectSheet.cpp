@@ -1,0 +1,86 @@
+#include "dialogs/shared/ProjectSheet.h"
+
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsVLProjectsList.h"
+#include "toolkit/Sheet.h"
+#include "values/TaskUtil.h"
+
+namespace qv {
+
+namespace {
+
+const char* const kProjectsQuery = "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject";
+
+RecordsetPtr openProjects(clsVLProjectsList& list) {
+    RecordsetPtr rs;
+    list.SetSQL(kProjectsQuery);
+    if (!list.GetData(rs)) return nullptr;
+    return rs;
+}
+
+// Both arrays erased and sized to the row count.
+void resizeArrays(int32_t rows) {
+    auto& s = g();
+    s.ProjectKeys.assign(static_cast<size_t>(rows), {});
+    s.ProjectNames.assign(static_cast<size_t>(rows), {});
+}
+
+// The names array is written at 0 on every row while the keys advance:
+// kept as the lists have always been.
+void storeRow(size_t n, const std::string& key, const std::string& name) {
+    auto& s = g();
+    if (n < s.ProjectKeys.size()) s.ProjectKeys[n] = key;
+    if (!s.ProjectNames.empty()) s.ProjectNames[0] = ZapAmps(name);
+}
+
+}  // namespace
+
+bool ProjectSheet::fillForSetup(Sheet& sheet) {
+    clsVLProjectsList list;
+    auto rs = openProjects(list);
+    if (!rs) return false;
+    if (rs->RecordCount() > 0) resizeArrays(rs->RecordCount());
+    for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
+        const std::string key = rs->Fields("prjGUIDID").value().toText();
+        const std::string name = rs->Fields("prjProject").value().toText();
+        // "Archived" takes a slot and retags (or disables) the tool before it.
+        if (name != kArchived) sheet.add(ttOption, key, ZapAmps(name));
+        Tool* last = sheet.lastAdded();
+        if (last && key == g().MOP) last->setEnabled(false);
+        storeRow(n, key, name);
+        if (last) last->setTag(key);
+    }
+    rs->Close();
+    addClosingTools(sheet);
+    return true;
+}
+
+bool ProjectSheet::refill(Sheet& sheet, const std::string& newName) {
+    clsVLProjectsList list;
+    auto rs = openProjects(list);
+    if (!rs) return false;
+    if (rs->RecordCount() > 0) {
+        sheet.removeAll();
+        resizeArrays(rs->RecordCount());
+        for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
+            const std::string key = rs->Fields("prjGUIDID").value().toText();
+            const std::string name = rs->Fields("prjProject").value().toText();
+            Tool& option = sheet.add(ttOption, key, ZapAmps(name));
+            storeRow(n, key, name);
+            option.setTag(key);
+            if (!newName.empty() && ZapAmps(newName) == g().ProjectNames[0]) option.setChecked(true);
+        }
+    }
+    rs->Close();
+    addClosingTools(sheet);
+    return true;
+}
+
+// A sheet left as it was gets a second button, which can carry no key.
+void ProjectSheet::addClosingTools(Sheet& sheet) {
+    sheet.add(ttSeparator);
+    sheet.add(ttButton, sheet.hasKey(kNewProjectKey) ? std::string() : kNewProjectKey, "New Project");
+}
+
+}  // namespace qv
