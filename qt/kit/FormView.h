@@ -12,7 +12,7 @@ class Form;
 class FormView : public QWidget {
     Q_OBJECT
 public:
-    FormView(Form& form, QWidget* parent = nullptr) : QWidget(parent), form_(form) {}
+    explicit FormView(Form& form, QWidget* parent = nullptr);
 
     [[nodiscard]] Form& form() const { return form_; }
     // The smallest window, in twips, the dialog allows; empty for no limit.

@@ -87,11 +87,13 @@ void ToolCell::build() {
     case Kind::Hosted: main_ = makeLabeled(owner_.makeHosted(tool_->hostedControl(), this)); break;
     case Kind::Icon: main_ = makeIcon(); break;
     }
+    // Check boxes and options keep their own width, so a click lands on them.
+    const bool natural = kind_ == Kind::Check || kind_ == Kind::Option;
     if (main_) {
-        row->addWidget(main_, 1);
+        row->addWidget(main_, natural ? 0 : 1);
         main_->installEventFilter(this);
     }
-    if (kind_ == Kind::Spacer) row->addStretch(1);
+    if (kind_ == Kind::Spacer || natural) row->addStretch(1);
 }
 
 QWidget* ToolCell::makeButton() {

@@ -1,0 +1,7 @@
+#include "kit/FormView.h"
+
+namespace qv {
+
+FormView::FormView(Form& form, QWidget* parent) : QWidget(parent), form_(form) {}
+
+}  // namespace qv
