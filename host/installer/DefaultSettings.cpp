@@ -46,7 +46,8 @@ void addLists(std::vector<SettingRow>& rows) {
                {{"Imp0", "10"}, {"Imp1", "8"}, {"Imp2", "6"}, {"Imp3", "4"}, {"Imp4", "2"},
                 {"Dif0", "10"}, {"Dif1", "8"}, {"Dif2", "6"}, {"Dif3", "4"}, {"Dif4", "2"},
                 {"Short", "1", "up to 10 minutes"}, {"Medium", "3", "under 120 minutes"},
-                {"Long", "5", "120 minutes or more"}, {"Extra1", "2"}, {"Extra2", "2"}});
+                {"Long", "5", "120 minutes or more"}, {"Checklist", "2", "the task has a checklist"},
+                {"Schedule", "2", "the task has a schedule"}});
 }
 
 // Window geometry in twips. The window state is the fifth value read for
