@@ -1,0 +1,390 @@
+#include "script/ScriptRunner.h"
+
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <stdexcept>
+
+#include "installer/StoreInstaller.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/FakeClock.h"
+#include "toolkit/Form.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Reporter.h"
+#include "toolkit/ScriptedUi.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/TextEditor.h"
+#include "toolkit/Timer.h"
+#include "values/Convert.h"
+
+namespace qv {
+
+namespace {
+
+// Prints message boxes as they are asked; an unanswered one is told and
+// answered with its first button instead of stopping the run.
+class PrintingUi : public ScriptedUi {
+public:
+    PrintingUi(std::ostream& out, std::function<void(const std::string&)> unanswered)
+        : out_(out), unanswered_(std::move(unanswered)) {}
+
+    int32_t msgBox(const std::string& text, int32_t style, const std::string& title) override {
+        out_ << "message [" << title << "] (" << style << "): " << text << "\n";
+        if (pendingAnswers() == 0) {
+            unanswered_(text);
+            queueAnswer(firstButton(style));
+        }
+        return ScriptedUi::msgBox(text, style, title);
+    }
+
+private:
+    static int32_t firstButton(int32_t style) {
+        switch (style & 7) {
+            case vbYesNo:
+            case vbYesNoCancel: return vbYes;
+            case vbRetryCancel: return vbRetry;
+            case vbAbortRetryIgnore: return vbAbort;
+            default: return vbOK;
+        }
+    }
+    std::ostream& out_;
+    std::function<void(const std::string&)> unanswered_;
+};
+
+class PrintingReporter : public Reporter {
+public:
+    explicit PrintingReporter(std::ostream& out) : out_(out) {}
+    bool report(const FaultReport& f) override {
+        out_ << "fault " << f.module << "." << f.procedure << " #" << f.number << ": " << f.description << "\n";
+        GotErrExitNow();
+        return true;
+    }
+
+private:
+    std::ostream& out_;
+};
+
+const std::map<std::string, int32_t>& answerWords() {
+    static const std::map<std::string, int32_t> words{{"ok", vbOK},       {"cancel", vbCancel}, {"abort", vbAbort},
+                                                      {"retry", vbRetry}, {"ignore", vbIgnore}, {"yes", vbYes},
+                                                      {"no", vbNo}};
+    return words;
+}
+
+const std::map<std::string, int32_t>& keyWords() {
+    static const std::map<std::string, int32_t> words{
+        {"enter", vbKeyReturn}, {"return", vbKeyReturn}, {"escape", vbKeyEscape}, {"esc", vbKeyEscape}, {"f1", vbKeyF1}};
+    return words;
+}
+
+std::string lower(std::string s) {
+    for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return s;
+}
+
+std::string boolText(bool b) { return b ? "true" : "false"; }
+
+}  // namespace
+
+ScriptRunner::ScriptRunner(std::ostream& out) : out_(out) {
+    resetGlobals();
+    ui_ = std::make_unique<PrintingUi>(out_, [this](const std::string& text) {
+        ++failed_;
+        out_ << "FAILED line " << (next_ > 0 ? steps_[next_ - 1].number : 0)
+             << ": no answer queued for the message \"" << text << "\"\n";
+    });
+    clock_ = std::make_unique<FakeClock>();
+    reporter_ = std::make_shared<PrintingReporter>(out_);
+    ports().ui = ui_.get();
+    ports().clock = clock_.get();
+    ports().reporter = reporter_.get();
+}
+
+ScriptRunner::~ScriptRunner() {
+    task_.reset();
+    releaseDeferred();
+    ports().ui = nullptr;
+    ports().clock = nullptr;
+    ports().reporter = nullptr;
+    if (ownsFolder_) {
+        std::error_code ec;
+        std::filesystem::remove_all(folder_, ec);
+    }
+}
+
+int ScriptRunner::run(const std::vector<std::string>& lines) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        try {
+            auto line = ScriptLine::parse(static_cast<int>(i + 1), lines[i]);
+            if (!line.words.empty()) steps_.push_back(std::move(line));
+        } catch (const std::exception& e) {
+            fail(ScriptLine{static_cast<int>(i + 1), {}}, e.what());
+        }
+    }
+    while (next_ < steps_.size()) runNextStep();
+    out_ << passed_ << " passed, " << failed_ << " failed\n";
+    return failed_;
+}
+
+// Lines run one at a time, also while a dialog is shown: each run queues
+// the next one first, so a dialog opened by this line takes the rest.
+void ScriptRunner::runNextStep() {
+    if (next_ >= steps_.size()) return;
+    const ScriptLine& line = steps_[next_++];
+    if (next_ < steps_.size()) ui_->queueAction([this] { runNextStep(); });
+    try {
+        step(line);
+    } catch (const std::exception& e) {
+        fail(line, e.what());
+    }
+}
+
+void ScriptRunner::step(const ScriptLine& line) {
+    static const std::map<std::string, Command> commands{
+        {"home", &ScriptRunner::cmdHome},     {"sql", &ScriptRunner::cmdSql},
+        {"mop", &ScriptRunner::cmdMop},       {"setup", &ScriptRunner::cmdSetup},
+        {"type", &ScriptRunner::cmdType},     {"click", &ScriptRunner::cmdClick},
+        {"key", &ScriptRunner::cmdKey},       {"close", &ScriptRunner::cmdClose},
+        {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
+        {"expect", &ScriptRunner::cmdExpect}};
+    auto it = commands.find(lower(line.word(0)));
+    if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
+    (this->*(it->second))(line);
+}
+
+void ScriptRunner::fail(const ScriptLine& line, const std::string& why) {
+    ++failed_;
+    out_ << "FAILED line " << line.number << ": " << why << "\n";
+}
+
+void ScriptRunner::ensureStore() {
+    if (!folder_.empty()) return;
+    auto base = std::filesystem::temp_directory_path() / "quorvel-script-XXXXXX";
+    std::string templ = base.string();
+    if (!mkdtemp(templ.data())) throw std::runtime_error("cannot make a temporary folder");
+    folder_ = templ;
+    ownsFolder_ = true;
+    installStore(folder_);
+    installSettingsFile(folder_);
+    g().AppPath = folder_;
+}
+
+void ScriptRunner::cmdHome(const ScriptLine& l) {
+    if (!folder_.empty()) throw std::invalid_argument("home must come before the store is used");
+    folder_ = l.word(1);
+    std::filesystem::create_directories(folder_);
+    if (installStore(folder_) || !std::filesystem::exists(std::filesystem::path(folder_) / "QuorvelSettings.txt"))
+        installSettingsFile(folder_);
+    g().AppPath = folder_;
+}
+
+void ScriptRunner::cmdSql(const ScriptLine& l) {
+    ensureStore();
+    sqlite3* db = nullptr;
+    const auto path = (std::filesystem::path(folder_) / "QuorvelData.mdb").string();
+    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
+        sqlite3_close(db);
+        throw std::runtime_error("cannot open the store");
+    }
+    sqlite3_busy_timeout(db, 5000);
+    char* msg = nullptr;
+    const int rc = sqlite3_exec(db, l.word(1).c_str(), nullptr, nullptr, &msg);
+    std::string error = msg ? msg : "";
+    sqlite3_free(msg);
+    sqlite3_close(db);
+    if (rc != SQLITE_OK) throw std::runtime_error("sql: " + error);
+}
+
+clsTask2& ScriptRunner::task() {
+    if (task_) return *task_;
+    task_ = std::make_unique<clsTask2>();
+    task_->setTempErrReport(reporter_);
+    task_->Raised.connect([this](const HostEvent& e) {
+        events_.push_back(e);
+        out_ << "event " << e.name;
+        for (const auto& a : e.args) out_ << " \"" << a << "\"";
+        out_ << "\n";
+    });
+    return *task_;
+}
+
+void ScriptRunner::cmdMop(const ScriptLine& l) {
+    ensureStore();
+    task().SetMOP(l.word(1));
+}
+
+// setup MODE [task=KEY] [ta=KEY] [project=KEY] [dialog=N] [print=TEXT]
+void ScriptRunner::cmdSetup(const ScriptLine& l) {
+    ensureStore();
+    std::map<std::string, std::string> args;
+    for (std::size_t i = 2; i < l.words.size(); ++i) {
+        const auto& w = l.words[i];
+        const auto eq = w.find('=');
+        if (eq == std::string::npos) throw std::invalid_argument("setup takes name=value words: " + w);
+        args[lower(w.substr(0, eq))] = w.substr(eq + 1);
+    }
+    const std::vector<std::string> ustuff{"1", "Script User", "", "", "", ""};
+    task().SetupTask(static_cast<int32_t>(toLong(l.word(1))), args["task"], ustuff,
+                     args.count("dialog") ? static_cast<int32_t>(toLong(args["dialog"])) : 0,
+                     args["print"], args["ta"], args["project"]);
+}
+
+Form& ScriptRunner::activeForm() const {
+    auto forms = Form::openForms();
+    for (auto it = forms.rbegin(); it != forms.rend(); ++it)
+        if ((*it)->visible()) return **it;
+    throw std::runtime_error("no dialog is shown");
+}
+
+Tool& ScriptRunner::toolOf(Form& form, const std::string& target, Sheet** sheetOut) const {
+    const auto dot = target.find('.');
+    if (dot == std::string::npos) throw std::invalid_argument("a tool is named sheet.KEY: " + target);
+    Sheet* sheet = form.sheet(target.substr(0, dot));
+    if (!sheet) throw std::invalid_argument(form.name() + " has no sheet " + target.substr(0, dot));
+    Tool* tool = sheet->find(target.substr(dot + 1));
+    if (!tool) throw std::invalid_argument(sheet->name() + " has no tool " + target.substr(dot + 1));
+    if (sheetOut) *sheetOut = sheet;
+    return *tool;
+}
+
+// type TARGET TEXT: an editor, a date box (a date text) or sheet.KEY.
+void ScriptRunner::cmdType(const ScriptLine& l) {
+    Form& form = activeForm();
+    const auto& target = l.word(1);
+    const auto text = l.word(2);
+    if (auto* ed = form.editor(target)) {
+        ed->userEdit(text);
+    } else if (auto* box = form.dateBox(target)) {
+        const auto serial = text.empty() ? std::optional<double>(1.0) : tryToDate(text);
+        if (!serial) throw std::invalid_argument("not a date: " + text);
+        box->userSetValue(*serial);
+    } else {
+        Sheet* sheet = nullptr;
+        Tool& tool = toolOf(form, target, &sheet);
+        sheet->userEdit(tool, text);
+    }
+}
+
+void ScriptRunner::cmdClick(const ScriptLine& l) {
+    Sheet* sheet = nullptr;
+    Tool& tool = toolOf(activeForm(), l.word(1), &sheet);
+    sheet->click(tool);
+}
+
+void ScriptRunner::cmdKey(const ScriptLine& l) {
+    const auto word = lower(l.word(1));
+    auto it = keyWords().find(word);
+    const int32_t code = it != keyWords().end() ? it->second : static_cast<int32_t>(toLong(word));
+    activeForm().keyDown(code, 0);
+}
+
+void ScriptRunner::cmdClose(const ScriptLine&) { activeForm().requestClose(); }
+
+void ScriptRunner::cmdAnswer(const ScriptLine& l) {
+    auto it = answerWords().find(lower(l.word(1)));
+    if (it == answerWords().end()) throw std::invalid_argument("answer yes, no, ok, cancel, retry, abort or ignore");
+    ui_->queueAnswer(it->second);
+}
+
+void ScriptRunner::cmdAdvance(const ScriptLine& l) { clock_->advance(toLong(l.word(1))); }
+
+void ScriptRunner::cmdExpect(const ScriptLine& l) {
+    const auto what = lower(l.word(1));
+    if (what == "event") return expectEvent(l, true);
+    if (what == "no-event") return expectEvent(l, false);
+    if (what == "message") return expectMessage(l);
+    if (what == "tool") return expectTool(l);
+    if (what == "row") return expectRow(l, false);
+    if (what == "rows") return expectRow(l, true);
+    if (what == "form") return expectForm(l);
+    throw std::invalid_argument("expect event, no-event, message, tool, row, rows or form");
+}
+
+// expect event NAME [ARG...]: the next such event after the last one matched.
+void ScriptRunner::expectEvent(const ScriptLine& l, bool present) {
+    const auto& name = l.word(2);
+    std::vector<std::string> args(l.words.begin() + std::min<std::size_t>(3, l.words.size()), l.words.end());
+    for (std::size_t i = eventCursor_; i < events_.size(); ++i) {
+        if (events_[i].name != name || (!args.empty() && events_[i].args != args)) continue;
+        if (!present) return fail(l, "the event " + name + " was raised");
+        eventCursor_ = i + 1;
+        return pass();
+    }
+    if (present) return fail(l, "no event " + name + (args.empty() ? "" : " with " + l.rest(3)));
+    pass();
+}
+
+void ScriptRunner::expectMessage(const ScriptLine& l) {
+    const auto& msgs = ui_->messages();
+    for (std::size_t i = messageCursor_; i < msgs.size(); ++i) {
+        if (msgs[i].text != l.word(2)) continue;
+        messageCursor_ = i + 1;
+        return pass();
+    }
+    fail(l, "no message \"" + l.word(2) + "\"");
+}
+
+// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked VALUE
+void ScriptRunner::expectTool(const ScriptLine& l) {
+    const Tool& t = toolOf(activeForm(), l.word(2), nullptr);
+    const auto prop = lower(l.word(3));
+    std::string actual;
+    if (prop == "caption") actual = t.caption();
+    else if (prop == "text") actual = t.text();
+    else if (prop == "tag") actual = t.tag();
+    else if (prop == "image") actual = t.image();
+    else if (prop == "enabled") actual = boolText(t.enabled());
+    else if (prop == "visible") actual = boolText(t.visible());
+    else if (prop == "checked") actual = boolText(t.checked());
+    else throw std::invalid_argument("unknown tool property " + prop);
+    if (actual == l.word(4)) return pass();
+    fail(l, l.word(2) + " " + prop + " is \"" + actual + "\", not \"" + l.word(4) + "\"");
+}
+
+// expect row "SELECT ..." VALUE: the first column of the first row.
+// expect rows "SELECT ..." N: the number of rows.
+void ScriptRunner::expectRow(const ScriptLine& l, bool count) {
+    const auto sql = count ? "SELECT COUNT(*) FROM (" + l.word(2) + ")" : l.word(2);
+    const auto actual = queryOne(sql);
+    if (actual == l.word(3)) return pass();
+    fail(l, "the store gives \"" + actual + "\", not \"" + l.word(3) + "\"");
+}
+
+// expect form NAME | none: which dialog is shown now.
+void ScriptRunner::expectForm(const ScriptLine& l) {
+    std::string shown = "none";
+    try {
+        shown = activeForm().name();
+    } catch (const std::runtime_error&) {
+    }
+    if (shown == l.word(2)) return pass();
+    fail(l, "the dialog shown is " + shown + ", not " + l.word(2));
+}
+
+std::string ScriptRunner::queryOne(const std::string& sql) const {
+    sqlite3* db = nullptr;
+    const auto path = (std::filesystem::path(folder_) / "QuorvelData.mdb").string();
+    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
+        sqlite3_close(db);
+        throw std::runtime_error("cannot open the store");
+    }
+    sqlite3_stmt* st = nullptr;
+    std::string result = "(no row)";
+    if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st, nullptr) != SQLITE_OK) {
+        std::string error = sqlite3_errmsg(db);
+        sqlite3_close(db);
+        throw std::runtime_error("sql: " + error);
+    }
+    if (sqlite3_step(st) == SQLITE_ROW) {
+        const auto* text = sqlite3_column_text(st, 0);
+        result = text ? reinterpret_cast<const char*>(text) : "(null)";
+    }
+    sqlite3_finalize(st);
+    sqlite3_close(db);
+    return result;
+}
+
+}  // namespace qv
