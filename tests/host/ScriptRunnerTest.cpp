@@ -1,0 +1,70 @@
+#include "script/ScriptRunner.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+
+namespace qv {
+namespace {
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string l; std::getline(in, l);) lines.push_back(l);
+    return lines;
+}
+
+TEST(ScriptRunner, TheAddTaskExampleRunsGreen) {
+    std::ifstream file(std::string(QV_SOURCE_DIR) + "/examples/add-task.qvs");
+    ASSERT_TRUE(file) << "examples/add-task.qvs is missing";
+    std::vector<std::string> lines;
+    for (std::string l; std::getline(file, l);) lines.push_back(l);
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    EXPECT_EQ(runner.run(lines), 0) << out.str();
+    EXPECT_NE(out.str().find("event NewTask"), std::string::npos);
+    EXPECT_NE(out.str().find("0 failed"), std::string::npos);
+}
+
+TEST(ScriptRunner, FailedExpectationsAndBadLinesAreCountedAndTold) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    const int failed = runner.run(linesOf(R"(setup 0
+expect event NewTask
+expect row "SELECT COUNT(*) FROM TASKS" 5
+frobnicate
+type spellTask "unclosed
+key escape
+expect form none
+)"));
+    EXPECT_EQ(failed, 4);  // the event, the row, the unknown command, the quote
+    EXPECT_EQ(runner.passed(), 1);
+    const auto text = out.str();
+    EXPECT_NE(text.find("FAILED line 2: no event NewTask"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 4: unknown command"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 5: unclosed quote"), std::string::npos) << text;
+}
+
+TEST(ScriptRunner, AnUnansweredMessageIsAFailureNotAHang) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    // Escape on a changed dialog asks before cancelling.
+    runner.run(linesOf("setup 0\ntype spellTask \"half written\"\nkey escape\nexpect form none\n"));
+    EXPECT_NE(out.str().find("no answer queued for the message \"Cancel creating the current task?\""),
+              std::string::npos)
+        << out.str();
+    EXPECT_GE(runner.failed(), 1);
+}
+
+TEST(ScriptRunner, AScriptThatEndsWhileADialogIsShownFails) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    EXPECT_GE(runner.run(linesOf("setup 0\n")), 1);
+    EXPECT_NE(out.str().find("FAILED line 1: script ran out while frmTask3 is shown"), std::string::npos)
+        << out.str();
+}
+
+}  // namespace
+}  // namespace qv
