@@ -1,0 +1,56 @@
+#include "NewTaskView.h"
+
+#include <QVBoxLayout>
+
+#include "PicturePane.h"
+#include "kit/PaneBuilder.h"
+#include "kit/SplitterView.h"
+#include "toolkit/Form.h"
+#include "toolkit/Splitter.h"
+
+namespace qv {
+
+namespace {
+// Status and Project; Task, Checklist and Notes; Keywords; Time Needed,
+// Importance, Difficulty and the picture; the tool bar under them all.
+const std::vector<std::vector<int>> kColumns{{0, 1}, {2, 3, 4}, {5}, {6, 7, 8, 9}};
+const std::vector<int> kFooter{10};
+const std::vector<int> kColumnStretch{3, 5, 3, 3};
+}  // namespace
+
+NewTaskView::NewTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
+    setObjectName("frmTask3.view");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(4, 4, 4, 4);
+    PaneBuilder build(form, this);
+    QWidget* banner = build.label("lblTaskSaved");
+    banner->setStyleSheet("QLabel { background: #fff4c2; color: #5a4500; font-weight: bold; padding: 4px; }");
+    column->addWidget(banner);
+    Splitter* model = form.splitter("splitTask");
+    if (!model) return;
+    splitter_ = new SplitterView(*model, kColumns, kFooter, this);
+    for (int i = 0; i < model->paneCount(); ++i) splitter_->setPaneWidget(i, buildPane(i));
+    if (auto* body = splitter_->widget(0); auto* columns = qobject_cast<QSplitter*>(body))
+        for (int c = 0; c < columns->count(); ++c) columns->setStretchFactor(c, kColumnStretch[static_cast<size_t>(c)]);
+    column->addWidget(splitter_, 1);
+}
+
+QWidget* NewTaskView::buildPane(int index) {
+    PaneBuilder build(form(), this);
+    switch (index) {
+    case 0: return build.sheet("smtOther");
+    case 1: return build.sheet("smtProj");
+    case 2: return build.editorPane("lblTask", "spellTask", "smtReady");
+    case 3: return build.editorPane("lblCk", "spellCK", "smtCKActions");
+    case 4: return build.editorPane("lblNotes", "SpellNotes");
+    case 5: return build.sheet("smtKeywords");
+    case 6: return build.sheet("smtTimeNeeded");
+    case 7: return build.sheet("smtImp");
+    case 8: return build.sheet("smtDiff");
+    case 9: return new PicturePane(this);
+    case 10: return build.sheet("smtActions", SheetWidget::Style::Toolbar);
+    default: return new QWidget(this);
+    }
+}
+
+}  // namespace qv

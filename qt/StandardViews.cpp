@@ -1,0 +1,48 @@
+#include "StandardViews.h"
+
+#include "NewTaskView.h"
+#include "StackedView.h"
+
+namespace qv {
+
+namespace {
+
+using P = StackedView::Piece;
+
+StackedView::Recipe addProject() {
+    return {{{P::Label, "lblCreate"}, {P::Sheet, "smtProject", 1}, {P::Label, "lblOptional"}, {P::Toolbar, "smtAction"}},
+            {4800, 3000},
+            {5400, 3600}};
+}
+
+StackedView::Recipe addKeyword() {
+    return {{{P::Label, "lblCreate"}, {P::Sheet, "smtKeywords", 1}, {P::Toolbar, "smtAction"}}, {4800, 2600}, {5400, 3200}};
+}
+
+StackedView::Recipe checklistPicker() {
+    return {{{P::Sheet, "smtList", 3}, {P::Editor, "txDesc", 1}, {P::Toolbar, "smtAction"}}, {4800, 4200}, {6000, 5400}};
+}
+
+StackedView::Recipe checklistEditor() {
+    return {{{P::Sheet, "smtChecklist", 1}, {P::Editor, "spellContent", 3}, {P::Toolbar, "smtAction"}},
+            {6000, 4800},
+            {7800, 6600}};
+}
+
+void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*recipe)()) {
+    f.add(name, [recipe](Form& form) -> FormView* { return new StackedView(form, recipe()); });
+}
+
+}  // namespace
+
+ViewFactory StandardViews::make() {
+    ViewFactory f;
+    f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    addStacked(f, "frmAddProject", addProject);
+    addStacked(f, "frmAddKeyword", addKeyword);
+    addStacked(f, "frmCkPicker", checklistPicker);
+    addStacked(f, "frmChecklistEditor", checklistEditor);
+    return f;
+}
+
+}  // namespace qv
