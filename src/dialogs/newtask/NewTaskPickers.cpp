@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "dialogs/add/frmAddKeyword.h"
+#include "dialogs/add/frmAddProject.h"
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/KeywordSheet.h"
@@ -15,6 +17,10 @@ namespace qv {
 namespace {
 double today() { return std::floor(clock().now()); }
 }  // namespace
+
+NewTaskPickers::NewTaskPickers(frmTask3& f) : f_(f) {}
+
+NewTaskPickers::~NewTaskPickers() = default;
 
 void NewTaskPickers::smtLevels_Click(Tool&) {
     if (!g().SettingUp) f_.ValidateTask();
@@ -79,9 +85,26 @@ void NewTaskPickers::fNewKeyword_KeywordAdded() {
     f_.KeywordAdded();
 }
 
-// The Add Project and Add Keyword dialogs plug in here.
-void NewTaskPickers::openAddProject() {}
+// The Add Project dialog stays open for several projects.
+void NewTaskPickers::openAddProject() {
+    fNewProject = std::make_shared<frmAddProject>();
+    fNewProject->ProjectAdded.connect([this](const std::string& name) { fNewProject_ProjectAdded(name); });
+    fNewProject->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
+    fNewProject->SetTaskPrintSetting(g().TaskPrintSetting);
+    fNewProject->showModal(&f_);
+    fNewProject->unload();
+    fNewProject.reset();
+}
 
-void NewTaskPickers::openAddKeyword() { g().SettingUp = false; }
+void NewTaskPickers::openAddKeyword() {
+    fNewKeyword = std::make_shared<frmAddKeyword>();
+    fNewKeyword->KeywordAdded.connect([this] { fNewKeyword_KeywordAdded(); });
+    fNewKeyword->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
+    fNewKeyword->LoadCategories();
+    fNewKeyword->showModal(&f_);
+    fNewKeyword->unload();
+    fNewKeyword.reset();
+    g().SettingUp = false;
+}
 
 }  // namespace qv

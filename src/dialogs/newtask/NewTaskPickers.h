@@ -3,16 +3,20 @@
 // entry, adding a project or keyword on the way, and the deadline's small
 // behaviours.
 
+#include <memory>
 #include <string>
 
 namespace qv {
 
 class frmTask3;
+class frmAddProject;
+class frmAddKeyword;
 class Tool;
 
 class NewTaskPickers {
 public:
-    explicit NewTaskPickers(frmTask3& f) : f_(f) {}
+    explicit NewTaskPickers(frmTask3& f);
+    ~NewTaskPickers();
 
     void smtLevels_Click(Tool& tool);
     void smtTimeNeeded_Click(Tool& tool);
@@ -32,6 +36,8 @@ private:
     void clearDeadline();
 
     frmTask3& f_;
+    std::shared_ptr<frmAddProject> fNewProject;
+    std::shared_ptr<frmAddKeyword> fNewKeyword;
 };
 
 }  // namespace qv
