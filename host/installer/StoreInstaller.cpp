@@ -91,7 +91,8 @@ bool installStore(const std::string& folder) {
         throw;
     }
     fs::rename(part, path, ec);
-    if (ec) throw Failure(err::StoreFailure, "Cannot put the store in place at " + path + ": " + ec.message());
+    if (ec)
+        throw Failure(err::StoreFailure, "Cannot put the store in place at " + path + ": " + ec.message());
     return true;
 }
 

@@ -17,8 +17,7 @@ std::string taskColumns(const char* checklistColumn) {
                "tskLastMod DATETIME, tskDeadline DATETIME, tskDoneDate DATETIME, "
                "tskPossPoints INTEGER, tskCustSortQV INTEGER, tskCustSortCUR INTEGER, "
                "tskCustSortProj INTEGER, tskHasChecklist BOOLEAN, ") +
-           checklistColumn +
-           " TEXT, tskTaskCatGUID TEXT, tskWasImported BOOLEAN, tskOUTEntityID TEXT";
+           checklistColumn + " TEXT, tskTaskCatGUID TEXT, tskWasImported BOOLEAN, tskOUTEntityID TEXT";
 }
 
 std::vector<std::string> makeSchema() {

@@ -16,8 +16,12 @@ namespace {
 constexpr const char* kCrLf = "\r\n";
 constexpr int32_t kPathFileAccessError = 75;
 
-std::string settingsPath() { return pathInFolder(g().AppPath, kSettingsFileName); }
-std::string defaultStorePath() { return pathInFolder(g().AppPath, kStoreFileName); }
+std::string settingsPath() {
+    return pathInFolder(g().AppPath, kSettingsFileName);
+}
+std::string defaultStorePath() {
+    return pathInFolder(g().AppPath, kStoreFileName);
+}
 
 bool fileExists(const std::string& path) {
     std::error_code ec;
@@ -102,7 +106,9 @@ bool ADOTest() {
     }
 }
 
-void saveTheLoc() { writeSettingsFile(g().AppPath, g().DBLocation); }
+void saveTheLoc() {
+    writeSettingsFile(g().AppPath, g().DBLocation);
+}
 
 void SetConnStringSHAPED(const std::string& path) {
     g().ConnStringShaped =

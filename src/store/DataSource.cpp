@@ -14,7 +14,9 @@ DataSource::DataSource(const char* className, OpenSpec bindingSpec)
 
 DataSource::~DataSource() = default;
 
-void DataSource::SetSQL(const std::string& SQL) { sql_ = SQL; }
+void DataSource::SetSQL(const std::string& SQL) {
+    sql_ = SQL;
+}
 
 bool DataSource::UpdateRST() {
     return trapped("UpdateRST", [&] { set().Requery(-1); });

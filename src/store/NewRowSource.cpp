@@ -9,7 +9,9 @@ constexpr OpenSpec kGetDataKeySpec{adOpenStatic, adLockBatchOptimistic, adOpenSt
 
 NewRowSource::NewRowSource(const char* className) : DataSource(className, kGetDataSpec) {}
 
-bool NewRowSource::GetData(RecordsetPtr& rst) { return openSet("GetData", sql(), kGetDataSpec, rst); }
+bool NewRowSource::GetData(RecordsetPtr& rst) {
+    return openSet("GetData", sql(), kGetDataSpec, rst);
+}
 
 bool NewRowSource::GetDataKEY(RecordsetPtr& rst) {
     return openSet("GetDataKEY", sqlKey_, kGetDataKeySpec, rst);

@@ -8,6 +8,8 @@ constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenSt
 
 clsCheckLists::clsCheckLists() : DataSource("clsCheckLists", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
 
-bool clsCheckLists::GetDataKEY(RecordsetPtr& rst) { return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst); }
+bool clsCheckLists::GetDataKEY(RecordsetPtr& rst) {
+    return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst);
+}
 
 }  // namespace qv

@@ -6,8 +6,11 @@ namespace {
 constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
 }  // namespace
 
-clsChecklistsInATask::clsChecklistsInATask() : DataSource("clsChecklistsInATask", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
+clsChecklistsInATask::clsChecklistsInATask()
+    : DataSource("clsChecklistsInATask", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
 
-bool clsChecklistsInATask::GetDataKEY(RecordsetPtr& rst) { return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst); }
+bool clsChecklistsInATask::GetDataKEY(RecordsetPtr& rst) {
+    return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst);
+}
 
 }  // namespace qv

@@ -8,6 +8,8 @@ constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, adLockB
 
 clsKeywords::clsKeywords() : DataSource("clsKeywords", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
 
-bool clsKeywords::GetData(RecordsetPtr& rst) { return openSet("GetData", sql(), kGetDataSpec, rst); }
+bool clsKeywords::GetData(RecordsetPtr& rst) {
+    return openSet("GetData", sql(), kGetDataSpec, rst);
+}
 
 }  // namespace qv

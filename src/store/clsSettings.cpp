@@ -8,6 +8,8 @@ constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, adOpenStati
 
 clsSettings::clsSettings() : DataSource("clsSettings", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
 
-bool clsSettings::GetData(RecordsetPtr& rst) { return openSet("GetData", sql(), kGetDataSpec, rst); }
+bool clsSettings::GetData(RecordsetPtr& rst) {
+    return openSet("GetData", sql(), kGetDataSpec, rst);
+}
 
 }  // namespace qv

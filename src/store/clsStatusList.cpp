@@ -8,6 +8,8 @@ constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockReadOnly, adOpenStatic, a
 
 clsStatusList::clsStatusList() : DataSource("clsStatusList", {adOpenStatic, adLockReadOnly, -1, -1}) {}
 
-bool clsStatusList::GetDataKEY(RecordsetPtr& rst) { return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst); }
+bool clsStatusList::GetDataKEY(RecordsetPtr& rst) {
+    return openSet("GetDataKEY", sql(), kGetDataKEYSpec, rst);
+}
 
 }  // namespace qv

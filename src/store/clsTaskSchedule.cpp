@@ -12,7 +12,8 @@ constexpr OpenSpec kBindingSpec{adOpenDynamic, adLockBatchOptimistic, -1, -1};
 int16_t digitAt(const std::string& text, bool last) {
     if (text.empty()) throw Failure(err::TypeMismatch, "Type mismatch: no importance and difficulty given");
     const char c = last ? text.back() : text.front();
-    if (c < '0' || c > '9') throw Failure(err::TypeMismatch, "Type mismatch: \"" + text + "\" is not two digits");
+    if (c < '0' || c > '9')
+        throw Failure(err::TypeMismatch, "Type mismatch: \"" + text + "\" is not two digits");
     return static_cast<int16_t>(c - '0');
 }
 
@@ -46,8 +47,8 @@ bool clsTaskSchedule::KillTA(const std::string& TAGUID) {
 }
 
 bool clsTaskSchedule::AddTA(const std::string& TAGUID, const std::string& taTaskGuid,
-                            const std::string& Project, const std::string& projectKey, Date Dstart,
-                            Date Dend, const std::string& desc, const std::string& diffImp) {
+                            const std::string& Project, const std::string& projectKey, Date Dstart, Date Dend,
+                            const std::string& desc, const std::string& diffImp) {
     return trapped("AddTA", [&] {
         // Both digits are read before anything is written.
         const int16_t importance = digitAt(diffImp, false);

@@ -6,8 +6,11 @@ namespace {
 constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, -1};
 }  // namespace
 
-clsVLProjectsList::clsVLProjectsList() : DataSource("clsVLProjectsList", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
+clsVLProjectsList::clsVLProjectsList()
+    : DataSource("clsVLProjectsList", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}
 
-bool clsVLProjectsList::GetData(RecordsetPtr& rst) { return openSet("GetData", sql(), kGetDataSpec, rst); }
+bool clsVLProjectsList::GetData(RecordsetPtr& rst) {
+    return openSet("GetData", sql(), kGetDataSpec, rst);
+}
 
 }  // namespace qv

@@ -1,8 +1,7 @@
-#include "store/ADOCode.h"
-
 #include <filesystem>
 
 #include "session/globals/SessionGlobals.h"
+#include "store/ADOCode.h"
 #include "support/TestEnv.h"
 
 namespace qv {

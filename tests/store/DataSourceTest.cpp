@@ -1,8 +1,7 @@
-#include "store/DataSource.h"
-
 #include <filesystem>
 
 #include "session/globals/SessionGlobals.h"
+#include "store/DataSource.h"
 #include "store/clsNewTask.h"
 #include "store/clsSettings.h"
 #include "store/clsStatusList.h"

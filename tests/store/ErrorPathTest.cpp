@@ -1,9 +1,8 @@
-#include "store/ErrorPath.h"
-
 #include <stdexcept>
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ConsoleReporter.h"
+#include "store/ErrorPath.h"
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"

@@ -1,7 +1,6 @@
-#include "installer/StoreInstaller.h"
-
 #include <filesystem>
 
+#include "installer/StoreInstaller.h"
 #include "support/TestEnv.h"
 
 namespace qv {
@@ -10,7 +9,8 @@ namespace {
 class Installer : public TestEnv {
 protected:
     int64_t sectionRows(const std::string& section) const {
-        return readInt("SELECT COUNT(*) FROM Settings WHERE SetUser='1' AND SetSettingSection='" + section + "'");
+        return readInt("SELECT COUNT(*) FROM Settings WHERE SetUser='1' AND SetSettingSection='" + section +
+                       "'");
     }
     std::string setting(const std::string& section, const std::string& name) const {
         return readOne("SELECT SetSettingValue FROM Settings WHERE SetSettingSection='" + section +
@@ -23,9 +23,9 @@ protected:
 
 TEST_F(Installer, AFreshStoreHoldsEverySectionTheLoadReads) {
     const std::pair<const char*, int> sections[] = {
-        {"AppVersion", 1}, {"Spellchecking", 1}, {"UserStuff", 6}, {"Status", 6},
-        {"Importance Level", 5}, {"Difficulty", 5}, {"Time Needed", 6}, {"TAS", 6},
-        {"TASKWINDOW", 5}, {"ETASK", 6}, {"Points", 15}, {"OutLookIntegration", 1},
+        {"AppVersion", 1},           {"Spellchecking", 1}, {"UserStuff", 6},   {"Status", 6},
+        {"Importance Level", 5},     {"Difficulty", 5},    {"Time Needed", 6}, {"TAS", 6},
+        {"TASKWINDOW", 5},           {"ETASK", 6},         {"Points", 15},     {"OutLookIntegration", 1},
         {"OutlookProfileString", 1}, {"DateFormats", 40}};
     for (const auto& [section, count] : sections) EXPECT_EQ(sectionRows(section), count) << section;
 
@@ -34,8 +34,9 @@ TEST_F(Installer, AFreshStoreHoldsEverySectionTheLoadReads) {
     EXPECT_EQ(setting("DateFormats", "HoursInDay"), "24");
     EXPECT_EQ(setting("DateFormats", "Month12"), "December");
     EXPECT_EQ(setting("OutLookIntegration", "Integrate Outlook Tasks"), "False");
-    EXPECT_EQ(readInt("SELECT COUNT(DISTINCT SetSettingName) FROM Settings WHERE SetSettingSection='DateFormats'"),
-              40);
+    EXPECT_EQ(
+        readInt("SELECT COUNT(DISTINCT SetSettingName) FROM Settings WHERE SetSettingSection='DateFormats'"),
+        40);
     // The window state is the fifth value of the ETASK section.
     EXPECT_EQ(readOne("SELECT SetSettingName FROM Settings WHERE SetSettingSection='ETASK' "
                       "ORDER BY setSettingDisplayOrd LIMIT 1 OFFSET 4"),
@@ -74,7 +75,8 @@ TEST_F(Installer, AnExistingStoreIsLeftUntouched) {
     EXPECT_FALSE(std::filesystem::exists(storePath() + ".part"));
 
     installSettingsFile(folder() + "/");
-    EXPECT_EQ(readFile(settingsPath()), "<Quorvel>\r\n<DBLoc>\r\n" + storePath() + "\r\n</DBLoc>\r\n</Quorvel>\r\n");
+    EXPECT_EQ(readFile(settingsPath()),
+              "<Quorvel>\r\n<DBLoc>\r\n" + storePath() + "\r\n</DBLoc>\r\n</Quorvel>\r\n");
 }
 
 }  // namespace

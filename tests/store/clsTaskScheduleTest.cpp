@@ -1,5 +1,4 @@
 #include "store/clsTaskSchedule.h"
-
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 

@@ -64,9 +64,13 @@ void TestEnv::TearDown() {
     std::filesystem::remove_all(folder_, ec);
 }
 
-std::string TestEnv::storePath() const { return pathInFolder(folder_, kStoreFileName); }
+std::string TestEnv::storePath() const {
+    return pathInFolder(folder_, kStoreFileName);
+}
 
-std::string TestEnv::settingsPath() const { return pathInFolder(folder_, kSettingsFileName); }
+std::string TestEnv::settingsPath() const {
+    return pathInFolder(folder_, kSettingsFileName);
+}
 
 void TestEnv::exec(const std::string& sql) const {
     auto db = openStore(storePath());
@@ -90,7 +94,9 @@ std::string TestEnv::readOne(const std::string& sql) const {
     return out;
 }
 
-int64_t TestEnv::readInt(const std::string& sql) const { return std::stoll(readOne(sql)); }
+int64_t TestEnv::readInt(const std::string& sql) const {
+    return std::stoll(readOne(sql));
+}
 
 std::string TestEnv::readFile(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
