@@ -62,8 +62,9 @@ TEST_F(NotAStore, OpeningAFileThatIsNoStoreGoesDownTheErrorPath) {
     EXPECT_EQ(fault.project, "QuorvelTask2");
     EXPECT_EQ(fault.module, "clsSettings");
     EXPECT_EQ(fault.procedure, "GetData");
-    EXPECT_FALSE(fault.description.empty());
-    EXPECT_NE(fault.number, 0);
+    EXPECT_NE(fault.description.find("not a database"), std::string::npos) << fault.description;
+    EXPECT_NE(fault.description.find(storePath()), std::string::npos) << fault.description;
+    EXPECT_EQ(fault.number, err::StoreFailure);
     EXPECT_EQ(exits, 1);
     EXPECT_EQ(readFile(storePath()), junk);
     // The caller's next step fails the same way, and nothing breaks.
