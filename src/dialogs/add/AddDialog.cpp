@@ -22,17 +22,22 @@ bool AddDialog::SetTaskPrintSetting(const std::string& str) {
 void AddDialog::smtAction_Click(Tool& t) {
     trap(name().c_str(), "smtAction_Click", [&] {
         const std::string key = TextCase::upper(t.key());
-        if (key == "HELP") openHelpPop();
-        else if (key == shape_.addKey) addNew(AddTrigger::Tool);
-        else if (key == shape_.closeKey && mayClose()) unload();
+        if (key == "HELP")
+            openHelpPop();
+        else if (key == shape_.addKey)
+            addNew(AddTrigger::Tool);
+        else if (key == shape_.closeKey && mayClose())
+            unload();
     });
 }
 
 // The key is swallowed either way: nothing else sees Enter or Escape.
 void AddDialog::Form_KeyDown(int32_t keyCode, int32_t shift) {
     trap(name().c_str(), "Form_KeyDown", [&] {
-        if (keyCode == vbKeyReturn) addNew(AddTrigger::EnterKey);
-        else if (keyCode == vbKeyEscape) unload();
+        if (keyCode == vbKeyReturn)
+            addNew(AddTrigger::EnterKey);
+        else if (keyCode == vbKeyEscape)
+            unload();
     });
 }
 
@@ -46,7 +51,9 @@ void AddDialog::openHelpPop() {
     if (ports().help) ports().help->openHelpPop(shape_.helpTopic, TaskPrintSetting);
 }
 
-void AddDialog::info(const std::string& text) { ui().msgBox(text, vbOKOnly + vbInformation, kProgramTitle); }
+void AddDialog::info(const std::string& text) {
+    ui().msgBox(text, vbOKOnly + vbInformation, kProgramTitle);
+}
 
 std::string AddDialog::trimSpaces(const std::string& text) {
     const auto first = text.find_first_not_of(' ');

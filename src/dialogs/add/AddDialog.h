@@ -31,7 +31,7 @@ protected:
         const char* addKey;    // the tool that adds
         const char* closeKey;  // the tool that closes
         int32_t helpTopic;
-        const char* noun;      // "Project", "Keyword": the "created." box
+        const char* noun;  // "Project", "Keyword": the "created." box
     };
 
     AddDialog(std::string name, Shape shape);

@@ -41,8 +41,10 @@ bool frmAddKeyword::LoadCategories() {
 bool frmAddKeyword::validateNew() {
     return trap(kModule, "validateNew", [&] {
         const char* problem = nullptr;
-        if (field("KEYWORD").text().empty()) problem = "Enter a new Keyword.";
-        else if (field("CATEGORY").text().empty()) problem = "Select or enter a new Keyword.";
+        if (field("KEYWORD").text().empty())
+            problem = "Enter a new Keyword.";
+        else if (field("CATEGORY").text().empty())
+            problem = "Select or enter a new Keyword.";
         if (problem) {
             info(problem);
             return false;
@@ -88,7 +90,9 @@ bool frmAddKeyword::createNewKeyword() {
     });
 }
 
-std::string frmAddKeyword::addedName() const { return field("KEYWORD").text(); }
+std::string frmAddKeyword::addedName() const {
+    return field("KEYWORD").text();
+}
 
 // The category keeps its text, so a run of keywords goes into one
 // category; the list itself is not reloaded until the next opening.

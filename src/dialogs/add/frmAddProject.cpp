@@ -26,7 +26,9 @@ constexpr double kFallbackDate = 38000.0;
 // Every project is written with this status.
 constexpr int32_t kNewProjectStatus = 4;
 
-double today() { return std::floor(clock().now()); }
+double today() {
+    return std::floor(clock().now());
+}
 }  // namespace
 
 frmAddProject::frmAddProject() : AddDialog(kModule, {"OK", "CANCEL", 800, "Project"}) {
@@ -52,17 +54,23 @@ void frmAddProject::Form_Load() {
     });
 }
 
-std::string frmAddProject::text(const char* key) const { return smtProject.tool(key).text(); }
+std::string frmAddProject::text(const char* key) const {
+    return smtProject.tool(key).text();
+}
 
 bool frmAddProject::validateNew() {
     return trap(kModule, "validateNew", [&] {
         const std::string name = text("txName");
         const std::string summary = text("txSummary");
         const char* problem = nullptr;
-        if (name.empty()) problem = "Enter a name for this Project.";
-        else if (summary.empty()) problem = "Missing Project Summary.";
-        else if (charCount(name) > kMaxLength) problem = "The new Project name is too long.";
-        else if (charCount(summary) > kMaxLength) problem = "The Summary is too long.";
+        if (name.empty())
+            problem = "Enter a name for this Project.";
+        else if (summary.empty())
+            problem = "Missing Project Summary.";
+        else if (charCount(name) > kMaxLength)
+            problem = "The new Project name is too long.";
+        else if (charCount(summary) > kMaxLength)
+            problem = "The Summary is too long.";
         if (problem) {
             info(problem);
             return false;
@@ -107,7 +115,9 @@ bool frmAddProject::createNewProject() {
     });
 }
 
-std::string frmAddProject::addedName() const { return text("txName"); }
+std::string frmAddProject::addedName() const {
+    return text("txName");
+}
 
 // The tool clears the whole form; Enter clears only the name and leaves
 // summary and date for the next project. That difference is kept.

@@ -29,16 +29,23 @@ ChecklistLink::ChecklistLink(Form& owner, Sheet& smtCKActions, TextEditor& spell
     clickId_ = smtCKActions_.Click.connect([this](Tool& t) { smtCKActions_Click(t); });
 }
 
-ChecklistLink::~ChecklistLink() { smtCKActions_.Click.disconnect(clickId_); }
+ChecklistLink::~ChecklistLink() {
+    smtCKActions_.Click.disconnect(clickId_);
+}
 
-const char* ChecklistLink::module() const { return owner_.name().c_str(); }
+const char* ChecklistLink::module() const {
+    return owner_.name().c_str();
+}
 
 void ChecklistLink::smtCKActions_Click(Tool& t) {
     if (g().SettingUp) return;
     trap(module(), "smtCKActions_Click", [&] {
-        if (t.key() == "PICK") openPicker();
-        else if (t.key() == "NEW") openEditor(frmChecklistEditor::kNewKey);
-        else if (t.key() == "EDIT") openEditor(state_.utilChecklistKey);
+        if (t.key() == "PICK")
+            openPicker();
+        else if (t.key() == "NEW")
+            openEditor(frmChecklistEditor::kNewKey);
+        else if (t.key() == "EDIT")
+            openEditor(state_.utilChecklistKey);
     });
 }
 
@@ -77,9 +84,12 @@ void ChecklistLink::ckPicker_CKPicked(const std::string& key) {
     const std::string picked = key;  // the picker holds the original
     trap(module(), "ckPicker_CKPicked", [&] {
         closePicker();
-        if (picked == kPickNone) unlink();
-        else if (picked == kPickNew) openEditor(frmChecklistEditor::kNewKey);
-        else pick(picked);
+        if (picked == kPickNone)
+            unlink();
+        else if (picked == kPickNew)
+            openEditor(frmChecklistEditor::kNewKey);
+        else
+            pick(picked);
     });
 }
 
@@ -116,7 +126,9 @@ void ChecklistLink::ckFrm_returnUpdatedCKGuid(const std::string& key) {
     });
 }
 
-void ChecklistLink::ckFrm_GotErrExitNow() { GotErrExitNow(); }
+void ChecklistLink::ckFrm_GotErrExitNow() {
+    GotErrExitNow();
+}
 
 bool ChecklistLink::show(const std::string& key, const std::string& captionLead) {
     clsCheckLists source;

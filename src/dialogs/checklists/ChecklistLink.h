@@ -4,8 +4,8 @@
 // editor, and what the dialog shows in lblCk and spellCK. The dialog owns
 // the controls and the state; declare the link after them.
 
-#include <cstdint>
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 

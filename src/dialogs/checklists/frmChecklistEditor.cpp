@@ -29,7 +29,8 @@ frmChecklistEditor::frmChecklistEditor() : Form(kModule) {
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
 }
 
-bool frmChecklistEditor::Setup(const std::string& key, const std::array<std::string, 6>& UStuff, Form* owner) {
+bool frmChecklistEditor::Setup(const std::string& key, const std::array<std::string, 6>& UStuff,
+                               Form* owner) {
     const bool ready = trap(kModule, "Setup", [&] {
         key_ = key;
         UStuff_ = UStuff;
@@ -53,8 +54,10 @@ void frmChecklistEditor::loadChecklist() {
 
 void frmChecklistEditor::smtAction_Click(Tool& t) {
     trap(kModule, "smtAction_Click", [&] {
-        if (t.key() == "SAVE") save();
-        else if (t.key() == "CANCEL") unload();
+        if (t.key() == "SAVE")
+            save();
+        else if (t.key() == "CANCEL")
+            unload();
     });
 }
 
@@ -87,8 +90,10 @@ bool frmChecklistEditor::save() {
     rs->Close();
     const bool wasNew = isNew();
     unload();
-    if (wasNew) returnNewCKGuid(key);
-    else returnUpdatedCKGuid(key);
+    if (wasNew)
+        returnNewCKGuid(key);
+    else
+        returnUpdatedCKGuid(key);
     return true;
 }
 

@@ -53,8 +53,10 @@ void frmCkPicker::smtList_Click(Tool& t) {
 
 void frmCkPicker::smtAction_Click(Tool& t) {
     trap(kModule, "smtAction_Click", [&] {
-        if (t.key() == "OK") pickStored();
-        else if (t.key() == "CANCEL") Cancel();
+        if (t.key() == "OK")
+            pickStored();
+        else if (t.key() == "CANCEL")
+            Cancel();
     });
 }
 

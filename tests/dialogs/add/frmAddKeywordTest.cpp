@@ -1,9 +1,8 @@
-#include "dialogs/add/frmAddKeyword.h"
-
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "dialogs/add/frmAddKeyword.h"
 #include "support/TestEnv.h"
 #include "toolkit/Ui.h"
 
@@ -47,7 +46,9 @@ protected:
 TEST_F(AddKeywordTest, CategoriesListEachSubjectOnceInOrder) {
     EXPECT_TRUE(dlg->LoadCategories());
     EXPECT_TRUE(categoryList().empty());
-    exec("INSERT INTO KEYWORDS VALUES ('A', 'Work', 'Email'), ('B', 'Home', 'Garden'), ('C', 'Work', 'Calls')");
+    exec(
+        "INSERT INTO KEYWORDS VALUES ('A', 'Work', 'Email'), ('B', 'Home', 'Garden'), ('C', 'Work', "
+        "'Calls')");
     EXPECT_TRUE(dlg->LoadCategories());
     EXPECT_EQ(categoryList(), (std::vector<std::string>{"Home", "Work"}));
     // Choosing an entry puts it in the list's text.

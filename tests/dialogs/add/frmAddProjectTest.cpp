@@ -1,9 +1,8 @@
-#include "dialogs/add/frmAddProject.h"
-
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "dialogs/add/frmAddProject.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/TestEnv.h"
 #include "toolkit/DateBox.h"

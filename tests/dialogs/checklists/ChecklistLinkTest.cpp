@@ -1,9 +1,8 @@
-#include "dialogs/checklists/ChecklistLink.h"
-
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "dialogs/checklists/ChecklistLink.h"
 #include "dialogs/checklists/frmChecklistEditor.h"
 #include "dialogs/checklists/frmCkPicker.h"
 #include "session/globals/SessionGlobals.h"
@@ -44,8 +43,9 @@ class ChecklistLinkTest : public TestEnv {
 protected:
     void SetUp() override {
         TestEnv::SetUp();
-        exec("INSERT INTO CHECKLISTS VALUES ('K-BETA', 'Beta', 'Second list', 'b1\nb2'), "
-             "('K-ALPHA', 'Alpha', 'First list', 'a1\na2')");
+        exec(
+            "INSERT INTO CHECKLISTS VALUES ('K-BETA', 'Beta', 'Second list', 'b1\nb2'), "
+            "('K-ALPHA', 'Alpha', 'First list', 'a1\na2')");
     }
     std::shared_ptr<OwnerForm> owner(bool existingTask = false, std::string noChecklistText = {}) {
         auto f = std::make_shared<OwnerForm>(existingTask, std::move(noChecklistText));
