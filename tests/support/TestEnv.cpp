@@ -55,6 +55,8 @@ void TestEnv::SetUp() {
 }
 
 void TestEnv::TearDown() {
+    // A dialog's trap may have swallowed a script that ran short.
+    for (const auto& e : ui_.scriptErrors()) ADD_FAILURE() << "script error: " << e;
     for (const auto& form : Form::openForms()) form->unload();
     releaseDeferred();
     ports() = Ports{};
