@@ -11,6 +11,7 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
 #include "values/TaskUtil.h"
+#include "values/TextCase.h"
 
 namespace qv {
 
@@ -109,10 +110,10 @@ bool NewTaskSaver::writeKeywords() {
     const std::string guid = f_.fields().utilNewTaskGUID();
     links.SetSQLKey("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(guid));
     if (!links.GetDataKEY(rs)) return false;
-    const std::string bag = f_.fields().record().KeywordList;
+    const auto ticked = KeywordSheet::tickedIn(f_.fields().record().KeywordList);
     const std::string taskText = f_.controls().spellTask.text();
     for (const auto& t : f_.controls().smtKeywords.tools()) {
-        if (!KeywordSheet::isKeyword(*t) || !KeywordSheet::tickedIn(bag, t->key())) continue;
+        if (!KeywordSheet::isKeyword(*t) || !ticked.count(TextCase::upper(t->key()))) continue;
         KeywordSheet::addLink(*rs, *t, taskText, guid);
     }
     rs->Close();

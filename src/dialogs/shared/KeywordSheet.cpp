@@ -3,7 +3,7 @@
 #include "store/Recordset.h"
 #include "store/clsKeywords.h"
 #include "toolkit/Sheet.h"
-#include "values/CStringBag.h"
+#include "values/TextCase.h"
 
 namespace qv {
 
@@ -34,19 +34,27 @@ bool KeywordSheet::build(Sheet& sheet) {
     return true;
 }
 
+// The keys are unique on the sheet, so each item is appended as the bag's
+// WriteItem would append it, without its search for an earlier copy.
 std::string KeywordSheet::bagText(const Sheet& sheet) {
-    CStringBag bag;
+    std::string bag;
     for (const auto& t : sheet.tools()) {
         if (t->type() == ttSeparator || t->type() == ttHeading || t->key() == kNewKeywordKey) continue;
-        bag.WriteItem(t->key(), t->checked() ? "True" : "False");
+        bag += TextCase::upper(t->key()) + "=" + (t->checked() ? "True" : "False") + "\t";
     }
-    return bag.Contents();
+    return bag;
 }
 
-bool KeywordSheet::tickedIn(const std::string& bagText, const std::string& key) {
-    CStringBag bag;
-    bag.setContents(bagText);
-    return bag.ReadItem(key) == "True";
+std::unordered_set<std::string> KeywordSheet::tickedIn(const std::string& bag) {
+    std::unordered_set<std::string> keys;
+    for (std::size_t start = 0; start < bag.size();) {
+        std::size_t end = bag.find('\t', start);
+        if (end == std::string::npos) end = bag.size();
+        const std::size_t eq = bag.find('=', start);
+        if (eq < end && bag.compare(eq + 1, end - eq - 1, "True") == 0) keys.insert(bag.substr(start, eq - start));
+        start = end + 1;
+    }
+    return keys;
 }
 
 int32_t KeywordSheet::countTicked(const Sheet& sheet) {

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <string>
+#include <unordered_set>
 
 namespace qv {
 
@@ -21,8 +22,8 @@ public:
     static bool build(Sheet& sheet);
     // Every keyword tick's key with its checked state as text.
     [[nodiscard]] static std::string bagText(const Sheet& sheet);
-    // Whether the bag holds key with a value that reads as true.
-    [[nodiscard]] static bool tickedIn(const std::string& bag, const std::string& key);
+    // The keys the bag holds with a value that reads as true, in one pass.
+    [[nodiscard]] static std::unordered_set<std::string> tickedIn(const std::string& bag);
     [[nodiscard]] static int32_t countTicked(const Sheet& sheet);
     // Ticks the keywords linked to the task in TaskKeywords.
     static bool tickFromLinks(Sheet& sheet, const std::string& taskGUID);
