@@ -5,6 +5,7 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
 #include "values/Settings.h"
 
@@ -21,6 +22,7 @@ clsTask2::clsTask2() { g().TheTaskObject = this; }
 
 clsTask2::~clsTask2() {
     if (reporter_) reporter_->GotErrExitNow.disconnect(reporterConnection_);
+    if (reporter_ && ports().reporter == reporter_.get()) ports().reporter = nullptr;
     if (g().TheTaskObject == this) g().TheTaskObject = nullptr;
 }
 
@@ -28,8 +30,9 @@ void clsTask2::setTempErrReport(std::shared_ptr<Reporter> reporter) {
     if (reporter_) reporter_->GotErrExitNow.disconnect(reporterConnection_);
     reporter_ = std::move(reporter);
     if (reporter_)
-        reporterConnection_ =
-            reporter_->GotErrExitNow.connect([this] { raise(14, "GotErrExitNow"); });
+        reporterConnection_ = reporter_->GotErrExitNow.connect([this] { gotErrExitNow(); });
+    // The error path reports to the session's reporter.
+    ports().reporter = reporter_.get();
 }
 
 bool clsTask2::SetTaskPrintSetting(const std::string& str) {
@@ -47,6 +50,7 @@ bool clsTask2::SetupTask(int32_t Mode, const std::string& taskGUID, const std::v
                          int32_t DialogNum, const std::string& taskPrintDialog, const std::string& TAGUID,
                          const std::string& projGUID) {
     auto& s = g();
+    if (modalDepth_ == 0) exitTold_ = false;
     for (std::size_t i = 0; i < s.UStuff.size(); ++i) {
         if (i >= passUStuff.size()) throw Failure(err::SubscriptOutOfRange, "Subscript out of range");
         s.UStuff[i] = passUStuff[i];
@@ -185,13 +189,21 @@ void clsTask2::raise(int32_t number, const char* name, std::vector<std::string> 
     }
 }
 
+// One fault reaches the host once, though the reporter, the dialog and its
+// sub-dialogs all pass it on.
+void clsTask2::gotErrExitNow() {
+    if (exitTold_) return;
+    exitTold_ = true;
+    raise(14, "GotErrExitNow");
+}
+
 void clsTask2::wire(frmTask3& f) {
     f.TaskIsNewButDone.connect([this] { raise(9, "NewTaskIsDone"); });
     f.NewTask.connect([this] { raise(5, "NewTask"); });
     f.NewTaskCATTask.connect([this] { raise(6, "doNewTaskCatItem"); });
     f.ProjectAdded.connect([this](const std::string& n) { raise(11, "ProjectAdded", texts(n)); });
     f.KeywordAdded.connect([this] { raise(12, "KeywordAdded"); });
-    f.GotErrExitNow.connect([this] { raise(14, "GotErrExitNow"); });
+    f.GotErrExitNow.connect([this] { gotErrExitNow(); });
     f.CloseTaskForm.connect([this] { frm_CloseTaskForm(); });
     f.TaskCanceled.connect([this](const std::string&) { frm_TaskCanceled(); });
 }
@@ -210,7 +222,7 @@ void clsTask2::wire(frmExistingTask& f) {
     f.TaskDeleted.connect([this](const std::string& k) { raise(13, "TaskDeleted", texts(k)); });
     f.ProjectAdded.connect([this](const std::string& n) { raise(11, "ProjectAdded", texts(n)); });
     f.KeywordAdded.connect([this] { raise(12, "KeywordAdded"); });
-    f.GotErrExitNow.connect([this] { raise(14, "GotErrExitNow"); });
+    f.GotErrExitNow.connect([this] { gotErrExitNow(); });
     f.CloseTaskForm.connect([this] { frmE_CloseTaskForm(); });
     f.TaskCanceled.connect([this](const std::string&) { frmE_TaskCanceled(); });
 }
@@ -218,7 +230,7 @@ void clsTask2::wire(frmExistingTask& f) {
 void clsTask2::wire(frmTAS2& f) {
     f.TASWasChanged.connect([this] { raise(1, "TASUpdated"); });
     f.TASisDone.connect([this] { raise(8, "TASCompleted"); });
-    f.GotErrExitNow.connect([this] { raise(14, "GotErrExitNow"); });
+    f.GotErrExitNow.connect([this] { gotErrExitNow(); });
     f.CancelTASEdit.connect([this] { frmWorkTAS_CancelTASEdit(); });
     f.CloseTASForm.connect([this] { frmWorkTAS_CloseTASForm(); });
     f.TaskEdit.connect([this](const std::string& key) { frmWorkTAS_TaskEdit(key); });

@@ -31,6 +31,7 @@ public:
     clsTask2& operator=(const clsTask2&) = delete;
 
     [[nodiscard]] std::shared_ptr<Reporter> tempErrReport() const { return reporter_; }
+    // Also becomes the reporter that the error path tells of faults.
     void setTempErrReport(std::shared_ptr<Reporter> reporter);
 
     bool SetTaskPrintSetting(const std::string& str);
@@ -69,6 +70,7 @@ public:
 
 private:
     void raise(int32_t number, const char* name, std::vector<std::string> args = {});
+    void gotErrExitNow();
 
     void openNewTask(int32_t Mode, const std::string& taskGUID, const std::string& projGUID);
     void openExistingTask(int32_t Mode, const std::string& taskGUID);
@@ -94,6 +96,7 @@ private:
     std::shared_ptr<Reporter> reporter_;
     std::size_t reporterConnection_ = 0;
     int modalDepth_ = 0;
+    bool exitTold_ = false;  // GotErrExitNow already raised in this session
 };
 
 }  // namespace qv

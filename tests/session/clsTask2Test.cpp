@@ -170,16 +170,30 @@ TEST_F(clsTask2Test, TaskEditReentersWithMode1AndTheNestedGlobalsWin) {
     EXPECT_EQ(task.frmWorkTAS(), nullptr);
 }
 
-TEST_F(clsTask2Test, ReporterAndDialogFaultsEndAsGotErrExitNow) {
+TEST_F(clsTask2Test, AFaultReachesTheHostOnceAsGotErrExitNow) {
     then([&] {
         task.frm()->GotErrExitNow();
         reporter().GotErrExitNow();
         task.frm()->TaskCanceled("");
     });
     task.SetupTask(0, "", kUStuff, 0, "");
-    EXPECT_EQ(names, (std::vector<std::string>{"GotErrExitNow", "GotErrExitNow", "DoCloseTaskForm",
-                                               "DoCloseTaskForm"}));
+    EXPECT_EQ(names, (std::vector<std::string>{"GotErrExitNow", "DoCloseTaskForm", "DoCloseTaskForm"}));
     EXPECT_EQ(std::count(names.begin(), names.end(), "doUnnatDeath"), 0);
+}
+
+TEST_F(clsTask2Test, AStoreFaultWhileSettingUpEndsTheSessionWithoutShowingTheDialog) {
+    exec("DROP TABLE PROJECTS");
+    task.SetupTask(0, "", kUStuff, 0, "");  // no action queued: showing it would fail the script
+    ASSERT_FALSE(reporter().faults().empty());
+    EXPECT_EQ(reporter().faults()[0].module, "clsVLProjectsList");
+    EXPECT_EQ(std::count(names.begin(), names.end(), "GotErrExitNow"), 1);
+    EXPECT_FALSE(task.frm()->loaded());
+
+    then([&] { task.frm()->TaskCanceled(""); });  // the next session starts afresh
+    exec("CREATE TABLE PROJECTS (prjGUIDID TEXT, prjProject TEXT, prjSummary TEXT, prjDeadline DATETIME, "
+         "StatusLong INTEGER)");
+    task.SetupTask(0, "", kUStuff, 0, "");
+    EXPECT_EQ(names.back(), "DoCloseTaskForm");
 }
 
 }  // namespace
