@@ -9,7 +9,7 @@
 
 namespace qv {
 
-DataSource::DataSource(const char* className, OpenSpec bindingSpec)
+DataSource::DataSource(const char* className, OpenParams bindingSpec)
     : className_(className), bindingSpec_(bindingSpec) {}
 
 DataSource::~DataSource() = default;
@@ -46,21 +46,21 @@ void DataSource::setTempErrReport(Reporter* reporter) {
     });
 }
 
-bool DataSource::openSet(const char* procedure, const std::string& sql, const OpenSpec& spec,
+bool DataSource::openSet(const char* procedure, const std::string& sql, const OpenParams& params,
                          RecordsetPtr& rst) {
-    const bool opened = trapped(procedure, [&] { rst = makeSet(sql, spec); });
+    const bool opened = trapped(procedure, [&] { rst = makeSet(sql, params); });
     if (!opened) rst = nullptr;
     return opened;
 }
 
-RecordsetPtr DataSource::makeSet(const std::string& sql, const OpenSpec& spec) {
+RecordsetPtr DataSource::makeSet(const std::string& sql, const OpenParams& params) {
     // The store is located at the first data request of a session.
     if (g().ConnString.empty()) ADOTest();
     rs_ = std::make_shared<Recordset>();
     rs_->CursorLocation = adUseClient;
-    rs_->CursorType = spec.cursor;
-    rs_->LockType = spec.lock;
-    rs_->Open(sql, g().ConnString, spec.openCursor, spec.openLock, adCmdText);
+    rs_->CursorType = params.cursor;
+    rs_->LockType = params.lock;
+    rs_->Open(sql, g().ConnString, params.openCursor, params.openLock, adCmdText);
     return rs_;
 }
 

@@ -17,7 +17,7 @@ class Reporter;
 
 // Cursor and lock set before opening, and the arguments of the open call
 // (-1 leaves the property standing).
-struct OpenSpec {
+struct OpenParams {
     int32_t cursor;
     int32_t lock;
     int32_t openCursor;
@@ -46,10 +46,10 @@ public:
     Event<> GotErrExitNow;
 
 protected:
-    DataSource(const char* className, OpenSpec bindingSpec);
+    DataSource(const char* className, OpenParams bindingSpec);
 
-    // Makes a new set with spec, opens it with sql and hands it to rst.
-    bool openSet(const char* procedure, const std::string& sql, const OpenSpec& spec, RecordsetPtr& rst);
+    // Makes a new set with params, opens it with sql and hands it to rst.
+    bool openSet(const char* procedure, const std::string& sql, const OpenParams& params, RecordsetPtr& rst);
     // Runs body under this class's trap.
     template <class F>
     auto trapped(const char* procedure, F&& body) {
@@ -63,10 +63,10 @@ protected:
     [[nodiscard]] const std::string& sql() const { return sql_; }
 
 private:
-    RecordsetPtr makeSet(const std::string& sql, const OpenSpec& spec);
+    RecordsetPtr makeSet(const std::string& sql, const OpenParams& params);
 
     const char* className_;
-    OpenSpec bindingSpec_;
+    OpenParams bindingSpec_;
     std::string sql_;
     RecordsetPtr rs_;
     Reporter* tempErrReport_ = nullptr;

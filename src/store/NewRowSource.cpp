@@ -3,8 +3,8 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataSpec{adOpenDynamic, adLockBatchOptimistic, -1, adLockBatchOptimistic};
-constexpr OpenSpec kGetDataKeySpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
+constexpr OpenParams kGetDataSpec{adOpenDynamic, adLockBatchOptimistic, -1, adLockBatchOptimistic};
+constexpr OpenParams kGetDataKeySpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
 }  // namespace
 
 NewRowSource::NewRowSource(const char* className) : DataSource(className, kGetDataSpec) {}

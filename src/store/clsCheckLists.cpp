@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
+constexpr OpenParams kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
 }  // namespace
 
 clsCheckLists::clsCheckLists() : DataSource("clsCheckLists", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}

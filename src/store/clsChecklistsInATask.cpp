@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
+constexpr OpenParams kGetDataKEYSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
 }  // namespace
 
 clsChecklistsInATask::clsChecklistsInATask()

@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, adLockBatchOptimistic};
+constexpr OpenParams kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, adLockBatchOptimistic};
 }  // namespace
 
 clsKeywords::clsKeywords() : DataSource("clsKeywords", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}

@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
+constexpr OpenParams kGetDataSpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
 }  // namespace
 
 clsSettings::clsSettings() : DataSource("clsSettings", {adOpenStatic, adLockBatchOptimistic, -1, -1}) {}

@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataKEYSpec{adOpenStatic, adLockReadOnly, adOpenStatic, adLockReadOnly};
+constexpr OpenParams kGetDataKEYSpec{adOpenStatic, adLockReadOnly, adOpenStatic, adLockReadOnly};
 }  // namespace
 
 clsStatusList::clsStatusList() : DataSource("clsStatusList", {adOpenStatic, adLockReadOnly, -1, -1}) {}

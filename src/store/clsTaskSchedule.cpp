@@ -6,8 +6,8 @@ namespace qv {
 
 namespace {
 
-constexpr OpenSpec kGetDataKeySpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
-constexpr OpenSpec kBindingSpec{adOpenDynamic, adLockBatchOptimistic, -1, -1};
+constexpr OpenParams kGetDataKeySpec{adOpenStatic, adLockBatchOptimistic, adOpenStatic, adLockBatchOptimistic};
+constexpr OpenParams kBindingSpec{adOpenDynamic, adLockBatchOptimistic, -1, -1};
 
 int16_t digitAt(const std::string& text, bool last) {
     if (text.empty()) throw Failure(err::TypeMismatch, "Type mismatch: no importance and difficulty given");

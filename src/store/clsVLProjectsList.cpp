@@ -3,7 +3,7 @@
 namespace qv {
 
 namespace {
-constexpr OpenSpec kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, -1};
+constexpr OpenParams kGetDataSpec{adOpenStatic, adLockBatchOptimistic, -1, -1};
 }  // namespace
 
 clsVLProjectsList::clsVLProjectsList()
