@@ -20,12 +20,14 @@ Tool& Sheet::add(int32_t type, const std::string& key, const std::string& captio
     if (!key.empty() && find(key)) throw Failure(35602, "Key is not unique in collection");
     tools_.push_back(std::make_unique<Tool>(this, nullptr, type, key, caption));
     lastAdded_ = tools_.back().get();
+    indexAdd(*lastAdded_);
     notify();
     return *lastAdded_;
 }
 
 void Sheet::removeAll() {
     tools_.clear();
+    index_.clear();
     lastAdded_ = nullptr;
     notify();
 }
@@ -34,6 +36,7 @@ void Sheet::remove(const std::string& key) {
     for (auto it = tools_.begin(); it != tools_.end(); ++it) {
         if ((*it)->key() == key) {
             if (lastAdded_ == it->get()) lastAdded_ = nullptr;
+            indexRemove(**it);
             tools_.erase(it);
             notify();
             return;
@@ -55,11 +58,18 @@ Tool& Sheet::at(int32_t position) const {
 }
 
 Tool* Sheet::find(const std::string& key) const {
-    for (const auto& t : tools_) {
-        if (t->key() == key) return t.get();
-        if (Tool* sub = t->item(key)) return sub;
-    }
-    return nullptr;
+    auto it = index_.find(key);
+    return it == index_.end() ? nullptr : it->second;
+}
+
+void Sheet::indexAdd(Tool& t) {
+    if (!t.key().empty()) index_.emplace(t.key(), &t);
+}
+
+void Sheet::indexRemove(const Tool& t) {
+    for (const auto& sub : t.items()) indexRemove(*sub);
+    auto it = index_.find(t.key());
+    if (it != index_.end() && it->second == &t) index_.erase(it);
 }
 
 void Sheet::click(Tool& t) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "toolkit/Event.h"
@@ -58,6 +59,11 @@ private:
     void raiseChange(Tool& t, const std::string& property) { Change(t, property); }
     void raiseClick(Tool& t) { Click(t); }
     void notify() { Changed(); }
+    // Keys of tools and sub-items: a sheet of thousands of keywords fills
+    // without walking itself on every add.
+    void indexAdd(Tool& t);
+    void indexRemove(const Tool& t);
+    std::unordered_map<std::string, Tool*> index_;
 
     std::string name_;
     std::string title_;

@@ -79,13 +79,17 @@ void Tool::setChecked(bool c) {
 }
 
 Tool& Tool::addItem(int32_t type, const std::string& key, const std::string& caption) {
-    if (!key.empty() && item(key)) throw Failure(35602, "Key is not unique in collection");
+    if (!key.empty() && (item(key) || (sheet_ && sheet_->find(key))))
+        throw Failure(35602, "Key is not unique in collection");
     items_.push_back(std::make_unique<Tool>(sheet_, this, type, key, caption));
+    if (sheet_) sheet_->indexAdd(*items_.back());
     changed();
     return *items_.back();
 }
 
 void Tool::clearItems() {
+    if (sheet_)
+        for (const auto& i : items_) sheet_->indexRemove(*i);
     items_.clear();
     changed();
 }
