@@ -13,6 +13,7 @@
 
 #include "dialogs/newtask/frmTask3.h"
 #include "installer/StoreInstaller.h"
+#include "support/BenchStore.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
@@ -93,45 +94,12 @@ void fill(sqlite3* db) {
     execOrThrow(db, "COMMIT");
 }
 
-// Counts faults; a benchmark with any fault is void.
-class CountingReporter : public Reporter {
-public:
-    bool report(const FaultReport&) override {
-        ++faults;
-        return true;
-    }
-    int faults = 0;
-};
-
-struct LargeStore {
-    std::string folder;
-    ScriptedUi ui;
-    FakeClock clock;
-    CountingReporter reporter;
-
-    LargeStore() {
-        auto pattern = (std::filesystem::temp_directory_path() / "quorvel-newtask-bench-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
-        folder = pattern;
-        installStore(folder);
-        installSettingsFile(folder);
+struct LargeStore : bench::BenchStore {
+    LargeStore() : bench::BenchStore("newtask-bench") {
         sqlite3* db = nullptr;
-        sqlite3_open(pathInFolder(folder, kStoreFileName).c_str(), &db);
+        sqlite3_open(storePath().c_str(), &db);
         fill(db);
         sqlite3_close(db);
-    }
-    ~LargeStore() {
-        std::error_code ec;
-        std::filesystem::remove_all(folder, ec);
-    }
-    // Fresh globals and this store's ports: other benchmarks share the process.
-    void use() {
-        resetGlobals();
-        g().AppPath = folder;
-        ports() = Ports{};
-        ports().ui = &ui;
-        ports().clock = &clock;
-        ports().reporter = &reporter;
     }
 };
 
@@ -155,7 +123,7 @@ void BM_NewTaskOpenBareReads(benchmark::State& state) {
     auto& s = largeStore();
     for (auto _ : state) {
         sqlite3* db = nullptr;
-        sqlite3_open_v2(pathInFolder(s.folder, kStoreFileName).c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
+        sqlite3_open_v2(s.storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
         int64_t cells = 0;
         for (const auto& section : kSections)
             cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +

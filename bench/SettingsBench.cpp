@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "installer/StoreInstaller.h"
+#include "support/BenchStore.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
 #include "toolkit/FakeClock.h"
@@ -31,47 +31,13 @@ const std::vector<std::string> kSections = {
     "Difficulty", "Time Needed", "TAS", "TASKWINDOW", "ETASK", "ETASK", "Points",
     "OutLookIntegration", "OutlookProfileString"};
 
-// Counts faults, so a benchmark that failed on the way says so.
-class CountingReporter : public Reporter {
-public:
-    bool report(const FaultReport&) override {
-        ++faults;
-        return true;
-    }
-    int faults = 0;
-};
-
-struct BenchStore {
-    std::string folder;
-    ScriptedUi ui;
-    FakeClock clock;
-    CountingReporter reporter;
-
-    BenchStore() {
-        auto pattern = (std::filesystem::temp_directory_path() / "quorvel-bench-XXXXXX").string();
-        if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
-        folder = pattern;
-        resetGlobals();
-        g().AppPath = folder;
-        ports().ui = &ui;
-        ports().clock = &clock;
-        ports().reporter = &reporter;
-        installStore(folder);
-        installSettingsFile(folder);
-    }
-    ~BenchStore() {
-        std::error_code ec;
-        std::filesystem::remove_all(folder, ec);
-    }
-};
-
-BenchStore& store() {
-    static BenchStore s;
+bench::BenchStore& store() {
+    static bench::BenchStore s("settings-bench");
     return s;
 }
 
 void BM_LoadSettings(benchmark::State& state) {
-    store();
+    store().use();
     for (auto _ : state) benchmark::DoNotOptimize(LoadSettings());
     if (store().reporter.faults != 0) state.SkipWithError("LoadSettings reported a fault");
 }
@@ -81,7 +47,7 @@ BENCHMARK(BM_LoadSettings)->Unit(benchmark::kMicrosecond);
 // stamp, also the one write of AppVersion that every load makes.
 void bareReads(benchmark::State& state, bool stamp) {
     sqlite3* db = nullptr;
-    sqlite3_open_v2(pathInFolder(store().folder, "QuorvelData.mdb").c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
+    sqlite3_open_v2(store().storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
     sqlite3_stmt* read = nullptr;
     sqlite3_prepare_v2(db,
                        "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = ? ORDER BY "
@@ -120,7 +86,7 @@ void BM_BareSettingsReadsAndStamp(benchmark::State& state) { bareReads(state, tr
 BENCHMARK(BM_BareSettingsReadsAndStamp)->Unit(benchmark::kMicrosecond);
 
 void BM_SetTimeFormatAndParse(benchmark::State& state) {
-    store();
+    store().use();
     g().DateFormats[35] = "24";
     const double minutes[] = {5, 90, 1440, 1441, 2880, 3067, 10080, 10081, 13147, 20160};
     std::size_t i = 0;
