@@ -19,7 +19,9 @@ constexpr int kTimerPumpMs = 20;
 
 QtUi::QtUi(ViewFactory& views, QObject* parent) : QObject(parent), views_(views) {
     timerPump_.setInterval(kTimerPumpMs);
-    connect(&timerPump_, &QTimer::timeout, this, [] { Timer::fireDue(); });
+    // A timer's handler may wait in a modal window; the pump itself must go
+    // on ticking meanwhile, so each pass runs from a one-shot of its own.
+    connect(&timerPump_, &QTimer::timeout, this, [] { QTimer::singleShot(0, [] { Timer::fireDue(); }); });
     timerPump_.start();
 }
 

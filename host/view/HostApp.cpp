@@ -1,0 +1,41 @@
+#include "view/HostApp.h"
+
+#include "StandardViews.h"
+#include "kit/QtDateTimeFormatter.h"
+#include "kit/QtLocaleInfo.h"
+#include "kit/QtUi.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/Ports.h"
+#include "toolkit/SystemClock.h"
+#include "view/HostSession.h"
+#include "view/HostStore.h"
+#include "view/HostWindow.h"
+
+namespace qv {
+
+HostApp::HostApp(const std::string& folder, bool interactive)
+    : folder_(folder),
+      views_(std::make_unique<ViewFactory>(StandardViews::make())),
+      ui_(std::make_unique<QtUi>(*views_)),
+      clock_(std::make_unique<SystemClock>()),
+      locale_(std::make_unique<QtLocaleInfo>()),
+      store_(std::make_unique<HostStore>(folder)) {
+    g().AppPath = folder;
+    ports().ui = ui_.get();
+    ports().clock = clock_.get();
+    ports().locale = locale_.get();
+    DateTimeFormatter::install(std::make_unique<QtDateTimeFormatter>());
+    session_ = std::make_unique<HostSession>(folder, *store_, interactive);
+    window_ = std::make_unique<HostWindow>(*store_, *session_);
+}
+
+HostApp::~HostApp() {
+    window_.reset();
+    session_.reset();
+    DateTimeFormatter::install(nullptr);
+    ports().ui = nullptr;
+    ports().clock = nullptr;
+    ports().locale = nullptr;
+}
+
+}  // namespace qv

@@ -1,0 +1,22 @@
+#include "view/HostReporter.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include "session/globals/SessionGlobals.h"
+
+namespace qv {
+
+bool HostReporter::report(const FaultReport& fault) {
+    if (log_) log_("Fault: " + format(fault));
+    if (interactive_) {
+        const QString text = QStringLiteral("%1\n\n%2.%3, error %4")
+                                 .arg(QString::fromStdString(fault.description), QString::fromStdString(fault.module),
+                                      QString::fromStdString(fault.procedure))
+                                 .arg(fault.number);
+        QMessageBox::critical(QApplication::activeModalWidget(), kProgramTitle, text);
+    }
+    return ConsoleReporter::report(fault);
+}
+
+}  // namespace qv

@@ -1,0 +1,82 @@
+#include "view/HostSession.h"
+
+#include <exception>
+
+#include <QSettings>
+
+#include "session/clsTask2.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/Ports.h"
+#include "view/HostReporter.h"
+#include "view/HostStore.h"
+
+namespace qv {
+
+namespace {
+// The slot of the host's print settings that the task dialogs use.
+constexpr int32_t kTaskDialogSlot = 1;
+// The no-particular-project default the host keeps.
+constexpr const char* kDefaultProject = "";
+}  // namespace
+
+HostSession::HostSession(const std::string& folder, HostStore& store, bool interactive, QObject* parent)
+    : QObject(parent),
+      folder_(folder),
+      store_(store),
+      reporter_(std::make_shared<HostReporter>(interactive)),
+      task_(std::make_unique<clsTask2>()) {
+    reporter_->setLog([this](const std::string& line) { emit logged(QString::fromStdString(line)); });
+    ports().reporter = reporter_.get();
+    task_->setTempErrReport(reporter_);
+    task_->SetMOP(kDefaultProject);
+    task_->SetTaskPrintSetting(printInfo(0));
+    wire();
+}
+
+HostSession::~HostSession() {
+    if (ports().reporter == reporter_.get()) ports().reporter = nullptr;
+}
+
+void HostSession::wire() {
+    task_->Raised.connect([this](const HostEvent& e) { onRaised(e); });
+    task_->TaskDeleted.connect([this](const std::string& key) { store_.deleteTask(key); });
+    task_->updateMainPrintInfo.connect([this](const std::string& info, int32_t slot) { savePrintInfo(info, slot); });
+    task_->GotErrExitNow.connect([this] { ended_ = true; });
+}
+
+void HostSession::onRaised(const HostEvent& e) {
+    QString line = QStringLiteral("%1 %2").arg(e.number).arg(QString::fromStdString(e.name));
+    for (const auto& a : e.args) line += " \"" + QString::fromStdString(a) + "\"";
+    emit logged(line);
+    // Every event but the opening one may have changed what the lists show.
+    if (e.name != "LoadingTask") emit listsChanged();
+}
+
+std::vector<std::string> HostSession::userStuff() const {
+    return {qEnvironmentVariable("USER", "user").toStdString(), "Quorvel demo host", "", "", "", ""};
+}
+
+void HostSession::open(int32_t mode, const std::string& key, const std::string& projectKey) {
+    try {
+        task_->SetupTask(mode, key, userStuff(), kTaskDialogSlot, printInfo(kTaskDialogSlot), {}, projectKey);
+    } catch (const std::exception& e) {
+        emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
+    }
+    emit listsChanged();
+}
+
+void HostSession::newTask(const std::string& projectKey) { open(0, {}, projectKey); }
+
+void HostSession::taskFromCatalog(const std::string& catalogKey) { open(6, catalogKey, {}); }
+
+std::string HostSession::printInfo(int32_t slot) const {
+    QSettings s(QString::fromStdString(folder_ + "/QuorvelHost.ini"), QSettings::IniFormat);
+    return s.value(QStringLiteral("print/%1").arg(slot)).toString().toStdString();
+}
+
+void HostSession::savePrintInfo(const std::string& info, int32_t slot) {
+    QSettings s(QString::fromStdString(folder_ + "/QuorvelHost.ini"), QSettings::IniFormat);
+    s.setValue(QStringLiteral("print/%1").arg(slot), QString::fromStdString(info));
+}
+
+}  // namespace qv

@@ -1,0 +1,49 @@
+#pragma once
+// The host's side of the component: one clsTask2, the calls that open its
+// dialogs, and the answers to its sixteen events.
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QObject>
+
+namespace qv {
+
+class clsTask2;
+class HostReporter;
+class HostStore;
+struct HostEvent;
+
+class HostSession : public QObject {
+    Q_OBJECT
+public:
+    HostSession(const std::string& folder, HostStore& store, bool interactive, QObject* parent = nullptr);
+    ~HostSession() override;
+
+    void newTask(const std::string& projectKey);
+    void taskFromCatalog(const std::string& catalogKey);
+    [[nodiscard]] clsTask2& task() const { return *task_; }
+    [[nodiscard]] bool ended() const { return ended_; }
+    // The print settings string the component last handed back for a slot.
+    [[nodiscard]] std::string printInfo(int32_t slot) const;
+
+signals:
+    void listsChanged();
+    void logged(const QString& line);
+
+private:
+    void wire();
+    void onRaised(const HostEvent& e);
+    void savePrintInfo(const std::string& info, int32_t slot);
+    [[nodiscard]] std::vector<std::string> userStuff() const;
+    void open(int32_t mode, const std::string& key, const std::string& projectKey);
+
+    std::string folder_;
+    HostStore& store_;
+    std::shared_ptr<HostReporter> reporter_;
+    std::unique_ptr<clsTask2> task_;
+    bool ended_ = false;
+};
+
+}  // namespace qv

@@ -1,0 +1,46 @@
+#pragma once
+// The host's own reads of the shared store: the task list, the catalog, the
+// projects and the status words; and the removal of a deleted task's rows.
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace qv {
+
+struct TaskRow {
+    std::string guid;
+    std::string desc;
+    std::string project;
+    std::string projectKey;
+    int32_t status = -1;
+    std::string deadline;  // ISO text as stored
+    int32_t timeNeeded = 0;
+    int32_t timeSpent = 0;
+    int32_t points = 0;
+    bool current = false;
+};
+
+struct NamedRow {
+    std::string key;
+    std::string name;
+};
+
+class HostStore {
+public:
+    explicit HostStore(std::string folder);
+
+    [[nodiscard]] std::string path() const;
+    // Tasks in the host's order; only current ones, or one project's, when asked.
+    [[nodiscard]] std::vector<TaskRow> tasks(bool currentOnly, const std::string& projectKey = {}) const;
+    [[nodiscard]] std::vector<NamedRow> catalog() const;
+    [[nodiscard]] std::vector<NamedRow> projects() const;
+    [[nodiscard]] std::vector<std::string> statusList() const;
+    // The rows the host owns for a task that the component deleted.
+    void deleteTask(const std::string& guid) const;
+
+private:
+    std::string folder_;
+};
+
+}  // namespace qv

@@ -1,0 +1,156 @@
+#include "view/HostWindow.h"
+
+#include <exception>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QTabWidget>
+#include <QTableView>
+#include <QTime>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "session/globals/SessionGlobals.h"
+#include "view/HostSession.h"
+#include "view/HostStore.h"
+#include "view/TaskTableModel.h"
+
+namespace qv {
+
+HostWindow::HostWindow(HostStore& store, HostSession& session, QWidget* parent)
+    : QMainWindow(parent), store_(store), session_(session), tasks_(new TaskTableModel(this)) {
+    setObjectName("hostWindow");
+    setWindowTitle(QStringLiteral("%1 - Task Manager").arg(kProgramTitle));
+    buildActions();
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName("tabs");
+    tabs->addTab(buildTaskPage(), "Tasks");
+    tabs->addTab(buildCatalogPage(), "Task Catalog");
+    setCentralWidget(tabs);
+    buildLog();
+    connect(&session_, &HostSession::listsChanged, this, &HostWindow::refresh);
+    connect(&session_, &HostSession::logged, this, &HostWindow::log);
+    resize(980, 620);
+    refresh();
+}
+
+void HostWindow::buildActions() {
+    QToolBar* bar = addToolBar("Commands");
+    bar->setObjectName("commands");
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    auto add = [&](const char* name, const QString& text, bool enabled) {
+        QAction* a = bar->addAction(text);
+        a->setObjectName(name);
+        a->setEnabled(enabled);
+        return a;
+    };
+    connect(add("actNewTask", "&New Task", true), &QAction::triggered, this, &HostWindow::newTask);
+    fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
+    connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
+    bar->addSeparator();
+    // Commands of the other dialogs: present, not yet offered.
+    add("actOpenTask", "&Open Task", false);
+    add("actWorkAppointment", "&Work Appointment", false);
+    add("actSaveToCatalog", "&Save to Catalog", false);
+}
+
+QWidget* HostWindow::buildTaskPage() {
+    auto* page = new QWidget(this);
+    auto* column = new QVBoxLayout(page);
+    auto* filters = new QHBoxLayout;
+    project_ = new QComboBox(page);
+    project_->setObjectName("cboProject");
+    project_->setMinimumContentsLength(24);
+    auto* projectLabel = new QLabel("&Project:", page);
+    projectLabel->setBuddy(project_);
+    currentOnly_ = new QCheckBox("Current &List", page);
+    currentOnly_->setObjectName("chkCurrent");
+    filters->addWidget(projectLabel);
+    filters->addWidget(project_);
+    filters->addWidget(currentOnly_);
+    filters->addStretch(1);
+    column->addLayout(filters);
+    table_ = new QTableView(page);
+    table_->setObjectName("tblTasks");
+    table_->setModel(tasks_);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setAlternatingRowColors(true);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    table_->horizontalHeader()->setSectionResizeMode(TaskTableModel::Desc, QHeaderView::Stretch);
+    column->addWidget(table_, 1);
+    connect(project_, &QComboBox::currentIndexChanged, this, &HostWindow::refresh);
+    connect(currentOnly_, &QCheckBox::toggled, this, &HostWindow::refresh);
+    return page;
+}
+
+QWidget* HostWindow::buildCatalogPage() {
+    catalog_ = new QListWidget(this);
+    catalog_->setObjectName("lstCatalog");
+    connect(catalog_, &QListWidget::currentRowChanged, this,
+            [this](int row) { fromCatalog_->setEnabled(row >= 0); });
+    connect(catalog_, &QListWidget::itemDoubleClicked, this, &HostWindow::taskFromCatalog);
+    return catalog_;
+}
+
+void HostWindow::buildLog() {
+    auto* dock = new QDockWidget("Component Events", this);
+    dock->setObjectName("eventDock");
+    log_ = new QPlainTextEdit(dock);
+    log_->setObjectName("txtLog");
+    log_->setReadOnly(true);
+    log_->setMaximumBlockCount(2000);
+    dock->setWidget(log_);
+    addDockWidget(Qt::BottomDockWidgetArea, dock);
+}
+
+std::string HostWindow::chosenProject() const { return project_->currentData().toString().toStdString(); }
+
+void HostWindow::refreshProjects() {
+    const QString chosen = project_->currentData().toString();
+    QSignalBlocker block(project_);
+    project_->clear();
+    project_->addItem("(All projects)", QString());
+    for (const auto& p : store_.projects())
+        project_->addItem(QString::fromStdString(p.name), QString::fromStdString(p.key));
+    project_->setCurrentIndex(std::max(0, project_->findData(chosen)));
+}
+
+void HostWindow::refresh() {
+    try {
+        refreshProjects();
+        QStringList words;
+        for (const auto& w : store_.statusList()) words << QString::fromStdString(w);
+        tasks_->setRows(store_.tasks(currentOnly_->isChecked(), chosenProject()), words);
+        const QString chosen = catalog_->currentItem() ? catalog_->currentItem()->data(Qt::UserRole).toString() : "";
+        catalog_->clear();
+        for (const auto& c : store_.catalog()) {
+            auto* item = new QListWidgetItem(QString::fromStdString(c.name), catalog_);
+            item->setData(Qt::UserRole, QString::fromStdString(c.key));
+            if (item->data(Qt::UserRole).toString() == chosen) catalog_->setCurrentItem(item);
+        }
+        fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
+    } catch (const std::exception& e) {
+        log(QStringLiteral("Could not read the store: %1").arg(e.what()));
+    }
+}
+
+void HostWindow::newTask() { session_.newTask(chosenProject()); }
+
+void HostWindow::taskFromCatalog() {
+    if (QListWidgetItem* item = catalog_->currentItem())
+        session_.taskFromCatalog(item->data(Qt::UserRole).toString().toStdString());
+}
+
+void HostWindow::log(const QString& line) {
+    log_->appendPlainText(QTime::currentTime().toString("HH:mm:ss ") + line);
+}
+
+}  // namespace qv

@@ -1,0 +1,52 @@
+#pragma once
+// The demo task manager's main window: the task list with its Current List
+// filter and project choice, the Task Catalog, the commands that open the
+// component, and a log of the component's events.
+
+#include <QMainWindow>
+
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QListWidget;
+class QPlainTextEdit;
+class QTableView;
+
+namespace qv {
+
+class HostSession;
+class HostStore;
+class TaskTableModel;
+
+class HostWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    HostWindow(HostStore& store, HostSession& session, QWidget* parent = nullptr);
+
+    [[nodiscard]] TaskTableModel& tasks() const { return *tasks_; }
+    // The key of the project chosen above the list; empty for all.
+    [[nodiscard]] std::string chosenProject() const;
+    void refresh();
+    void newTask();
+    void taskFromCatalog();
+
+private:
+    void buildActions();
+    QWidget* buildTaskPage();
+    QWidget* buildCatalogPage();
+    void buildLog();
+    void refreshProjects();
+    void log(const QString& line);
+
+    HostStore& store_;
+    HostSession& session_;
+    TaskTableModel* tasks_;
+    QTableView* table_ = nullptr;
+    QComboBox* project_ = nullptr;
+    QCheckBox* currentOnly_ = nullptr;
+    QListWidget* catalog_ = nullptr;
+    QPlainTextEdit* log_ = nullptr;
+    QAction* fromCatalog_ = nullptr;
+};
+
+}  // namespace qv

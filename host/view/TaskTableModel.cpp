@@ -1,0 +1,72 @@
+#include "view/TaskTableModel.h"
+
+#include <QDateTime>
+
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+QString minutesText(int32_t minutes) {
+    return minutes > 0 ? QString::fromStdString(SetTimeFormat(minutes)) : QString();
+}
+}  // namespace
+
+TaskTableModel::TaskTableModel(QObject* parent) : QAbstractTableModel(parent) {}
+
+void TaskTableModel::setRows(std::vector<TaskRow> rows, QStringList statusWords) {
+    beginResetModel();
+    rows_ = std::move(rows);
+    statusWords_ = std::move(statusWords);
+    endResetModel();
+}
+
+const TaskRow* TaskTableModel::rowAt(int row) const {
+    return row >= 0 && row < rowCount() ? &rows_[static_cast<size_t>(row)] : nullptr;
+}
+
+int TaskTableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+int TaskTableModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
+
+QString TaskTableModel::deadlineText(const std::string& iso) {
+    const QDateTime when = QDateTime::fromString(QString::fromStdString(iso).left(19), Qt::ISODate);
+    // Dates of 1899-12-31 and before stand for no date.
+    if (!when.isValid() || when.date() <= QDate(1899, 12, 31)) return {};
+    return when.time() == QTime(0, 0) ? when.date().toString(Qt::ISODate)
+                                      : when.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+}
+
+QVariant TaskTableModel::display(const TaskRow& r, int column) const {
+    switch (column) {
+    case Desc: return QString::fromStdString(r.desc).section('\n', 0, 0);
+    case Project: return QString::fromStdString(r.project);
+    case Status: return r.status >= 0 && r.status < statusWords_.size() ? statusWords_[r.status] : QString();
+    case Deadline: return deadlineText(r.deadline);
+    case TimeNeeded: return minutesText(r.timeNeeded);
+    case TimeSpent: return minutesText(r.timeSpent);
+    case Points: return r.points;
+    default: return {};
+    }
+}
+
+QVariant TaskTableModel::data(const QModelIndex& index, int role) const {
+    const TaskRow* r = index.isValid() ? rowAt(index.row()) : nullptr;
+    if (!r || index.column() < 0 || index.column() >= ColumnCount) return {};
+    if (role == Qt::DisplayRole) return display(*r, index.column());
+    if (role == Qt::UserRole) return QString::fromStdString(r->guid);
+    if (role == Qt::TextAlignmentRole && index.column() >= TimeNeeded)
+        return QVariant(Qt::AlignRight | Qt::AlignVCenter);
+    return {};
+}
+
+QVariant TaskTableModel::headerData(int section, Qt::Orientation o, int role) const {
+    if (o != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    static const char* const names[] = {"Description", "Project",     "Status",         "Deadline",
+                                        "Time Needed", "Time Spent", "Possible Points"};
+    return section >= 0 && section < ColumnCount ? QString(names[section]) : QVariant();
+}
+
+}  // namespace qv
