@@ -1,18 +1,15 @@
 #pragma once
 // A short demonstration that runs by itself: it opens a New Task, fills it
-// with a past deadline, opens Add Project, Add Keyword and the checklist
-// picker, adds the task and closes; every window it meets is saved as a
-// PNG, at the size it opened with and, when asked, at its minimum and a
-// larger size. Each step waits for its window with a time-out, so missing
-// dialogs are skipped, never waited on for ever.
+// with a past deadline and files it in the Task Catalog, opens Add
+// Project, Add Keyword and the checklist picker, creates a task from the
+// catalog item (its past deadline red) and adds it. Every window it meets
+// is saved as a PNG, at the size it opened with and, when asked, at its
+// minimum and a larger size. Missing dialogs are skipped after a time-out.
 
-#include <functional>
-#include <vector>
-
-#include <QElapsedTimer>
 #include <QObject>
 #include <QStringList>
-#include <QTimer>
+
+#include "view/StepRunner.h"
 
 class QWidget;
 
@@ -30,37 +27,21 @@ public:
     [[nodiscard]] const QStringList& shots() const { return shots_; }
 
 private:
-    struct Step {
-        QString name;
-        std::function<bool()> ready;
-        std::function<void()> act;
-        int timeoutMs;
-    };
-
-    void plan();
-    void tick();
-    void answerMessageBox();
-    void finish();
+    void planNewTask();
+    void planSubDialogs();
+    void planFromCatalog();
+    // Waits for a form's window, settled, then saves it.
+    void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
+    void openAndShoot(const QString& cell, const QString& form, const QString& name);
     void shoot(QWidget* w, const QString& name, bool sizes);
     void saveGrab(QWidget* w, const QString& name);
-    // Waits for the window of a form, settled for a moment.
-    void waitFor(const QString& form, const QString& name, std::function<void(QWidget*)> act, int settleMs = 300);
-    void clickTool(const QString& form, const QString& cell);
-    void closeForm(const QString& form);
-    [[nodiscard]] static QWidget* formWindow(const QString& form);
-    static void typeInto(QWidget* w, const QString& text);
 
     HostApp& app_;
     QString dir_;
     bool allSizes_;
-    std::vector<Step> steps_;
-    std::size_t next_ = 0;
-    QElapsedTimer stepClock_;
-    QElapsedTimer total_;
-    QTimer ticker_;
+    StepRunner steps_;
     QStringList shots_;
     int messages_ = 0;
-    bool done_ = false;
 };
 
 }  // namespace qv

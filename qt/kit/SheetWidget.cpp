@@ -112,18 +112,13 @@ void SheetWidget::forward(Tool* tool, const std::function<void(Tool&)>& action) 
 
 void SheetWidget::rebuild() {
     cells_.clear();
-    if (body_) {
-        // The old cells may be inside their own signal: let them go later.
-        body_->hide();
-        body_->deleteLater();
-    }
+    // No cell's action is on the stack here (rebuilds wait for that), so
+    // the old cells can go at once and never linger beside the new ones.
+    if (scroll_) delete scroll_->takeWidget();
+    else delete body_;
     body_ = buildBody();
-    if (scroll_) {
-        if (QWidget* old = scroll_->takeWidget(); old && old != body_) old->setParent(nullptr);
-        scroll_->setWidget(body_);
-    } else {
-        layout()->addWidget(body_);
-    }
+    if (scroll_) scroll_->setWidget(body_);
+    else layout()->addWidget(body_);
     shape_ = shapeOfModel();
     refresh();
 }
