@@ -29,7 +29,9 @@ FormWindow::FormWindow(Form& form, FormView* view, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
-    if (const QSize min = view->minimumTwips(); !min.isEmpty()) setMinimumSize(Twips::toPixels(min, this));
+    // The dialog's own limit, but never so small that its contents clip.
+    const QSize min = view->minimumTwips();
+    setMinimumSize(Twips::toPixels(min.isEmpty() ? QSize(0, 0) : min, this).expandedTo(layout->minimumSize()));
     changed_ = EventLink(form.Changed, [this] { followModel(); });
     setWindowTitle(QString::fromStdString(form.caption()));
     applyGeometry();

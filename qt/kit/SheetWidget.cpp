@@ -5,6 +5,9 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
+
+#include <algorithm>
 #include <QTimer>
 
 #include "kit/ToolCell.h"
@@ -170,6 +173,19 @@ void SheetWidget::refresh() {
     }
     if (body_) body_->setEnabled(sheet_.enabled());
     for (ToolCell* c : cells_) c->refresh();
+}
+
+QSize SheetWidget::minimumSizeHint() const {
+    if (!scroll_ || !body_) return QFrame::minimumSizeHint();
+    // As wide as the widest tool (the list never scrolls sideways), and
+    // tall enough for the title and a few tools.
+    const int frame = 2 * frameWidth();
+    const int bar = scroll_->verticalScrollBar()->sizeHint().width();
+    const int titleWidth = title_ && !title_->isHidden() ? title_->minimumSizeHint().width() : 0;
+    const int width = std::max(body_->minimumSizeHint().width() + bar, titleWidth) + frame;
+    const int titleHeight = title_ && !title_->isHidden() ? title_->sizeHint().height() : 0;
+    const int rows = std::min(body_->minimumSizeHint().height(), 3 * fontMetrics().height() + 12);
+    return {width, titleHeight + rows + frame};
 }
 
 ToolCell* SheetWidget::cellOf(const std::string& key) {

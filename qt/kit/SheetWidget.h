@@ -37,6 +37,8 @@ public:
     void setHostMaker(HostMaker maker);
     [[nodiscard]] QWidget* makeHosted(const std::string& controlName, QWidget* parent) const;
 
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
     // Applies pending model changes now.
     void syncNow();
     // The cell of a tool, or nullptr (tests and views).

@@ -1,5 +1,6 @@
 #include "kit/SplitterView.h"
 
+#include <algorithm>
 #include <exception>
 
 #include <QDataStream>
@@ -16,7 +17,24 @@ namespace qv {
 
 namespace {
 constexpr quint32 kBlobMagic = 0x51564c31;  // marks our own arrangement
-}
+
+// A pane's place: never smaller than the model's limit, nor than what its
+// contents need to show whole.
+class PaneHolder : public QWidget {
+public:
+    using QWidget::QWidget;
+    void setLimit(QSize limit) {
+        limit_ = limit;
+        updateGeometry();
+    }
+    [[nodiscard]] QSize minimumSizeHint() const override {
+        return QWidget::minimumSizeHint().expandedTo(limit_);
+    }
+
+private:
+    QSize limit_;
+};
+}  // namespace
 
 SplitterView::SplitterView(Splitter& model, std::vector<std::vector<int>> columns, std::vector<int> footer,
                            QWidget* parent)
@@ -44,7 +62,7 @@ void SplitterView::buildPanes() {
     holders_.assign(static_cast<size_t>(model_.paneCount()), nullptr);
     auto makeHolder = [this](int index, QSplitter* into) {
         if (index < 0 || index >= model_.paneCount()) return;
-        auto* holder = new QWidget(into);
+        auto* holder = new PaneHolder(into);
         holder->setObjectName(QString::fromStdString(model_.pane(index).name) + ".pane");
         auto* l = new QVBoxLayout(holder);
         l->setContentsMargins(0, 0, 0, 0);
@@ -66,7 +84,10 @@ void SplitterView::buildPanes() {
 }
 
 void SplitterView::setPaneWidget(int index, QWidget* w) {
-    if (QWidget* holder = paneHolder(index)) holder->layout()->addWidget(w);
+    if (QWidget* holder = paneHolder(index)) {
+        holder->layout()->addWidget(w);
+        holder->updateGeometry();
+    }
 }
 
 QWidget* SplitterView::paneHolder(int index) const {
@@ -104,7 +125,8 @@ void SplitterView::applyLimits() {
         QWidget* h = holders_[static_cast<size_t>(i)];
         if (!h) continue;
         const Splitter::Pane& p = model_.pane(i);
-        h->setMinimumSize(Twips::toPixels(p.minWidth, this), Twips::toPixels(p.minHeight, this));
+        static_cast<PaneHolder*>(h)->setLimit(
+            {Twips::toPixels(p.minWidth, this), Twips::toPixels(p.minHeight, this)});
         if (p.lockHeight && p.height > 0) h->setFixedHeight(Twips::toPixels(p.height, this));
         else h->setMaximumHeight(QWIDGETSIZE_MAX);
     }
