@@ -1,0 +1,281 @@
+#include "store/Connection.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <map>
+#include <vector>
+
+#include "toolkit/Failure.h"
+
+namespace qv {
+
+namespace {
+
+constexpr int kBusyTimeoutMs = 5000;
+constexpr size_t kMaxCachedStatements = 128;
+
+std::map<std::string, std::shared_ptr<Connection>>& registry() {
+    static std::map<std::string, std::shared_ptr<Connection>> connections;
+    return connections;
+}
+
+std::string quotedPath(const std::string& path) {
+    return "\"" + path + "\"";
+}
+
+[[noreturn]] void storeFailure(const std::string& message, std::string_view context) {
+    throw Failure(err::StoreFailure, message + " (" + std::string(context) + ")", "Store");
+}
+
+char lower(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+size_t findNoCase(const std::string& hay, std::string_view needle) {
+    if (needle.size() > hay.size()) return std::string::npos;
+    for (size_t i = 0; i + needle.size() <= hay.size(); ++i) {
+        size_t k = 0;
+        while (k < needle.size() && lower(hay[i + k]) == lower(needle[k])) ++k;
+        if (k == needle.size()) return i;
+    }
+    return std::string::npos;
+}
+
+struct FileFacts {
+    bool exists = false;
+    bool isFile = false;
+    bool writable = false;
+    uint64_t dev = 0;
+    uint64_t ino = 0;
+    int error = 0;
+};
+
+FileFacts examine(const std::string& path) {
+    FileFacts f;
+    struct stat st {};
+    if (::stat(path.c_str(), &st) != 0) {
+        f.error = errno;
+        return f;
+    }
+    f.exists = true;
+    f.isFile = S_ISREG(st.st_mode);
+    f.writable = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+    f.dev = static_cast<uint64_t>(st.st_dev);
+    f.ino = static_cast<uint64_t>(st.st_ino);
+    return f;
+}
+
+// Runs one statement of a fresh connection, stepping through any rows.
+int runPragma(sqlite3* db, const char* sql) {
+    sqlite3_stmt* stmt = nullptr;
+    int rc = sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
+    if (rc != SQLITE_OK) return rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+    }
+    sqlite3_finalize(stmt);
+    return rc == SQLITE_DONE ? SQLITE_OK : rc;
+}
+
+}  // namespace
+
+std::string pathFromConnString(const std::string& connString) {
+    static constexpr std::string_view kKey = "Data Source=";
+    const size_t at = findNoCase(connString, kKey);
+    if (at == std::string::npos) return {};
+    std::string path = connString.substr(at + kKey.size());
+    if (!path.empty() && path.back() == ';') path.pop_back();
+    return path;
+}
+
+// ---------------------------------------------------------------------------
+
+Connection::Connection(std::string path, sqlite3* db, bool readOnly, uint64_t dev, uint64_t ino)
+    : path_(std::move(path)), db_(db), readOnly_(readOnly), dev_(dev), ino_(ino) {}
+
+Connection::~Connection() {
+    for (auto& [sql, entry] : cache_)
+        if (entry->stmt) sqlite3_finalize(entry->stmt);
+    cache_.clear();
+    if (db_) sqlite3_close_v2(db_);
+}
+
+std::shared_ptr<Connection> Connection::forConnString(const std::string& connString) {
+    if (connString.empty())
+        storeFailure("the connection string is empty: no store file is named", "opening the store");
+    const std::string path = pathFromConnString(connString);
+    if (path.empty())
+        storeFailure("the connection string names no store file (no \"Data Source=\")",
+                     "opening the store with \"" + connString + "\"");
+    return forPath(path);
+}
+
+std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
+    const std::string context = "opening the store file " + quotedPath(path);
+    auto& reg = registry();
+    const FileFacts facts = examine(path);
+    const auto found = reg.find(path);
+    if (!facts.exists) {
+        if (found != reg.end()) reg.erase(found);
+        storeFailure(facts.error == ENOENT
+                         ? "the store file does not exist"
+                         : std::string("the store file can't be reached: ") + std::strerror(facts.error),
+                     context);
+    }
+    if (!facts.isFile) storeFailure("the store path is not a file", context);
+    if (found != reg.end()) {
+        const Connection& c = *found->second;
+        // The same file as before, with the same permission: reuse.
+        if (c.dev_ == facts.dev && c.ino_ == facts.ino && c.readOnly_ == !facts.writable)
+            return found->second;
+        reg.erase(found);
+    }
+    auto conn = openNew(path, facts.dev, facts.ino, !facts.writable);
+    reg.emplace(path, conn);
+    return conn;
+}
+
+std::shared_ptr<Connection> Connection::openNew(const std::string& path, uint64_t dev, uint64_t ino,
+                                                bool readOnly) {
+    const std::string context = "opening the store file " + quotedPath(path);
+    sqlite3* db = nullptr;
+    // Never SQLITE_OPEN_CREATE: a missing store is a failure, not a new file.
+    const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
+    int rc = sqlite3_open_v2(path.c_str(), &db, flags, nullptr);
+    auto failOpen = [&](int code) {
+        std::string message = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+        if (db) sqlite3_close_v2(db);
+        storeFailure(message, context);
+    };
+    if (rc != SQLITE_OK) failOpen(rc);
+    sqlite3_extended_result_codes(db, 1);
+    sqlite3_busy_timeout(db, kBusyTimeoutMs);
+    // Reads the header: a file that is no database fails here, before anything is written.
+    rc = runPragma(db, "PRAGMA schema_version");
+    if (rc != SQLITE_OK) failOpen(rc);
+    if (!readOnly && !sqlite3_db_readonly(db, "main")) {
+        rc = runPragma(db, "PRAGMA journal_mode=WAL");
+        if (rc != SQLITE_OK && (rc & 0xff) != SQLITE_READONLY) failOpen(rc);
+    }
+    // WAL's own recommendation: a commit survives a crash of the program; only the
+    // checkpoints wait for the disk.
+    if (!readOnly) runPragma(db, "PRAGMA synchronous=NORMAL");
+    rc = runPragma(db, "PRAGMA foreign_keys=OFF");
+    if (rc != SQLITE_OK) failOpen(rc);
+    const bool ro = readOnly || sqlite3_db_readonly(db, "main") == 1;
+    return std::shared_ptr<Connection>(new Connection(path, db, ro, dev, ino));
+}
+
+void Connection::release(const std::string& path) {
+    registry().erase(path);
+}
+
+void Connection::releaseAll() {
+    registry().clear();
+}
+
+// ---------------------------------------------------------------------------
+
+Connection::Statement::Statement(Statement&& o) noexcept : stmt_(o.stmt_), inUse_(o.inUse_) {
+    o.stmt_ = nullptr;
+    o.inUse_ = nullptr;
+}
+
+Connection::Statement& Connection::Statement::operator=(Statement&& o) noexcept {
+    if (this != &o) {
+        done();
+        stmt_ = o.stmt_;
+        inUse_ = o.inUse_;
+        o.stmt_ = nullptr;
+        o.inUse_ = nullptr;
+    }
+    return *this;
+}
+
+Connection::Statement::~Statement() {
+    done();
+}
+
+void Connection::Statement::done() {
+    if (!stmt_) return;
+    if (inUse_) {
+        sqlite3_reset(stmt_);
+        sqlite3_clear_bindings(stmt_);
+        *inUse_ = false;
+    } else {
+        sqlite3_finalize(stmt_);
+    }
+    stmt_ = nullptr;
+    inUse_ = nullptr;
+}
+
+Connection::Statement Connection::tryPrepare(const std::string& sql) {
+    Statement s;
+    auto it = cache_.find(sql);
+    if (it != cache_.end() && !it->second->inUse) {
+        it->second->inUse = true;
+        it->second->lastUse = ++tick_;
+        s.stmt_ = it->second->stmt;
+        s.inUse_ = &it->second->inUse;
+        return s;
+    }
+    sqlite3_stmt* stmt = nullptr;
+    if (sqlite3_prepare_v2(db_, sql.data(), static_cast<int>(sql.size()), &stmt, nullptr) != SQLITE_OK) {
+        if (stmt) sqlite3_finalize(stmt);
+        return s;
+    }
+    s.stmt_ = stmt;
+    if (it == cache_.end() && stmt) {
+        if (cache_.size() >= kMaxCachedStatements) evictIdle();
+        auto entry = std::make_unique<Entry>();
+        entry->stmt = stmt;
+        entry->inUse = true;
+        entry->lastUse = ++tick_;
+        s.inUse_ = &entry->inUse;
+        cache_.emplace(sql, std::move(entry));
+    }
+    return s;
+}
+
+Connection::Statement Connection::prepare(const std::string& sql, std::string_view context) {
+    Statement s = tryPrepare(sql);
+    if (!s) fail(context);
+    return s;
+}
+
+void Connection::evictIdle() {
+    // Drops the older half of the idle statements.
+    std::vector<uint64_t> ticks;
+    for (auto& [sql, e] : cache_)
+        if (!e->inUse) ticks.push_back(e->lastUse);
+    if (ticks.empty()) return;
+    std::nth_element(ticks.begin(), ticks.begin() + ticks.size() / 2, ticks.end());
+    const uint64_t cut = ticks[ticks.size() / 2];
+    for (auto it = cache_.begin(); it != cache_.end();) {
+        if (!it->second->inUse && it->second->lastUse <= cut) {
+            sqlite3_finalize(it->second->stmt);
+            it = cache_.erase(it);
+        } else {
+            ++it;
+        }
+    }
+}
+
+void Connection::exec(const char* sql, std::string_view context) {
+    if (sqlite3_exec(db_, sql, nullptr, nullptr, nullptr) != SQLITE_OK) fail(context);
+}
+
+void Connection::fail(std::string_view context) const {
+    std::string message = sqlite3_errmsg(db_);
+    const int code = sqlite3_extended_errcode(db_) & 0xff;
+    if (code == SQLITE_READONLY && readOnly_) message += ": the store file is read-only";
+    storeFailure(message, context);
+}
+
+std::string Connection::where(std::string_view what) const {
+    return std::string(what) + " in the store file " + quotedPath(path_);
+}
+
+}  // namespace qv

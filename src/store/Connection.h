@@ -1,0 +1,97 @@
+#pragma once
+// One SQLite connection per store file, shared by every Recordset that opens
+// the same ConnString and kept open for the life of the process (or until
+// released). WAL journal with synchronous=NORMAL, a busy timeout of 5 s,
+// foreign keys off. A missing file is never created; a file that is no
+// database or can't be opened gives Failure(err::StoreFailure) naming the
+// file. A file whose write permission bits are all off is opened read-only
+// (as the platform's read-only file attribute), so writes to it fail with a
+// clear description.
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace qv {
+
+// The path inside a ConnString of the form
+// "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + path + ";": everything
+// after "Data Source=" up to the final ";". The path stands as it was put in
+// (blanks and ";" included). Empty when no data source is named.
+std::string pathFromConnString(const std::string& connString);
+
+class Connection {
+public:
+    // The connection for the store that a ConnString names (cached per path).
+    static std::shared_ptr<Connection> forConnString(const std::string& connString);
+    static std::shared_ptr<Connection> forPath(const std::string& path);
+    // Forgets the cached connection of a path; it closes when its last user
+    // lets go. For tests and for a host that replaces the file.
+    static void release(const std::string& path);
+    static void releaseAll();
+
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] sqlite3* handle() const { return db_; }
+    [[nodiscard]] bool readOnly() const { return readOnly_; }
+
+    // A prepared statement on loan from the connection's cache; reset and
+    // unbound when the loan ends.
+    class Statement {
+    public:
+        Statement() = default;
+        Statement(Statement&& o) noexcept;
+        Statement& operator=(Statement&& o) noexcept;
+        ~Statement();
+        [[nodiscard]] sqlite3_stmt* get() const { return stmt_; }
+        explicit operator bool() const { return stmt_ != nullptr; }
+
+    private:
+        friend class Connection;
+        void done();
+        sqlite3_stmt* stmt_ = nullptr;
+        bool* inUse_ = nullptr;  // the cache entry's flag, or null for an uncached statement
+    };
+
+    // Prepares (or takes from the cache) the statement of an SQLite text.
+    // Failure(err::StoreFailure, "<sqlite message> (<context>)") on error.
+    Statement prepare(const std::string& sql, std::string_view context);
+    // As prepare, but gives an empty statement instead of failing.
+    Statement tryPrepare(const std::string& sql);
+    // Runs a text that returns no rows.
+    void exec(const char* sql, std::string_view context);
+
+    // Throws the failure of the connection's last error.
+    [[noreturn]] void fail(std::string_view context) const;
+    // "... in the store file "<path>"": a context naming the file.
+    [[nodiscard]] std::string where(std::string_view what) const;
+
+private:
+    Connection(std::string path, sqlite3* db, bool readOnly, uint64_t dev, uint64_t ino);
+    static std::shared_ptr<Connection> openNew(const std::string& path, uint64_t dev, uint64_t ino,
+                                               bool readOnly);
+
+    struct Entry {
+        sqlite3_stmt* stmt = nullptr;
+        bool inUse = false;
+        uint64_t lastUse = 0;
+    };
+    void evictIdle();
+
+    std::string path_;
+    sqlite3* db_ = nullptr;
+    bool readOnly_ = false;
+    uint64_t dev_ = 0;
+    uint64_t ino_ = 0;
+    uint64_t tick_ = 0;
+    std::unordered_map<std::string, std::unique_ptr<Entry>> cache_;
+};
+
+}  // namespace qv

@@ -1,0 +1,842 @@
+#include "store/Recordset.h"
+
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <string_view>
+
+#include "store/Connection.h"
+#include "store/JetDialect.h"
+#include "toolkit/Failure.h"
+#include "values/DateSerial.h"
+
+namespace qv {
+
+namespace {
+
+// The platform's numbers and words for the result-set failures.
+constexpr int32_t kErrNoCurrentRecord = 3021;
+constexpr int32_t kErrNotUpdatable = 3251;
+constexpr int32_t kErrItemNotFound = 3265;
+constexpr int32_t kErrClosed = 3704;
+constexpr int32_t kErrOpen = 3705;
+
+[[noreturn]] void throwClosed() {
+    throw Failure(kErrClosed, "Operation is not allowed when the object is closed.", "Recordset");
+}
+[[noreturn]] void throwAlreadyOpen() {
+    throw Failure(kErrOpen, "Operation is not allowed when the object is open.", "Recordset");
+}
+[[noreturn]] void throwNoCurrent() {
+    throw Failure(kErrNoCurrentRecord,
+                  "Either BOF or EOF is True, or the current record has been deleted. Requested "
+                  "operation requires a current record.",
+                  "Recordset");
+}
+[[noreturn]] void throwNotUpdatable() {
+    throw Failure(kErrNotUpdatable,
+                  "Current Recordset does not support updating. This may be a limitation of the "
+                  "provider, or of the selected locktype.",
+                  "Recordset");
+}
+[[noreturn]] void throwNotFound() {
+    throw Failure(kErrItemNotFound,
+                  "Item cannot be found in the collection corresponding to the requested name or "
+                  "ordinal.",
+                  "Recordset");
+}
+
+// What a column holds, from its declared type.
+enum class FieldType : uint8_t { Expr, Bool, Int16, Int32, Double, Date, Text };
+
+char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+
+FieldType typeFromDecl(const char* decl) {
+    if (!decl || !*decl) return FieldType::Expr;
+    std::string u(decl);
+    for (char& c : u) c = upper(c);
+    auto has = [&](const char* w) { return u.find(w) != std::string::npos; };
+    if (has("BOOL") || has("YESNO") || has("BIT")) return FieldType::Bool;
+    if (has("DATE") || has("TIME")) return FieldType::Date;
+    if (has("CHAR") || has("TEXT") || has("MEMO") || has("CLOB") || has("STRING")) return FieldType::Text;
+    if (has("SMALLINT") || has("SHORT") || has("TINYINT")) return FieldType::Int16;
+    if (has("INT") || has("LONG") || has("COUNTER")) return FieldType::Int32;
+    if (has("REAL") || has("DOUB") || has("FLOA") || has("NUMERIC") || has("DECIMAL") || has("CURRENCY") ||
+        has("MONEY") || has("SINGLE"))
+        return FieldType::Double;
+    return FieldType::Expr;
+}
+
+bool equalsNoCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < a.size(); ++i)
+        if (upper(a[i]) != upper(b[i])) return false;
+    return true;
+}
+
+bool fitsInt32(int64_t i) {
+    return i >= std::numeric_limits<int32_t>::min() && i <= std::numeric_limits<int32_t>::max();
+}
+bool fitsInt16(int64_t i) {
+    return i >= std::numeric_limits<int16_t>::min() && i <= std::numeric_limits<int16_t>::max();
+}
+
+// A value as the column's declared type wants it; throws (type mismatch,
+// overflow, invalid use of null) before anything changes.
+Value convertFor(FieldType type, const Value& v) {
+    if (v.isNull()) return {};
+    switch (type) {
+        case FieldType::Bool:
+            return Value(v.toBool());
+        case FieldType::Int16:
+            return Value(v.toInt16());
+        case FieldType::Int32:
+            return Value(v.toInt32());
+        case FieldType::Double:
+            return Value(v.toDouble());
+        case FieldType::Date:
+            return Value(Date{dateserial::roundToMillisecond(v.toDate().serial)});
+        case FieldType::Text:
+            return Value(v.toText());
+        case FieldType::Expr:
+            break;
+    }
+    return v;
+}
+
+void bindValue(sqlite3_stmt* stmt, int index, const Value& v) {
+    switch (v.kind()) {
+        case Value::Kind::Null:
+            sqlite3_bind_null(stmt, index);
+            break;
+        case Value::Kind::Bool:
+            sqlite3_bind_int(stmt, index, v.toBool() ? 1 : 0);
+            break;
+        case Value::Kind::Int16:
+        case Value::Kind::Int32:
+            sqlite3_bind_int(stmt, index, v.toInt32());
+            break;
+        case Value::Kind::Double:
+            sqlite3_bind_double(stmt, index, v.toDouble());
+            break;
+        case Value::Kind::Date: {
+            const std::string iso = dateserial::toIso(v.toDate().serial);
+            sqlite3_bind_text(stmt, index, iso.data(), static_cast<int>(iso.size()), SQLITE_TRANSIENT);
+            break;
+        }
+        case Value::Kind::Text: {
+            const std::string s = v.toText();
+            sqlite3_bind_text(stmt, index, s.data(), static_cast<int>(s.size()), SQLITE_TRANSIENT);
+            break;
+        }
+    }
+}
+
+struct Column {
+    std::string name;
+    FieldType type = FieldType::Expr;
+    std::string origin;  // the base table's column, empty for an expression
+};
+
+// One stored cell as SQLite gave it; text lives in the set's RowStore.
+struct Cell {
+    union {
+        int64_t i;
+        double d;
+        const char* text;
+    };
+    uint32_t len;
+    uint8_t kind;
+};
+
+// Memory for the rows as read: blocks that never move, so that a load never
+// copies again what it has read, whatever the number of rows. Blocks of the
+// standard size go back to a small pool of the thread when a set lets go of
+// its rows, so that the next read doesn't ask the system for fresh pages.
+class RowStore {
+public:
+    RowStore() = default;
+    RowStore(const RowStore&) = delete;
+    RowStore& operator=(const RowStore&) = delete;
+    ~RowStore() { clear(); }
+
+    void clear() {
+        auto& p = pool();
+        for (auto& b : blocks_)
+            if (b.size == kBlock && p.size() < kPoolBlocks) p.push_back(std::move(b.data));
+        blocks_.clear();
+        cur_ = nullptr;
+        left_ = 0;
+    }
+    Cell* cells(size_t n) {
+        auto* c = static_cast<Cell*>(take(n * sizeof(Cell), alignof(Cell)));
+        std::memset(static_cast<void*>(c), 0, n * sizeof(Cell));
+        return c;
+    }
+    const char* copy(const void* p, size_t len) {
+        char* dst = static_cast<char*>(take(len, 1));
+        if (len) std::memcpy(dst, p, len);
+        return dst;
+    }
+
+private:
+    static constexpr size_t kBlock = 256 * 1024;
+    static constexpr size_t kPoolBlocks = 32;  // 8 MB kept at most
+
+    struct Block {
+        std::unique_ptr<char[]> data;
+        size_t size;
+    };
+
+    static std::vector<std::unique_ptr<char[]>>& pool() {
+        thread_local std::vector<std::unique_ptr<char[]>> blocks;
+        return blocks;
+    }
+
+    void* take(size_t bytes, size_t align) {
+        size_t pad = (align - reinterpret_cast<uintptr_t>(cur_) % align) % align;
+        if (bytes + pad > left_) {
+            grow(std::max(kBlock, bytes + align));
+            pad = (align - reinterpret_cast<uintptr_t>(cur_) % align) % align;
+        }
+        char* r = cur_ + pad;
+        cur_ = r + bytes;
+        left_ -= bytes + pad;
+        return r;
+    }
+    void grow(size_t size) {
+        auto& p = pool();
+        if (size == kBlock && !p.empty()) {
+            blocks_.push_back({std::move(p.back()), size});
+            p.pop_back();
+        } else {
+            blocks_.push_back({std::unique_ptr<char[]>(new char[size]), size});
+        }
+        cur_ = blocks_.back().data.get();
+        left_ = size;
+    }
+
+    std::vector<Block> blocks_;
+    char* cur_ = nullptr;
+    size_t left_ = 0;
+};
+
+// Assigned values of a row: they override the cells as read.
+struct Edit {
+    explicit Edit(size_t n) : vals(n), has(n, 0), dirty(n, 0) {}
+    std::vector<Value> vals;
+    std::vector<uint8_t> has;    // assigned
+    std::vector<uint8_t> dirty;  // assigned and not yet written
+};
+
+enum class RowState : uint8_t {
+    Clean,     // as read or as written
+    Modified,  // assigned fields wait to be written
+    New,       // added, not yet inserted
+    Deleted,   // removal waits to be written
+    Gone,      // removed (written, or a new row dropped before insertion)
+};
+
+struct Row {
+    int64_t rowid = 0;
+    const Cell* cells = nullptr;  // as read; none for an added row
+    RowState state = RowState::Clean;
+    std::unique_ptr<Edit> edit;
+    [[nodiscard]] bool visible() const { return state != RowState::Deleted && state != RowState::Gone; }
+};
+
+}  // namespace
+
+struct Recordset::Impl {
+    bool open = false;
+    std::string source;
+    std::shared_ptr<Connection> conn;
+    std::string selectSql;  // what a load runs: with the rowid when the set can write back
+    std::string countSql;   // counts the rows without reading them
+    bool isSelect = true;
+    std::vector<Column> cols;
+    int rowidCol = -1;     // statement column of the rowid
+    std::string table;     // base table for writes; empty when the set can't write back
+    bool readOnly = true;  // opened with adLockReadOnly
+    bool batch = true;     // writes wait for UpdateBatch
+
+    bool loaded = false;
+    RowStore store;
+    std::vector<Row> rows;
+    size_t pos = 0;
+    size_t visible = 0;
+
+    // The edit in progress (between the first assignment or AddNew and Update).
+    ptrdiff_t editRow = -1;
+    std::unique_ptr<Edit> editSnapshot;
+    RowState editPrevState = RowState::Clean;
+    bool editIsAddNew = false;
+    size_t posBeforeAddNew = 0;
+
+    void requireOpen() const {
+        if (!open) throwClosed();
+    }
+
+    std::string context(std::string_view what) const {
+        return conn->where(std::string(what) + " \"" + source + "\"");
+    }
+
+    void reset() {
+        loaded = false;
+        store.clear();
+        rows.clear();
+        pos = 0;
+        visible = 0;
+        editRow = -1;
+        editSnapshot.reset();
+        editIsAddNew = false;
+    }
+
+    void load() {
+        reset();
+        Connection::Statement st = conn->prepare(selectSql, context("reading"));
+        sqlite3_stmt* stmt = st.get();
+        const size_t n = cols.size();
+        int rc;
+        while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+            Row& row = rows.emplace_back();
+            Cell* cells = store.cells(n);
+            row.cells = cells;
+            if (rowidCol >= 0) row.rowid = sqlite3_column_int64(stmt, rowidCol);
+            for (size_t c = 0; c < n; ++c) {
+                sqlite3_value* v = sqlite3_column_value(stmt, static_cast<int>(c));
+                Cell& cell = cells[c];
+                cell.kind = static_cast<uint8_t>(sqlite3_value_type(v));
+                switch (cell.kind) {
+                    case SQLITE_INTEGER:
+                        cell.i = sqlite3_value_int64(v);
+                        break;
+                    case SQLITE_FLOAT:
+                        cell.d = sqlite3_value_double(v);
+                        break;
+                    case SQLITE_TEXT: {
+                        const auto* p = sqlite3_value_text(v);
+                        cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
+                        cell.text = store.copy(p, cell.len);
+                        break;
+                    }
+                    case SQLITE_BLOB: {
+                        const void* p = sqlite3_value_blob(v);
+                        cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
+                        cell.text = store.copy(p, cell.len);
+                        break;
+                    }
+                    default:
+                        break;
+                }
+            }
+        }
+        if (rc != SQLITE_DONE) conn->fail(context("reading"));
+        loaded = true;
+        visible = rows.size();
+        pos = 0;
+    }
+
+    void ensureLoaded() {
+        if (!loaded) load();
+    }
+
+    [[nodiscard]] bool atEnd() const { return pos >= rows.size(); }
+
+    void requireCurrent() const {
+        if (pos >= rows.size() || !rows[pos].visible()) throwNoCurrent();
+    }
+
+    [[nodiscard]] bool updatable() const { return !table.empty() && rowidCol >= 0; }
+
+    void requireWritable() const {
+        if (readOnly || !updatable()) throwNotUpdatable();
+    }
+
+    [[nodiscard]] Value decode(const Cell& cell, FieldType type) const {
+        switch (cell.kind) {
+            case SQLITE_INTEGER: {
+                const int64_t i = cell.i;
+                switch (type) {
+                    case FieldType::Bool:
+                        return Value(i != 0);
+                    case FieldType::Int16:
+                        if (fitsInt16(i)) return Value(static_cast<int16_t>(i));
+                        [[fallthrough]];
+                    case FieldType::Int32:
+                    case FieldType::Expr:
+                        if (fitsInt32(i)) return Value(static_cast<int32_t>(i));
+                        return Value(static_cast<double>(i));
+                    case FieldType::Double:
+                        return Value(static_cast<double>(i));
+                    case FieldType::Date:
+                        return Value(Date{static_cast<double>(i)});
+                    case FieldType::Text:
+                        return Value(std::to_string(i));
+                }
+                break;
+            }
+            case SQLITE_FLOAT:
+                switch (type) {
+                    case FieldType::Bool:
+                        return Value(cell.d != 0.0);
+                    case FieldType::Date:
+                        return Value(Date{cell.d});
+                    case FieldType::Text:
+                        return Value(Value(cell.d).toText());
+                    default:
+                        return Value(cell.d);
+                }
+            case SQLITE_TEXT:
+            case SQLITE_BLOB: {
+                const std::string_view text(cell.text, cell.len);
+                if (type == FieldType::Date) {
+                    if (auto serial = dateserial::fromIso(text)) return Value(Date{*serial});
+                    try {
+                        return Value(Value(std::string(text)).toDate());
+                    } catch (const Failure&) {
+                    }
+                } else if (type == FieldType::Bool) {
+                    try {
+                        return Value(Value(std::string(text)).toBool());
+                    } catch (const Failure&) {
+                    }
+                }
+                return Value(std::string(text));
+            }
+            default:
+                break;
+        }
+        return {};
+    }
+
+    [[nodiscard]] Value valueAt(size_t r, size_t c) const {
+        const Row& row = rows[r];
+        if (row.edit && row.edit->has[c]) return row.edit->vals[c];
+        if (!row.cells) return {};
+        return decode(row.cells[c], cols[c].type);
+    }
+
+    int findColumn(std::string_view name) const {
+        for (size_t i = 0; i < cols.size(); ++i)
+            if (equalsNoCase(cols[i].name, name)) return static_cast<int>(i);
+        return -1;
+    }
+
+    // --- editing -----------------------------------------------------------
+
+    void beginEdit() {
+        if (editRow == static_cast<ptrdiff_t>(pos)) return;
+        if (editRow >= 0) endEdit();
+        Row& row = rows[pos];
+        editRow = static_cast<ptrdiff_t>(pos);
+        editSnapshot = row.edit ? std::make_unique<Edit>(*row.edit) : nullptr;
+        editPrevState = row.state;
+        editIsAddNew = false;
+    }
+
+    void endEdit() {
+        editRow = -1;
+        editSnapshot.reset();
+        editIsAddNew = false;
+    }
+
+    void assign(size_t c, const Value& v) {
+        requireOpen();
+        requireWritable();
+        ensureLoaded();
+        requireCurrent();
+        const Column& col = cols[c];
+        if (col.origin.empty())
+            throw Failure(
+                err::StoreFailure,
+                "Insufficient base table information for updating or refreshing. (field " + col.name + ")",
+                "Recordset");
+        Value converted = convertFor(col.type, v);  // may throw: nothing changed yet
+        beginEdit();
+        Row& row = rows[pos];
+        if (!row.edit) row.edit = std::make_unique<Edit>(cols.size());
+        row.edit->vals[c] = std::move(converted);
+        row.edit->has[c] = 1;
+        row.edit->dirty[c] = 1;
+        if (row.state == RowState::Clean) row.state = RowState::Modified;
+    }
+
+    void deleteRow(size_t r) {
+        Row& row = rows[r];
+        if (!row.visible()) return;
+        if (editRow == static_cast<ptrdiff_t>(r)) endEdit();
+        row.state = row.state == RowState::New ? RowState::Gone : RowState::Deleted;
+        --visible;
+    }
+
+    void moveToVisibleFrom(size_t i) {
+        while (i < rows.size() && !rows[i].visible()) ++i;
+        pos = i;
+    }
+
+    // --- writing back ------------------------------------------------------
+
+    [[nodiscard]] bool pending(const Row& row) const {
+        return row.state == RowState::New || row.state == RowState::Modified ||
+               row.state == RowState::Deleted;
+    }
+
+    void step(sqlite3_stmt* stmt, const std::string& ctx) {
+        if (sqlite3_step(stmt) != SQLITE_DONE) conn->fail(ctx);
+    }
+
+    // Writes every pending change in one transaction: all or nothing.
+    void flush() {
+        std::vector<size_t> work;
+        for (size_t i = 0; i < rows.size(); ++i)
+            if (pending(rows[i])) work.push_back(i);
+        if (work.empty()) return;
+        if (readOnly || !updatable()) throwNotUpdatable();
+
+        sqlite3* db = conn->handle();
+        const std::string qTable = jet::quoteIdentifier(table);
+        const std::string ctx =
+            conn->where("writing the changes of table " + table + " of \"" + source + "\"");
+        const bool outer = sqlite3_get_autocommit(db) != 0;
+        conn->exec(outer ? "BEGIN IMMEDIATE" : "SAVEPOINT qv_batch", ctx);
+        std::vector<int64_t> newIds(work.size(), 0);
+        try {
+            for (size_t k = 0; k < work.size(); ++k) {
+                Row& row = rows[work[k]];
+                if (row.state == RowState::Deleted) {
+                    auto st = conn->prepare("DELETE FROM " + qTable + " WHERE rowid=?", ctx);
+                    sqlite3_bind_int64(st.get(), 1, row.rowid);
+                    step(st.get(), ctx);
+                } else if (row.state == RowState::New) {
+                    std::string names;
+                    std::string marks;
+                    for (size_t c = 0; c < cols.size(); ++c) {
+                        if (!row.edit->has[c]) continue;
+                        if (!names.empty()) {
+                            names += ", ";
+                            marks += ", ";
+                        }
+                        names += jet::quoteIdentifier(cols[c].origin);
+                        marks += "?";
+                    }
+                    const std::string sql =
+                        names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
+                                      : "INSERT INTO " + qTable + " (" + names + ") VALUES (" + marks + ")";
+                    auto st = conn->prepare(sql, ctx);
+                    int b = 1;
+                    for (size_t c = 0; c < cols.size(); ++c)
+                        if (row.edit->has[c]) bindValue(st.get(), b++, row.edit->vals[c]);
+                    step(st.get(), ctx);
+                    newIds[k] = sqlite3_last_insert_rowid(db);
+                } else {
+                    std::string sets;
+                    for (size_t c = 0; c < cols.size(); ++c) {
+                        if (!row.edit->dirty[c]) continue;
+                        if (!sets.empty()) sets += ", ";
+                        sets += jet::quoteIdentifier(cols[c].origin) + "=?";
+                    }
+                    if (sets.empty()) continue;
+                    auto st = conn->prepare("UPDATE " + qTable + " SET " + sets + " WHERE rowid=?", ctx);
+                    int b = 1;
+                    for (size_t c = 0; c < cols.size(); ++c)
+                        if (row.edit->dirty[c]) bindValue(st.get(), b++, row.edit->vals[c]);
+                    sqlite3_bind_int64(st.get(), b, row.rowid);
+                    step(st.get(), ctx);
+                    if (sqlite3_changes(db) == 0)
+                        throw Failure(err::StoreFailure,
+                                      "Row cannot be located for updating. Some values may have "
+                                      "been changed since it was last read. (" +
+                                          ctx + ")",
+                                      "Recordset");
+                }
+            }
+            conn->exec(outer ? "COMMIT" : "RELEASE qv_batch", ctx);
+        } catch (...) {
+            if (outer) {
+                sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
+            } else {
+                sqlite3_exec(db, "ROLLBACK TO qv_batch", nullptr, nullptr, nullptr);
+                sqlite3_exec(db, "RELEASE qv_batch", nullptr, nullptr, nullptr);
+            }
+            throw;
+        }
+        // Written: the local rows follow.
+        for (size_t k = 0; k < work.size(); ++k) {
+            Row& row = rows[work[k]];
+            if (row.state == RowState::Deleted) {
+                row.state = RowState::Gone;
+                continue;
+            }
+            if (row.state == RowState::New) row.rowid = newIds[k];
+            row.state = RowState::Clean;
+            if (row.edit) std::fill(row.edit->dirty.begin(), row.edit->dirty.end(), 0);
+        }
+    }
+};
+
+// ---------------------------------------------------------------------------
+
+const std::string& Field::Name() const {
+    rs_->d_->requireOpen();
+    return rs_->d_->cols[static_cast<size_t>(index_)].name;
+}
+
+Value Field::value() const {
+    auto& d = *rs_->d_;
+    d.requireOpen();
+    d.ensureLoaded();
+    d.requireCurrent();
+    return d.valueAt(d.pos, static_cast<size_t>(index_));
+}
+
+void Field::setValue(const Value& v) {
+    rs_->d_->assign(static_cast<size_t>(index_), v);
+}
+
+// ---------------------------------------------------------------------------
+
+Recordset::Recordset() : d_(std::make_unique<Impl>()) {}
+
+Recordset::~Recordset() = default;
+
+void Recordset::Open(const std::string& source, const std::string& connString, int32_t cursor, int32_t lock,
+                     int32_t options) {
+    if (d_->open) throwAlreadyOpen();
+    const int32_t effCursor = cursor != -1 ? cursor : CursorType;
+    const int32_t effLock = lock != -1 ? lock : LockType;
+
+    auto conn = Connection::forConnString(connString);
+    const std::string sql = jet::translate(source);
+    const jet::SelectShape shape = jet::analyse(sql);
+    const std::string ctx = conn->where("opening the query \"" + source + "\"");
+
+    Connection::Statement st;
+    std::string chosen;
+    bool withRowid = false;
+    if (shape.isSelect) {
+        std::string rowidSql = jet::withRowid(sql, shape);
+        if (!rowidSql.empty()) {
+            st = conn->tryPrepare(rowidSql);
+            if (st) {
+                chosen = std::move(rowidSql);
+                withRowid = true;
+            }
+        }
+    }
+    if (!st) {
+        chosen = shape.isSelect ? sql.substr(0, shape.end) : sql;
+        st = conn->prepare(chosen, ctx);
+    }
+
+    sqlite3_stmt* stmt = st.get();
+    const int total = sqlite3_column_count(stmt);
+    const int n = withRowid ? total - 1 : total;
+    std::vector<Column> cols;
+    cols.reserve(static_cast<size_t>(std::max(n, 0)));
+    std::string table;
+    bool tableClash = false;
+    for (int c = 0; c < n; ++c) {
+        Column col;
+        const char* name = sqlite3_column_name(stmt, c);
+        col.name = name ? name : "";
+        col.type = typeFromDecl(sqlite3_column_decltype(stmt, c));
+        const char* t = sqlite3_column_table_name(stmt, c);
+        const char* o = sqlite3_column_origin_name(stmt, c);
+        if (withRowid && t && o) {
+            if (table.empty())
+                table = t;
+            else if (!equalsNoCase(table, t))
+                tableClash = true;
+            col.origin = o;
+        }
+        cols.push_back(std::move(col));
+    }
+    st = Connection::Statement();  // hand the statement back
+
+    auto d = std::make_unique<Impl>();
+    d->source = source;
+    d->conn = std::move(conn);
+    d->selectSql = std::move(chosen);
+    d->isSelect = shape.isSelect;
+    d->countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
+    d->cols = std::move(cols);
+    d->rowidCol = withRowid ? n : -1;
+    d->table = tableClash ? std::string() : table;
+    d->readOnly = effLock == adLockReadOnly || effLock == adLockUnspecified;
+    d->batch = effLock == adLockBatchOptimistic;
+    d->open = true;
+    // A text that is no SELECT runs now, as the platform's Open runs it.
+    if (!d->isSelect) d->load();
+
+    CursorType = effCursor;
+    LockType = effLock;
+    d_ = std::move(d);
+}
+
+void Recordset::Close() {
+    d_->requireOpen();
+    d_ = std::make_unique<Impl>();
+}
+
+int32_t Recordset::State() const {
+    return d_->open ? adStateOpen : adStateClosed;
+}
+
+int32_t Recordset::RecordCount() {
+    d_->requireOpen();
+    if (!d_->loaded && !d_->countSql.empty()) {
+        Connection::Statement st = d_->conn->tryPrepare(d_->countSql);
+        if (st) {
+            const int rc = sqlite3_step(st.get());
+            if (rc == SQLITE_ROW) {
+                const int64_t n = sqlite3_column_int64(st.get(), 0);
+                return n > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
+                                                               : static_cast<int32_t>(n);
+            }
+            d_->conn->fail(d_->context("counting the rows of"));
+        }
+    }
+    d_->ensureLoaded();
+    return static_cast<int32_t>(d_->visible);
+}
+
+bool Recordset::EOF_() {
+    d_->requireOpen();
+    d_->ensureLoaded();
+    return d_->atEnd();
+}
+
+bool Recordset::BOF_() {
+    d_->requireOpen();
+    d_->ensureLoaded();
+    return d_->visible == 0 && d_->atEnd();
+}
+
+void Recordset::MoveFirst() {
+    d_->requireOpen();
+    d_->ensureLoaded();
+    if (d_->editRow >= 0) Update();
+    d_->moveToVisibleFrom(0);
+}
+
+void Recordset::MoveNext() {
+    d_->requireOpen();
+    d_->ensureLoaded();
+    if (d_->atEnd()) throwNoCurrent();
+    if (d_->editRow >= 0) Update();
+    d_->moveToVisibleFrom(d_->pos + 1);
+}
+
+Field Recordset::Fields(const std::string& name) {
+    d_->requireOpen();
+    const int i = d_->findColumn(name);
+    if (i < 0) throwNotFound();
+    return Field(*this, i);
+}
+
+int32_t Recordset::FieldCount() {
+    d_->requireOpen();
+    return static_cast<int32_t>(d_->cols.size());
+}
+
+Field Recordset::FieldAt(int index) {
+    d_->requireOpen();
+    if (index < 0 || static_cast<size_t>(index) >= d_->cols.size()) throwNotFound();
+    return Field(*this, index);
+}
+
+void Recordset::AddNew() {
+    d_->requireOpen();
+    d_->requireWritable();
+    d_->ensureLoaded();
+    if (d_->editRow >= 0) Update();
+    Row row;
+    row.state = RowState::New;
+    row.edit = std::make_unique<Edit>(d_->cols.size());
+    d_->rows.push_back(std::move(row));
+    ++d_->visible;
+    d_->posBeforeAddNew = d_->pos;
+    d_->pos = d_->rows.size() - 1;
+    d_->editRow = static_cast<ptrdiff_t>(d_->pos);
+    d_->editSnapshot.reset();
+    d_->editPrevState = RowState::New;
+    d_->editIsAddNew = true;
+}
+
+void Recordset::Update() {
+    d_->requireOpen();
+    if (d_->editRow < 0) return;
+    d_->endEdit();
+    if (!d_->batch) d_->flush();
+}
+
+void Recordset::UpdateBatch(int32_t /*affect*/) {
+    d_->requireOpen();
+    if (!d_->loaded) return;  // nothing read, nothing changed
+    if (d_->editRow >= 0) d_->endEdit();
+    d_->flush();
+}
+
+void Recordset::CancelUpdate() {
+    d_->requireOpen();
+    auto& d = *d_;
+    if (d.editRow < 0) return;
+    Row& row = d.rows[static_cast<size_t>(d.editRow)];
+    if (d.editIsAddNew) {
+        row.state = RowState::Gone;
+        --d.visible;
+        // Back to the row that was current before AddNew (or the end).
+        const size_t before = d.posBeforeAddNew;
+        d.pos = before >= static_cast<size_t>(d.editRow) ? d.rows.size() : before;
+    } else {
+        row.edit = std::move(d.editSnapshot);
+        row.state = d.editPrevState;
+    }
+    d.endEdit();
+}
+
+void Recordset::Delete(int32_t affect) {
+    d_->requireOpen();
+    d_->requireWritable();
+    d_->ensureLoaded();
+    if (affect == adAffectAll || affect == adAffectAllChapters) {
+        for (size_t i = 0; i < d_->rows.size(); ++i) d_->deleteRow(i);
+    } else {
+        d_->requireCurrent();
+        d_->deleteRow(d_->pos);
+    }
+    if (!d_->batch) d_->flush();
+}
+
+void Recordset::Requery(int32_t /*options*/) {
+    d_->requireOpen();
+    d_->reset();
+    if (!d_->isSelect) d_->load();
+}
+
+const std::string& Recordset::Source() const {
+    return d_->source;
+}
+
+// ---------------------------------------------------------------------------
+
+std::string sqlLiteral(const std::string& value, char quote) {
+    std::string out;
+    out.reserve(value.size() + 2);
+    out.push_back(quote);
+    for (char c : value) {
+        if (c == quote) out.push_back(quote);
+        out.push_back(c);
+    }
+    out.push_back(quote);
+    return out;
+}
+
+}  // namespace qv

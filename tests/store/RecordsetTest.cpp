@@ -1,0 +1,550 @@
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+#include "store/Connection.h"
+#include "store/JetDialect.h"
+#include "store/Recordset.h"
+#include "toolkit/Failure.h"
+
+namespace qv {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A fresh folder (with a blank and a ";" in its name, as a user's path may
+// have) holding an SQLite file with a few tables made here.
+class RecordsetTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        std::string tmpl = (fs::temp_directory_path() / "qv rs;XXXXXX").string();
+        ASSERT_NE(::mkdtemp(tmpl.data()), nullptr);
+        dir_ = tmpl;
+        path_ = (fs::path(dir_) / "QuorvelData.mdb").string();
+        conn_ = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + path_ + ";";
+        exec(
+            "CREATE TABLE TYPES (tKey TEXT, tNull TEXT, tBool BOOLEAN, tInt16 SMALLINT, "
+            "tInt32 INTEGER, tDouble DOUBLE, tDate DATETIME, tText TEXT);"
+            "CREATE TABLE TASKS (tskGUIDID TEXT NOT NULL UNIQUE, tskDesc TEXT, tskProjectKey TEXT, "
+            "tskImp SMALLINT, tskTimeSpent INTEGER, tskCurrent BOOLEAN, tskDeadline DATETIME);"
+            "CREATE TABLE TASKAPPTS (taGUIDID TEXT, taTaskGUIDID TEXT, taProject TEXT, "
+            "taProjectGUIDID TEXT, taStartTime DATETIME, taEndTime DATETIME, taTaskDesc TEXT, "
+            "taImp SMALLINT, taDifficulty SMALLINT, taWasWorked BOOLEAN, taTimeWorked INTEGER, "
+            "taDuration INTEGER);"
+            "INSERT INTO TASKS VALUES ('T1', 'First', 'P1', 2, 30, 1, '2001-04-19T00:00:00.000');"
+            "INSERT INTO TASKS VALUES ('T2', 'Second', 'P2', 3, 0, 0, NULL);"
+            "INSERT INTO TASKS VALUES ('T3', 'Third', 'P1', 1, 15, 1, NULL);");
+    }
+
+    void TearDown() override {
+        Connection::release(path_);
+        std::error_code ec;
+        fs::permissions(path_, fs::perms::owner_all, fs::perm_options::add, ec);
+        fs::remove_all(dir_, ec);
+    }
+
+    // Direct access to the file, past the Recordset.
+    void exec(const std::string& sql) const {
+        sqlite3* db = nullptr;
+        ASSERT_EQ(sqlite3_open_v2(path_.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr),
+                  SQLITE_OK);
+        char* msg = nullptr;
+        const int rc = sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &msg);
+        EXPECT_EQ(rc, SQLITE_OK) << (msg ? msg : "") << " in " << sql;
+        sqlite3_free(msg);
+        sqlite3_close(db);
+    }
+
+    std::string readOne(const std::string& sql) const {
+        sqlite3* db = nullptr;
+        sqlite3_open_v2(path_.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+        sqlite3_stmt* st = nullptr;
+        std::string out = "<error>";
+        if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st, nullptr) == SQLITE_OK) {
+            out = "<no row>";
+            if (sqlite3_step(st) == SQLITE_ROW) {
+                const auto* t = sqlite3_column_text(st, 0);
+                out = t ? reinterpret_cast<const char*>(t) : "<null>";
+            }
+        }
+        sqlite3_finalize(st);
+        sqlite3_close(db);
+        return out;
+    }
+
+    static std::string fileBytes(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        std::ostringstream s;
+        s << in.rdbuf();
+        return s.str();
+    }
+
+    // The failure a call throws (number 0 when none).
+    static Failure failureOf(const std::function<void()>& f) {
+        try {
+            f();
+        } catch (const Failure& e) {
+            return e;
+        }
+        return Failure(0, "no failure");
+    }
+
+    RecordsetPtr open(const std::string& sql, int32_t lock = adLockBatchOptimistic) const {
+        auto rs = std::make_shared<Recordset>();
+        rs->CursorLocation = adUseClient;
+        rs->CursorType = adOpenStatic;
+        rs->LockType = lock;
+        rs->Open(sql, conn_, adOpenStatic, lock, adCmdText);
+        return rs;
+    }
+
+    std::string dir_;
+    std::string path_;
+    std::string conn_;
+};
+
+TEST_F(RecordsetTest, ConnStringGivesThePathAsItStands) {
+    EXPECT_EQ(pathFromConnString(conn_), path_);
+    EXPECT_EQ(pathFromConnString("Provider=Microsoft.Jet.OLEDB.4.0;Data Source=C:\\a b;c\\Q.mdb;"),
+              "C:\\a b;c\\Q.mdb");
+    EXPECT_EQ(pathFromConnString("Provider=MSDataShape; Data Provider=Microsoft.Jet.OLEDB.4.0;"
+                                 "Data Source=/x/y.mdb;"),
+              "/x/y.mdb");
+    EXPECT_EQ(pathFromConnString(""), "");
+    // One connection per path.
+    EXPECT_EQ(Connection::forConnString(conn_), Connection::forPath(path_));
+    const Failure f = failureOf([] {
+        Recordset rs;
+        rs.Open("SELECT * from TASKS", "");
+    });
+    EXPECT_EQ(f.number(), err::StoreFailure);
+}
+
+TEST_F(RecordsetTest, EveryColumnTypeRoundTrips) {
+    const std::string text = "Grüße, 日本 — \"quoted\" and 'single' ✓";
+    {
+        auto rs = open("SELECT * from TYPES WHERE tInt16= 6");
+        EXPECT_EQ(rs->RecordCount(), 0);
+        rs->AddNew();
+        rs->Fields("tKey") = Value("A");
+        rs->Fields("tNull") = Value();
+        rs->Fields("tBool") = Value(true);
+        rs->Fields("tInt16") = Value(int16_t{-5});
+        rs->Fields("tInt32") = Value(int32_t{123456});
+        rs->Fields("tDouble") = Value(1.5);
+        rs->Fields("tDate") = Value(Date{37000.5});
+        rs->Fields("tText") = Value(text);
+        rs->Update();
+        rs->AddNew();
+        rs->Fields("tKey") = Value("B");
+        rs->Fields("tBool") = Value(false);
+        rs->Fields("tDate") = Value(Date{-1.25});
+        rs->Fields("tInt32") = Value("1,234");  // text into a whole-number column converts
+        rs->Fields("tDouble") = Value(int32_t{7});
+        rs->Update();
+        rs->UpdateBatch(adAffectAllChapters);
+        rs->Close();
+    }
+    // As stored: booleans 0/1, dates ISO text with milliseconds.
+    EXPECT_EQ(readOne("SELECT tBool FROM TYPES WHERE tKey='A'"), "1");
+    EXPECT_EQ(readOne("SELECT tBool FROM TYPES WHERE tKey='B'"), "0");
+    EXPECT_EQ(readOne("SELECT typeof(tBool) FROM TYPES WHERE tKey='A'"), "integer");
+    EXPECT_EQ(readOne("SELECT tDate FROM TYPES WHERE tKey='A'"), "2001-04-19T12:00:00.000");
+    EXPECT_EQ(readOne("SELECT tDate FROM TYPES WHERE tKey='B'"), "1899-12-29T06:00:00.000");
+    EXPECT_EQ(readOne("SELECT tNull IS NULL FROM TYPES WHERE tKey='A'"), "1");
+    EXPECT_EQ(readOne("SELECT tText FROM TYPES WHERE tKey='A'"), text);
+
+    auto rs = open("SELECT * from TYPES ORDER BY tKey", adLockReadOnly);
+    ASSERT_EQ(rs->RecordCount(), 2);
+    ASSERT_FALSE(rs->EOF_());
+    EXPECT_TRUE(rs->Fields("tNull").value().isNull());
+    EXPECT_EQ(rs->Fields("tBool").value(), Value(true));
+    EXPECT_EQ(rs->Fields("tBool").value().toInt32(), -1);
+    EXPECT_EQ(rs->Fields("tInt16").value(), Value(int16_t{-5}));
+    EXPECT_EQ(rs->Fields("tInt32").value(), Value(int32_t{123456}));
+    EXPECT_EQ(rs->Fields("tDouble").value(), Value(1.5));
+    EXPECT_EQ(rs->Fields("tDate").value(), Value(Date{37000.5}));
+    EXPECT_EQ(rs->Fields("tText").value(), Value(text));
+    EXPECT_EQ(rs->Fields("tText").value().kind(), Value::Kind::Text);
+    rs->MoveNext();
+    EXPECT_EQ(rs->Fields("tBool").value(), Value(false));
+    EXPECT_EQ(rs->Fields("tDate").value(), Value(Date{-1.25}));
+    EXPECT_EQ(rs->Fields("tInt32").value(), Value(int32_t{1234}));
+    EXPECT_EQ(rs->Fields("tDouble").value(), Value(7.0));
+    EXPECT_TRUE(rs->Fields("tInt16").value().isNull());
+    EXPECT_TRUE(rs->Fields("tText").value().isNull());
+    rs->MoveNext();
+    EXPECT_TRUE(rs->EOF_());
+    EXPECT_EQ(rs->FieldCount(), 8);  // the rowid that the set adds is no field
+    EXPECT_EQ(rs->FieldAt(0).Name(), "tKey");
+}
+
+TEST_F(RecordsetTest, AWrongValueFailsBeforeAnythingIsWritten) {
+    auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
+    rs->Fields("tskDesc") = Value("changed");
+    const Failure f = failureOf([&] { rs->Fields("tskTimeSpent") = Value("lots"); });
+    EXPECT_EQ(f.number(), err::TypeMismatch);
+    EXPECT_EQ(failureOf([&] { rs->Fields("tskImp") = Value(int32_t{70000}); }).number(), err::Overflow);
+    EXPECT_EQ(failureOf([&] { rs->Fields("tskDeadline") = Value("someday"); }).number(), err::TypeMismatch);
+    EXPECT_EQ(readOne("SELECT tskDesc || tskTimeSpent FROM TASKS WHERE tskGUIDID='T1'"), "First30");
+    EXPECT_EQ(rs->Fields("tskTimeSpent").value(), Value(int32_t{30}));
+    rs->CancelUpdate();
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));
+    rs->UpdateBatch();
+    EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='T1'"), "First");
+}
+
+TEST_F(RecordsetTest, WriteBackKeepsAnotherWritersChangeToAnotherColumn) {
+    auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
+    ASSERT_EQ(rs->RecordCount(), 1);
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));  // the row is read now
+    // The host changes the description of the same row meanwhile.
+    exec("UPDATE TASKS SET tskDesc='Host wrote this' WHERE tskGUIDID='T1'");
+    rs->Fields("tskImp") = Value(int16_t{4});
+    rs->Fields("tskCURRENT") = Value(false);  // names are case-blind
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='T1'"), "Host wrote this");
+    EXPECT_EQ(readOne("SELECT tskImp || '/' || tskCurrent FROM TASKS WHERE tskGUIDID='T1'"), "4/0");
+    EXPECT_EQ(readOne("SELECT group_concat(tskImp) FROM TASKS WHERE tskGUIDID<>'T1'"), "3,1");
+    rs->Requery(-1);
+    EXPECT_EQ(rs->Fields("tskdesc").value(), Value("Host wrote this"));
+    EXPECT_EQ(rs->Fields("TSKCURRENT").value(), Value(false));
+    // A second batch with nothing assigned writes nothing.
+    rs->UpdateBatch();
+    const Failure f = failureOf([&] { (void)rs->Fields("tskNoSuchColumn"); });
+    EXPECT_EQ(f.number(), 3265);
+    EXPECT_EQ(f.description(),
+              "Item cannot be found in the collection corresponding to the requested name or "
+              "ordinal.");
+}
+
+TEST_F(RecordsetTest, AKeyWithQuotesChangesNothingElse) {
+    const std::string obrien = "O'Brien";
+    const std::string quoted = "say \"hi\"; DROP TABLE TASKS; --";
+    exec(
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES ('O''Brien', 'irish', 1);"
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES "
+        "('say \"hi\"; DROP TABLE TASKS; --', 'quoted', 1);");
+    EXPECT_EQ(sqlLiteral(obrien), "'O''Brien'");
+    EXPECT_EQ(sqlLiteral("a\"b", '"'), "\"a\"\"b\"");
+
+    for (const std::string& key : {obrien, quoted}) {
+        for (char q : {'\'', '"'}) {
+            auto rs = open("SELECT * from TASKS WHERE tskGUIDID = " + sqlLiteral(key, q));
+            ASSERT_EQ(rs->RecordCount(), 1) << key << " with " << q;
+            EXPECT_EQ(rs->Fields("tskGUIDID").value(), Value(key));
+        }
+        auto rs = open("SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(key, '"'));
+        rs->Fields("tskImp") = Value(int16_t{5});
+        rs->Update();
+        rs->UpdateBatch();
+    }
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "5");
+    EXPECT_EQ(readOne("SELECT group_concat(tskGUIDID, '|') FROM TASKS WHERE tskImp=5 "
+                      "ORDER BY tskGUIDID"),
+              "O'Brien|" + quoted);
+    EXPECT_EQ(readOne("SELECT group_concat(tskImp) FROM (SELECT tskImp FROM TASKS WHERE "
+                      "tskGUIDID IN ('T1','T2','T3') ORDER BY tskGUIDID)"),
+              "2,3,1");
+}
+
+TEST_F(RecordsetTest, JetTextsRunUnchanged) {
+    exec(
+        "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taTaskDesc, taWasWorked, "
+        "taDuration) VALUES ('A1', 'T1', '2001-04-19T09:00:00.000', 'one', 0, 60),"
+        "('A2', 'T1', '2001-04-20T09:00:00.000', 'two', 1, 30),"
+        "('A3', 'T2', '2001-04-21T09:00:00.000', 'other', 0, 5);");
+    {
+        auto rs = open("SELECT tskGUIDID from TASKS WHERE tskCURRENT=TRUE", adLockReadOnly);
+        EXPECT_EQ(rs->RecordCount(), 2);
+        auto off = open("SELECT tskGUIDID from TASKS WHERE tskCurrent=FALSE", adLockReadOnly);
+        EXPECT_EQ(off->RecordCount(), 1);
+        EXPECT_EQ(off->Fields("tskGUIDID").value(), Value("T2"));
+    }
+    {
+        auto rs = open("SELECT tskGUIDID from TASKS WHERE tskProjectKey = \"P1\"", adLockReadOnly);
+        EXPECT_EQ(rs->RecordCount(), 2);
+    }
+    {
+        const std::string grid =
+            std::string(
+                "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, "
+                "TASKAPPTS.taTimeWorked, TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, ") +
+            "TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, TASKAPPTS.taProject, "
+            "TASKAPPTS.taImp, TASKAPPTS.taDifficulty" +
+            " From TASKAPPTS" + " Where (((TASKAPPTS.taTaskGUIDID) = " + "\"T1\"" + "))" +
+            " ORDER BY TASKAPPTS.taStartTime DESC;";
+        auto rs = open(grid, adLockBatchOptimistic);
+        EXPECT_EQ(rs->RecordCount(), 2);
+        EXPECT_EQ(rs->FieldCount(), 11);
+        EXPECT_EQ(rs->Fields("taGUIDID").value(), Value("A2"));
+        EXPECT_EQ(rs->Fields("taStartTime").value(), Value(Date{37001.375}));
+        EXPECT_EQ(rs->Fields("taWasWorked").value(), Value(true));
+        rs->MoveNext();
+        EXPECT_EQ(rs->Fields("taGUIDID").value(), Value("A1"));
+        // The grid's set writes back too.
+        rs->Fields("taTimeWorked") = Value(int32_t{45});
+        rs->Update();
+        rs->UpdateBatch();
+        EXPECT_EQ(readOne("SELECT taTimeWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "45");
+    }
+    {
+        auto rs =
+            open("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID ='T1'", adLockReadOnly);
+        EXPECT_EQ(rs->RecordCount(), 1);
+        EXPECT_EQ(rs->Fields("QVTOTAL").value(), Value(int32_t{90}));
+        auto none = open("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =\"none\"",
+                         adLockBatchOptimistic);
+        EXPECT_TRUE(none->Fields("qvtotal").value().isNull());
+        // An aggregate set is read-only in effect.
+        EXPECT_EQ(failureOf([&] { none->Fields("QVTOTAL") = Value(int32_t{1}); }).number(), 3251);
+    }
+    {
+        auto rs = open("SELECT prjX.tskGUIDID, tskDesc from TASKS prjX order by tskDesc", adLockReadOnly);
+        EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));
+        auto dated = open("SELECT tskGUIDID from TASKS WHERE tskDeadline = #4/19/2001#", adLockReadOnly);
+        EXPECT_EQ(dated->RecordCount(), 1);
+    }
+    // The translation itself.
+    EXPECT_EQ(jet::translate("a = \"O'B\"\"x\" and b = 'say \"hi\"'"), "a = 'O''B\"x' and b = 'say \"hi\"'");
+    EXPECT_EQ(jet::translate("[we\"ird] = #2001-04-19 12:00:00#"), "[we\"ird] = '2001-04-19T12:00:00.000'");
+    const std::string sql = "SELECT tskGUIDID from TASKS WHERE x=1 ORDER BY tskDesc;";
+    const auto shape = jet::analyse(sql);
+    EXPECT_TRUE(shape.singleTable);
+    EXPECT_EQ(jet::countQuery(sql, shape), "SELECT COUNT(*) FROM (SELECT tskGUIDID from TASKS WHERE x=1 )");
+    EXPECT_FALSE(jet::analyse("SELECT a from T, U").singleTable);
+    EXPECT_FALSE(jet::analyse("SELECT a from T JOIN U ON T.x=U.x").singleTable);
+    EXPECT_FALSE(jet::analyse("SELECT DISTINCT a from T").singleTable);
+    EXPECT_FALSE(jet::analyse("SELECT a from (SELECT a FROM T)").singleTable);
+}
+
+TEST_F(RecordsetTest, AReadOnlySetRefusesWrites) {
+    auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'", adLockReadOnly);
+    const Failure f = failureOf([&] { rs->Fields("tskDesc") = Value("no"); });
+    EXPECT_EQ(f.number(), 3251);
+    EXPECT_EQ(f.description(),
+              "Current Recordset does not support updating. This may be a limitation of the "
+              "provider, or of the selected locktype.");
+    EXPECT_EQ(failureOf([&] { rs->AddNew(); }).number(), 3251);
+    EXPECT_EQ(failureOf([&] { rs->Delete(adAffectCurrent); }).number(), 3251);
+    EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='T1'"), "First");
+
+    // The open call's lock wins over the property; -1 leaves the property.
+    Recordset a;
+    a.LockType = adLockBatchOptimistic;
+    a.Open("SELECT * from TASKS", conn_, adOpenStatic, adLockReadOnly);
+    EXPECT_EQ(a.LockType, adLockReadOnly);
+    EXPECT_EQ(failureOf([&] { a.AddNew(); }).number(), 3251);
+    Recordset b;
+    b.LockType = adLockBatchOptimistic;
+    b.Open("SELECT * from TASKS", conn_, -1, -1);
+    b.Fields("tskDesc") = Value("writable");
+    b.CancelUpdate();
+    Recordset c;
+    c.Open("SELECT * from TASKS", conn_);  // the default lock is read-only
+    EXPECT_EQ(failureOf([&] { c.Fields("tskDesc") = Value("no"); }).number(), 3251);
+}
+
+TEST_F(RecordsetTest, AddNewOnAnEmptySetQuery) {
+    auto rs = open("SELECT * from TASKS WHERE tskImp= 6");
+    EXPECT_EQ(rs->RecordCount(), 0);
+    EXPECT_TRUE(rs->EOF_());
+    EXPECT_TRUE(rs->BOF_());
+    rs->AddNew();
+    EXPECT_FALSE(rs->EOF_());
+    EXPECT_EQ(rs->RecordCount(), 1);
+    EXPECT_TRUE(rs->Fields("tskDesc").value().isNull());
+    rs->Fields("tskGUIDID") = Value("NEW");
+    rs->Fields("tskDesc") = Value("added");
+    rs->Fields("tskImp") = Value(int16_t{2});
+    rs->Fields("tskDeadline") = Value(Date{38000});
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    EXPECT_EQ(readOne("SELECT tskDesc || '|' || tskImp || '|' || tskDeadline || '|' || "
+                      "ifnull(tskTimeSpent, 'null') FROM TASKS WHERE tskGUIDID='NEW'"),
+              "added|2|2004-01-14T00:00:00.000|null");
+    // The row knows its identity now: a second change updates it, no second row.
+    rs->Fields("tskTimeSpent") = Value(int32_t{12});
+    rs->Update();
+    rs->UpdateBatch();
+    EXPECT_EQ(readOne("SELECT count(*) || '|' || max(tskTimeSpent) FROM TASKS WHERE "
+                      "tskGUIDID='NEW'"),
+              "1|12");
+    rs->Requery(-1);
+    EXPECT_EQ(rs->RecordCount(), 0);
+    EXPECT_TRUE(rs->EOF_());
+
+    // AddNew then CancelUpdate leaves nothing.
+    rs->AddNew();
+    rs->Fields("tskGUIDID") = Value("DROPPED");
+    rs->CancelUpdate();
+    EXPECT_EQ(rs->RecordCount(), 0);
+    EXPECT_TRUE(rs->EOF_());
+    rs->UpdateBatch();
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS WHERE tskGUIDID='DROPPED'"), "0");
+}
+
+TEST_F(RecordsetTest, ABatchIsAllOrNothing) {
+    auto rs = open("SELECT * from TASKS WHERE tskImp= 6");
+    rs->AddNew();
+    rs->Fields("tskGUIDID") = Value("FRESH");
+    rs->Update();
+    rs->AddNew();
+    rs->Fields("tskGUIDID") = Value("T1");  // the key is unique: this one fails
+    rs->Update();
+    const Failure f = failureOf([&] { rs->UpdateBatch(); });
+    EXPECT_EQ(f.number(), err::StoreFailure);
+    EXPECT_NE(f.description().find("UNIQUE"), std::string::npos) << f.description();
+    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "3");
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS WHERE tskGUIDID='FRESH'"), "0");
+}
+
+TEST_F(RecordsetTest, DeletesTwoRowsWithTheSameKeyInATableWithoutKey) {
+    exec(
+        "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taDuration) VALUES "
+        "('DUP', 'T1', 1), ('KEEP', 'T1', 2), ('DUP', 'T1', 3);");
+    auto rs = open("SELECT * from TASKAPPTS WHERE taTaskGUIDID='T1'");
+    // The walk of KillTA.
+    rs->Requery(-1);
+    int removed = 0;
+    ASSERT_EQ(rs->RecordCount(), 3);
+    while (!rs->EOF_()) {
+        if (rs->Fields("taGUIDID").value() == Value("DUP")) {
+            rs->Delete(adAffectCurrent);
+            rs->Update();
+            rs->UpdateBatch(adAffectAllChapters);
+            ++removed;
+            EXPECT_EQ(failureOf([&] { (void)rs->Fields("taGUIDID").value(); }).number(), 3021);
+        }
+        rs->MoveNext();
+    }
+    EXPECT_EQ(removed, 2);
+    EXPECT_EQ(rs->RecordCount(), 1);
+    EXPECT_EQ(readOne("SELECT group_concat(taGUIDID) FROM TASKAPPTS"), "KEEP");
+    rs->Requery(-1);
+    EXPECT_EQ(rs->RecordCount(), 1);
+
+    // A pending delete drops out of the count before it is written.
+    exec("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID) VALUES ('X', 'T1');");
+    rs->Requery(-1);
+    rs->MoveFirst();
+    rs->Delete(adAffectCurrent);
+    EXPECT_EQ(rs->RecordCount(), 1);
+    rs->MoveNext();
+    EXPECT_FALSE(rs->EOF_());
+    rs->MoveNext();
+    EXPECT_TRUE(rs->EOF_());
+    EXPECT_EQ(failureOf([&] { rs->MoveNext(); }).number(), 3021);
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKAPPTS"), "2");
+    rs->UpdateBatch();
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKAPPTS"), "1");
+}
+
+TEST_F(RecordsetTest, RecordCountDoesNotLoadTheRows) {
+    auto rs = open("SELECT tskGUIDID from TASKS ORDER BY tskGUIDID;", adLockReadOnly);
+    EXPECT_EQ(rs->RecordCount(), 3);
+    // Rows that come after the count are there when the set is first walked:
+    // counting read none.
+    exec("INSERT INTO TASKS (tskGUIDID) VALUES ('T4');");
+    int walked = 0;
+    for (; !rs->EOF_(); rs->MoveNext()) ++walked;
+    EXPECT_EQ(walked, 4);
+    EXPECT_EQ(rs->RecordCount(), 4);
+    // From now on the count is of the rows in hand.
+    exec("INSERT INTO TASKS (tskGUIDID) VALUES ('T5');");
+    EXPECT_EQ(rs->RecordCount(), 4);
+    rs->Requery();
+    EXPECT_EQ(rs->RecordCount(), 5);
+}
+
+TEST_F(RecordsetTest, AFileThatIsNoDatabaseFailsClearly) {
+    Connection::release(path_);
+    const std::string junk = "This is a text file, not a store.\n";
+    {
+        std::ofstream out(path_, std::ios::binary | std::ios::trunc);
+        out << junk;
+    }
+    const Failure f = failureOf([&] { open("SELECT * from TASKS"); });
+    EXPECT_EQ(f.number(), err::StoreFailure);
+    EXPECT_NE(f.description().find("not a database"), std::string::npos) << f.description();
+    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    EXPECT_EQ(fileBytes(path_), junk);
+    EXPECT_FALSE(fs::exists(path_ + "-wal"));
+
+    // A missing file is a failure too, and is not created.
+    const std::string missing = dir_ + "/Missing.mdb";
+    Recordset rs;
+    const Failure m = failureOf([&] {
+        rs.Open("SELECT * from TASKS", "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + missing + ";");
+    });
+    EXPECT_EQ(m.number(), err::StoreFailure);
+    EXPECT_NE(m.description().find(missing), std::string::npos) << m.description();
+    EXPECT_FALSE(fs::exists(missing));
+    EXPECT_EQ(rs.State(), adStateClosed);
+}
+
+TEST_F(RecordsetTest, AReadOnlyFileFailsClearlyAndStaysUnchanged) {
+    Connection::release(path_);
+    fs::permissions(path_, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    const std::string before = fileBytes(path_);
+
+    auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));  // reading works
+    rs->Fields("tskDesc") = Value("changed");
+    rs->Update();
+    const Failure f = failureOf([&] { rs->UpdateBatch(); });
+    EXPECT_EQ(f.number(), err::StoreFailure);
+    EXPECT_NE(f.description().find("read"), std::string::npos) << f.description();
+    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+
+    auto add = open("SELECT * from TASKS WHERE tskImp= 6");
+    add->AddNew();
+    add->Fields("tskGUIDID") = Value("NEW");
+    add->Update();
+    EXPECT_EQ(failureOf([&] { add->UpdateBatch(); }).number(), err::StoreFailure);
+    EXPECT_EQ(fileBytes(path_), before);
+    EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='T1'"), "First");
+}
+
+TEST_F(RecordsetTest, StateAndAClosedSet) {
+    Recordset rs;
+    EXPECT_EQ(rs.State(), adStateClosed);
+    const Failure f = failureOf([&] { (void)rs.RecordCount(); });
+    EXPECT_EQ(f.number(), 3704);
+    EXPECT_EQ(f.description(), "Operation is not allowed when the object is closed.");
+    EXPECT_EQ(failureOf([&] { (void)rs.EOF_(); }).number(), 3704);
+    EXPECT_EQ(failureOf([&] { (void)rs.Fields("tskDesc"); }).number(), 3704);
+    EXPECT_EQ(failureOf([&] { rs.MoveNext(); }).number(), 3704);
+    EXPECT_EQ(failureOf([&] { rs.UpdateBatch(); }).number(), 3704);
+    rs.Open("SELECT * from TASKS ORDER BY tskGUIDID", conn_, adOpenStatic, adLockBatchOptimistic);
+    EXPECT_EQ(rs.State(), adStateOpen);
+    EXPECT_EQ(rs.Source(), "SELECT * from TASKS ORDER BY tskGUIDID");
+    EXPECT_EQ(failureOf([&] { rs.Open("SELECT * from TASKS", conn_); }).number(), 3705);
+    Field desc = rs.Fields("tskDesc");
+    EXPECT_EQ(desc.value(), Value("First"));
+    rs.MoveNext();
+    EXPECT_EQ(desc.value(), Value("Second"));  // a field follows the current row
+    rs.MoveFirst();
+    EXPECT_EQ(desc.value(), Value("First"));
+    rs.Close();
+    EXPECT_EQ(rs.State(), adStateClosed);
+    EXPECT_EQ(failureOf([&] { rs.Close(); }).number(), 3704);
+    EXPECT_EQ(failureOf([&] { (void)desc.value(); }).number(), 3704);
+    // A query the store can't run fails with the store's words and the query.
+    const Failure bad = failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); });
+    EXPECT_EQ(bad.number(), err::StoreFailure);
+    EXPECT_NE(bad.description().find("no such table: NOSUCH"), std::string::npos) << bad.description();
+    EXPECT_EQ(rs.State(), adStateClosed);
+}
+
+}  // namespace
+}  // namespace qv

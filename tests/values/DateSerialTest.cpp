@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include "values/DateSerial.h"
+
+namespace qv {
+namespace {
+
+using namespace dateserial;
+
+TEST(DateSerial, DayNumbersOfTheDocumentedDates) {
+    EXPECT_EQ(fromCivil(1899, 12, 30), 0.0);
+    EXPECT_EQ(fromCivil(1899, 12, 31), 1.0);
+    EXPECT_EQ(fromCivil(1900, 1, 1), 2.0);
+    EXPECT_EQ(fromCivil(2001, 4, 19), 37000.0);
+    EXPECT_EQ(fromCivil(2004, 1, 14), 38000.0);
+    EXPECT_EQ(fromCivil(1900, 3, 1), 61.0);  // no 29 February 1900
+    EXPECT_EQ(dayNumber(2000, 2, 29), 36585);
+
+    const CivilTime d = toCivil(37000);
+    EXPECT_EQ(d.year, 2001);
+    EXPECT_EQ(d.month, 4);
+    EXPECT_EQ(d.day, 19);
+    EXPECT_EQ(d.hour, 0);
+    EXPECT_EQ(toCivil(2), (CivilTime{1900, 1, 1, 0, 0, 0, 0}));
+    EXPECT_EQ(toCivil(0), (CivilTime{1899, 12, 30, 0, 0, 0, 0}));
+}
+
+TEST(DateSerial, FractionsAreTheTimeOfDay) {
+    EXPECT_EQ(toCivil(37000.5), (CivilTime{2001, 4, 19, 12, 0, 0, 0}));
+    EXPECT_EQ(toCivil(37000.25), (CivilTime{2001, 4, 19, 6, 0, 0, 0}));
+    EXPECT_EQ(toCivil(0.75), (CivilTime{1899, 12, 30, 18, 0, 0, 0}));
+    EXPECT_DOUBLE_EQ(fromCivil(2001, 4, 19, 18, 0), 37000.75);
+    EXPECT_DOUBLE_EQ(fromCivil(1899, 12, 30, 10, 30, 15), (10 * 3600 + 30 * 60 + 15) / 86400.0);
+
+    // Negative serials: the day counts back, the fraction runs forward in it.
+    EXPECT_EQ(toCivil(-1.25), (CivilTime{1899, 12, 29, 6, 0, 0, 0}));
+    EXPECT_DOUBLE_EQ(fromCivil(1899, 12, 29, 6), -1.25);
+    EXPECT_EQ(toCivil(-2), (CivilTime{1899, 12, 28, 0, 0, 0, 0}));
+    EXPECT_EQ(toCivil(-0.5), (CivilTime{1899, 12, 30, 12, 0, 0, 0}));
+}
+
+TEST(DateSerial, RoundsToTheMillisecond) {
+    const double s = fromCivil(2024, 2, 29, 23, 59, 58, 123);
+    EXPECT_EQ(toCivil(s), (CivilTime{2024, 2, 29, 23, 59, 58, 123}));
+    EXPECT_EQ(toCivil(s + 0.4 / 86'400'000.0).millisecond, 123);
+    EXPECT_EQ(toCivil(s + 0.6 / 86'400'000.0).millisecond, 124);
+    // Just before midnight rounds into the next day.
+    EXPECT_EQ(toCivil(37000.99999999999), (CivilTime{2001, 4, 20, 0, 0, 0, 0}));
+    EXPECT_EQ(toCivil(-1.99999999999), (CivilTime{1899, 12, 30, 0, 0, 0, 0}));
+    EXPECT_DOUBLE_EQ(roundToMillisecond(37000.5 + 0.3 / 86'400'000.0), 37000.5);
+}
+
+TEST(DateSerial, IsoTextRoundTrip) {
+    EXPECT_EQ(toIso(37000.5), "2001-04-19T12:00:00.000");
+    EXPECT_EQ(toIso(0), "1899-12-30T00:00:00.000");
+    EXPECT_EQ(toIso(2), "1900-01-01T00:00:00.000");
+    EXPECT_EQ(toIso(-1.25), "1899-12-29T06:00:00.000");
+
+    EXPECT_DOUBLE_EQ(*fromIso("2001-04-19T12:00:00.000"), 37000.5);
+    EXPECT_DOUBLE_EQ(*fromIso("2001-04-19 12:00:00"), 37000.5);
+    EXPECT_DOUBLE_EQ(*fromIso("2001-04-19"), 37000.0);
+    EXPECT_DOUBLE_EQ(*fromIso("  2001-04-19T06:00  "), 37000.25);
+    EXPECT_DOUBLE_EQ(*fromIso("1899-12-29T06:00:00.000"), -1.25);
+
+    for (double s : {37000.0, 38000.123456, 45678.999, 1.0, 0.5, -3.75, 2958465.5}) {
+        const std::string iso = toIso(s);
+        ASSERT_TRUE(fromIso(iso).has_value()) << iso;
+        EXPECT_EQ(toIso(*fromIso(iso)), iso);
+        EXPECT_NEAR(*fromIso(iso), s, 0.5 / 86'400'000.0 + 1e-9);
+    }
+
+    EXPECT_FALSE(fromIso("").has_value());
+    EXPECT_FALSE(fromIso("2001-02-30").has_value());
+    EXPECT_FALSE(fromIso("2001-13-01").has_value());
+    EXPECT_FALSE(fromIso("2001-04-19T25:00:00").has_value());
+    EXPECT_FALSE(fromIso("4/19/2001").has_value());
+    EXPECT_FALSE(fromIso("2001-04-19T12:00:00.000 junk").has_value());
+}
+
+}  // namespace
+}  // namespace qv
