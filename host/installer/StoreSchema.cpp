@@ -7,6 +7,7 @@ namespace {
 // Declared types tell the field layer what a column holds: INTEGER is a
 // 32-bit whole number, SMALLINT a 16-bit one, BOOLEAN 0/1, DATETIME ISO text.
 // TASKS and TASKSCAT share these columns; only the checklist key differs.
+// Names that lists sort by compare without regard to case, as users expect.
 std::string taskColumns(const char* checklistColumn) {
     return std::string(
                "tskGUIDID TEXT NOT NULL UNIQUE, tskDesc TEXT, tskProject TEXT, "
@@ -31,11 +32,12 @@ std::vector<std::string> makeSchema() {
         "taProjectGUIDID TEXT, taStartTime DATETIME, taEndTime DATETIME, taTaskDesc TEXT, "
         "taImp SMALLINT, taDifficulty SMALLINT, taWasWorked BOOLEAN, taTimeWorked INTEGER, "
         "taDuration INTEGER)",
-        "CREATE TABLE PROJECTS (prjGUIDID TEXT NOT NULL UNIQUE, prjProject TEXT, "
+        "CREATE TABLE PROJECTS (prjGUIDID TEXT NOT NULL UNIQUE, prjProject TEXT COLLATE NOCASE, "
         "prjSummary TEXT, prjDeadline DATETIME, StatusLong INTEGER)",
-        "CREATE TABLE KEYWORDS (keyGUIDID TEXT NOT NULL UNIQUE, keySubject TEXT, keyKeyword TEXT)",
+        "CREATE TABLE KEYWORDS (keyGUIDID TEXT NOT NULL UNIQUE, keySubject TEXT COLLATE NOCASE, "
+        "keyKeyword TEXT COLLATE NOCASE)",
         "CREATE TABLE TaskKeywords (ktTASKGUID TEXT, ktTask TEXT, ktKEYGUID TEXT, ktKeyword TEXT)",
-        "CREATE TABLE CHECKLISTS (ckGUIDID TEXT NOT NULL UNIQUE, ckName TEXT, ckDesc TEXT, "
+        "CREATE TABLE CHECKLISTS (ckGUIDID TEXT NOT NULL UNIQUE, ckName TEXT COLLATE NOCASE, ckDesc TEXT, "
         "ckContent TEXT)",
         "CREATE TABLE Settings (SetUser TEXT, SetSettingSection TEXT, SetSettingName TEXT, "
         "SetSettingValue TEXT, SetDefault TEXT, setSettingDisplayOrd INTEGER, "
