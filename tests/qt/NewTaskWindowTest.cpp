@@ -1,0 +1,104 @@
+// The New Task dialog driven through its real window, from the host.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTest>
+#include <QTextEdit>
+
+#include "HostFixture.h"
+#include "kit/ToolCell.h"
+#include "view/HostWindow.h"
+#include "view/TaskTableModel.h"
+
+namespace qv {
+namespace {
+
+const QString kForm = "frmTask3";
+
+class NewTaskWindow : public HostFixture {
+protected:
+    static QWidget* window() { return StepRunner::formWindow(kForm); }
+    static QTextEdit* description() { return window()->findChild<QTextEdit*>("spellTask"); }
+    static QAbstractButton* button(const QString& form, const QString& name) {
+        ToolCell* c = cell(form, name);
+        return c ? qobject_cast<QAbstractButton*>(c->control()) : nullptr;
+    }
+    static bool enabled(const QString& form, const QString& name) {
+        QAbstractButton* b = button(form, name);
+        return b && b->isEnabled() && b->isVisible();
+    }
+    // Waits for the window with the start timer's defaults in.
+    static void whenOpen(StepRunner& steps, const QString& name, StepRunner::Action act) {
+        steps.when(name, [] { return window() != nullptr; }, std::move(act), kStartTimerSettleMs);
+    }
+};
+
+TEST_F(NewTaskWindow, TypedTaskLandsInTheStoreAndTheHostList) {
+    StepRunner steps;
+    whenOpen(steps, "type", [] { QTest::keyClicks(description(), "Renew the passport"); });
+    steps.when("add", [] { return enabled(kForm, "smtActions.QV2"); },
+               [] { QTest::mouseClick(button(kForm, "smtActions.QV2"), Qt::LeftButton, {}, QPoint(8, 8)); });
+    // After the save (and its banner) the close tool reads "D&one" again.
+    steps.when("done", [this] { return count("SELECT count(*) FROM TASKS") == 1 && button(kForm, "smtActions.DONE")->text() == "D&one"; },
+               [] { QTest::mouseClick(button(kForm, "smtActions.DONE"), Qt::LeftButton); });
+    openNewTask(steps);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_FALSE(shown(kForm));
+    EXPECT_EQ(count("SELECT count(*) FROM TASKS WHERE tskDesc='Renew the passport'"), 1);
+    // The host's list followed the NewTask event.
+    const TaskTableModel& list = host().window().tasks();
+    ASSERT_EQ(list.rowCount(), 1);
+    EXPECT_EQ(list.data(list.index(0, TaskTableModel::Desc)).toString(), "Renew the passport");
+    EXPECT_FALSE(list.data(list.index(0, TaskTableModel::Status)).toString().isEmpty());
+    // The dialog's own close after a save asks nothing.
+    EXPECT_TRUE(steps.messages().isEmpty()) << steps.messages().join(" | ").toStdString();
+}
+
+TEST_F(NewTaskWindow, EscapeOnAChangedDialogAsksFirst) {
+    StepRunner steps;
+    int answers = 0;
+    steps.onMessageBox([&answers](QMessageBox&) { return ++answers == 1 ? QMessageBox::No : QMessageBox::Yes; });
+    whenOpen(steps, "type", [] { QTest::keyClicks(description(), "Half a thought"); });
+    steps.then("escape", [] { QTest::keyClick(window(), Qt::Key_Escape); });
+    // No keeps the dialog as it was.
+    steps.when("still open after No", [&answers] { return answers == 1 && window() && !QApplication::activeModalWidget()->inherits("QMessageBox"); },
+               [] { QTest::keyClick(window(), Qt::Key_Escape); }, 100);
+    steps.when("closed after Yes", [] { return window() == nullptr; }, [] {});
+    openNewTask(steps);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    ASSERT_EQ(steps.messages().size(), 2);
+    EXPECT_EQ(steps.messages()[0], "Cancel creating the current task?");
+    EXPECT_EQ(count("SELECT count(*) FROM TASKS"), 0);
+}
+
+TEST_F(NewTaskWindow, ProjectAddedThroughItsWindowComesUpChosen) {
+    StepRunner steps;
+    whenOpen(steps, "new project", [] { QTest::mouseClick(button(kForm, "smtProj.kNEWPROJECT"), Qt::LeftButton); });
+    steps.when("name it", [] { return shown("frmAddProject"); }, [] {
+        auto* name = cell("frmAddProject", "smtProject.txName")->findChild<QLineEdit*>();
+        QTest::keyClicks(name, "Garden & Shed");
+        QTest::keyClicks(cell("frmAddProject", "smtProject.txSummary")->findChild<QLineEdit*>(), "Spring work");
+        QTest::mouseClick(button("frmAddProject", "smtAction.OK"), Qt::LeftButton);
+    });
+    steps.when("close Add Project", [this] { return count("SELECT count(*) FROM PROJECTS") == 1; },
+               [] { QTest::mouseClick(button("frmAddProject", "smtAction.CANCEL"), Qt::LeftButton); }, 100);
+    steps.when("chosen in the list", [this] {
+        if (shown("frmAddProject")) return false;
+        const QString key = QString::fromStdString(text("SELECT prjGUIDID FROM PROJECTS"));
+        ToolCell* option = cell(kForm, "smtProj." + key);
+        auto* radio = option ? qobject_cast<QRadioButton*>(option->control()) : nullptr;
+        return radio && radio->isChecked();
+    }, [] { QTest::mouseClick(button(kForm, "smtActions.DONE"), Qt::LeftButton); });
+    openNewTask(steps);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString()
+                                           << steps.messages().join(" | ").toStdString();
+    EXPECT_EQ(count("SELECT count(*) FROM PROJECTS WHERE prjProject='Garden & Shed'"), 1);
+}
+
+}  // namespace
+}  // namespace qv
