@@ -300,7 +300,9 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "row") return expectRow(l, false);
     if (what == "rows") return expectRow(l, true);
     if (what == "form") return expectForm(l);
-    throw std::invalid_argument("expect event, no-event, message, tool, row, rows or form");
+    if (what == "checked") return expectChecked(l);
+    if (what == "editor") return expectEditor(l);
+    throw std::invalid_argument("expect event, no-event, message, tool, checked, editor, row, rows or form");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -342,6 +344,28 @@ void ScriptRunner::expectTool(const ScriptLine& l) {
     else throw std::invalid_argument("unknown tool property " + prop);
     if (actual == l.word(4)) return pass();
     fail(l, l.word(2) + " " + prop + " is \"" + actual + "\", not \"" + l.word(4) + "\"");
+}
+
+// expect checked SHEET CAPTION: the caption of the first checked tool ("" if none).
+void ScriptRunner::expectChecked(const ScriptLine& l) {
+    Sheet* sheet = activeForm().sheet(l.word(2));
+    if (!sheet) throw std::invalid_argument("no sheet " + l.word(2));
+    std::string caption;
+    for (const auto& t : sheet->tools())
+        if (t->checked()) {
+            caption = t->caption();
+            break;
+        }
+    if (caption == l.word(3)) return pass();
+    fail(l, l.word(2) + " has \"" + caption + "\" checked, not \"" + l.word(3) + "\"");
+}
+
+// expect editor NAME TEXT: the plain text of an editor.
+void ScriptRunner::expectEditor(const ScriptLine& l) {
+    auto* ed = activeForm().editor(l.word(2));
+    if (!ed) throw std::invalid_argument("no editor " + l.word(2));
+    if (ed->text() == l.word(3)) return pass();
+    fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
 }
 
 // expect row "SELECT ..." VALUE: the first column of the first row.

@@ -60,6 +60,8 @@ private:
     void expectTool(const ScriptLine& l);
     void expectRow(const ScriptLine& l, bool count);
     void expectForm(const ScriptLine& l);
+    void expectChecked(const ScriptLine& l);
+    void expectEditor(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();
