@@ -53,8 +53,6 @@ void DateBoxView::followModel() {
     calendarWidget()->setFirstDayOfWeek(firstDay == 0 ? Qt::Sunday : static_cast<Qt::DayOfWeek>(firstDay));
     const QDate want = model_.hasDate() ? dateOf(model_.value()) : kEpoch;
     if (date() != want) setDate(want);
-    // A fresh pick starts at today, not at the empty mark.
-    if (!model_.hasDate()) calendarWidget()->setSelectedDate(QDate::currentDate());
     applying_ = false;
 }
 

@@ -1,0 +1,182 @@
+// The desktop Ui port and the editor, date box and splitter views.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include "kit/DateBoxView.h"
+#include "kit/FormView.h"
+#include "kit/FormWindow.h"
+#include "kit/QtUi.h"
+#include "kit/SpellHighlighter.h"
+#include "kit/SplitterView.h"
+#include "kit/TextEditorView.h"
+#include "kit/ViewFactory.h"
+#include "toolkit/DateBox.h"
+#include "toolkit/Form.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Splitter.h"
+#include "toolkit/TextEditor.h"
+#include "toolkit/Ui.h"
+
+namespace qv {
+namespace {
+
+// Presses the answer button of the next message box, once it is up.
+void answerNextBox(int32_t answer, QString* text = nullptr, QString* title = nullptr, QMessageBox::Icon* icon = nullptr) {
+    auto poll = std::make_shared<QTimer>();
+    poll->setInterval(10);
+    QObject::connect(poll.get(), &QTimer::timeout, [=]() mutable {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box) return;
+        poll->stop();
+        if (text) *text = box->text();
+        if (title) *title = box->windowTitle();
+        if (icon) *icon = box->icon();
+        if (auto* b = box->findChild<QPushButton*>(QStringLiteral("answer%1").arg(answer))) b->click();
+        else box->reject();
+        poll.reset();
+    });
+    poll->start();
+}
+
+TEST(QtUiPort, MessageBoxesMapStylesAndAnswers) {
+    ViewFactory views;
+    QtUi ui(views);
+    QString text, title;
+    QMessageBox::Icon icon{};
+    answerNextBox(vbNo, &text, &title, &icon);
+    EXPECT_EQ(ui.msgBox("Cancel creating the current task?", vbYesNo + vbQuestion, "Quorvel - Version 1.14"), vbNo);
+    EXPECT_EQ(text, "Cancel creating the current task?");
+    EXPECT_EQ(title, "Quorvel - Version 1.14");
+    EXPECT_EQ(icon, QMessageBox::Question);
+
+    answerNextBox(vbYes);
+    EXPECT_EQ(ui.msgBox("Sure?", vbYesNoCancel + vbExclamation, "t"), vbYes);
+    answerNextBox(vbCancel, nullptr, nullptr, &icon);
+    EXPECT_EQ(ui.msgBox("Go?", vbOKCancel + vbCritical, "t"), vbCancel);
+    EXPECT_EQ(icon, QMessageBox::Critical);
+    answerNextBox(vbOK, nullptr, nullptr, &icon);
+    EXPECT_EQ(ui.msgBox("Done.", vbInformation, "t"), vbOK);
+    EXPECT_EQ(icon, QMessageBox::Information);
+    // A box closed without a button answers Cancel where there is one.
+    answerNextBox(0);
+    EXPECT_EQ(ui.msgBox("Leave?", vbRetryCancel, "t"), vbCancel);
+}
+
+class PlainForm : public Form {
+public:
+    PlainForm() : Form("frmPlain") {}
+    int escapes = 0;
+    bool refuseClose = false;
+
+protected:
+    void Form_KeyDown(int32_t key, int32_t) override {
+        if (key == vbKeyEscape && ++escapes == 2) hide();
+    }
+    void Form_QueryUnload(bool& cancel, int32_t) override { cancel = refuseClose; }
+};
+
+TEST(QtUiPort, ModalShowEndsWhenTheModelHidesTheForm) {
+    ViewFactory views;
+    QtUi ui(views);
+    ports().ui = &ui;
+    auto form = std::make_shared<PlainForm>();
+    form->setCaption("Plain - Caption");
+    form->move(0, 0, 6000, 3000);
+    QString shownTitle;
+    bool closeRefused = false;
+    ui.setWindowBuilt([&](FormWindow& w) {
+        QTimer::singleShot(0, &w, [&, win = &w] {
+            shownTitle = win->windowTitle();
+            EXPECT_EQ(win->width(), 400);  // 6000 twips at 96 dpi
+            // The close box asks the model, which may refuse.
+            form->refuseClose = true;
+            win->close();
+            closeRefused = win->isVisible();
+            QTest::keyClick(win, Qt::Key_Escape);
+            QTest::keyClick(win, Qt::Key_Escape);
+        });
+    });
+    form->showModal();
+    EXPECT_EQ(shownTitle, "Plain - Caption");
+    EXPECT_TRUE(closeRefused);
+    EXPECT_EQ(form->escapes, 2);
+    EXPECT_FALSE(form->visible());
+    EXPECT_EQ(ui.windowOf(*form), nullptr);
+    ports().ui = nullptr;
+}
+
+TEST(DesktopViews, EditorFollowsTheModelAndMarksMisspeltWords) {
+    TextEditor model("spellTask");
+    int changes = 0;
+    model.Change.connect([&] { ++changes; });
+    TextEditorView view(model);
+    model.setText("From the model");
+    EXPECT_EQ(view.toPlainText(), "From the model");
+    EXPECT_EQ(changes, 1);
+    view.clear();
+    QTest::keyClicks(&view, "typed");
+    EXPECT_EQ(model.text(), "typed");
+    model.setReadOnly(true);
+    EXPECT_TRUE(view.isReadOnly());
+
+    EXPECT_FALSE(view.highlighter()->isOn());
+    model.setSpellCheckOn(true);
+    EXPECT_TRUE(view.highlighter()->isOn());
+    EXPECT_EQ(view.highlighter()->misspelt("the quick brwn fox jumpd"), (QStringList{"brwn", "jumpd"}));
+}
+
+TEST(DesktopViews, DateBoxShowsEmptyForNoDateAndReportsPicks) {
+    DateBox model("ctDeadline");
+    int changes = 0;
+    model.Change.connect([&] { ++changes; });
+    DateBoxView view(model);
+    EXPECT_EQ(view.text().trimmed(), "");
+    model.setDateStyle(DateBox::DayMonthYear);
+    model.setSeparator(".");
+    model.setFirstDayOfWeek(1);
+    model.setValue(45306.0);  // 2024-01-15
+    EXPECT_EQ(view.date(), QDate(2024, 1, 15));
+    EXPECT_EQ(view.text(), "15.1.2024");
+    EXPECT_EQ(view.calendarWidget()->firstDayOfWeek(), Qt::Monday);
+    EXPECT_EQ(changes, 0);  // the program's own changes are not the user's
+
+    view.setDate(QDate(2024, 2, 1));
+    EXPECT_DOUBLE_EQ(model.value(), 45323.0);
+    EXPECT_EQ(changes, 1);
+    model.clear();
+    EXPECT_EQ(view.text().trimmed(), "");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(DesktopViews, SplitterArrangementGoesThroughTheBlob) {
+    Splitter model("splitTest");
+    for (const char* name : {"A", "B", "C", "D"}) model.addPane(name);
+    model.setPaneMinimum(0, 1500, 1500);
+    model.fixPaneHeight(3, 400);
+    SplitterView view(model, {{0, 1}, {2}}, {3});
+    view.resize(600, 500);
+    view.show();
+    QApplication::processEvents();
+    EXPECT_GE(view.paneHolder(0)->minimumSizeHint().height(), 100);
+    EXPECT_EQ(view.paneHolder(3)->height(), 27);
+
+    QSplitter* column = view.splitters().at(2);
+    column->setSizes({300, 100});
+    const QList<int> arranged = column->sizes();
+    model.AboutToSave();
+    ASSERT_FALSE(model.layoutState().empty());
+    column->setSizes({100, 300});
+    model.LayoutLoaded();
+    EXPECT_EQ(column->sizes(), arranged);
+    // Someone else's blob is ignored, not applied.
+    EXPECT_FALSE(view.restoreAll(QByteArray("not ours")));
+}
+
+}  // namespace
+}  // namespace qv
