@@ -19,6 +19,8 @@ public:
     [[nodiscard]] virtual QSize minimumTwips() const { return {}; }
     // A size to open at when the form gives none, in twips.
     [[nodiscard]] virtual QSize defaultTwips() const { return {6000, 4000}; }
+    // The dialog's own limit, but never so small that the contents clip.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 private:
     Form& form_;

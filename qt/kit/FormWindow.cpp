@@ -29,9 +29,9 @@ FormWindow::FormWindow(Form& form, FormView* view, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(view);
-    // The dialog's own limit, but never so small that its contents clip.
-    const QSize min = view->minimumTwips();
-    setMinimumSize(Twips::toPixels(min.isEmpty() ? QSize(0, 0) : min, this).expandedTo(layout->minimumSize()));
+    // The view's minimum (its own limit and what its contents need) holds
+    // the window, and follows when the contents grow.
+    layout->setSizeConstraint(QLayout::SetMinimumSize);
     changed_ = EventLink(form.Changed, [this] { followModel(); });
     setWindowTitle(QString::fromStdString(form.caption()));
     applyGeometry();
@@ -76,7 +76,7 @@ void FormWindow::applyGeometry() {
         setWindowState(windowState() | Qt::WindowMaximized);
     } else {
         const QSize size = g.width > 0 && g.height > 0 ? QSize(g.width, g.height) : view_->defaultTwips();
-        const QSize px = Twips::toPixels(size, this).expandedTo(minimumSize());
+        const QSize px = Twips::toPixels(size, this).expandedTo(minimumSizeHint());
         if (px != this->size()) resize(px);
         const QPoint at(Twips::toPixels(g.left, this), Twips::toPixels(g.top, this));
         if (g.width > 0 && at != pos()) move(at);

@@ -140,7 +140,9 @@ QWidget* SheetWidget::buildBody() {
         cells_.push_back(cell);
         placeCell(column, iconRow, cell);
     }
-    if (!toolbar) column->addStretch(1);
+    const bool hasSpacer = std::any_of(cells_.begin(), cells_.end(),
+                                       [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; });
+    if (!toolbar || !hasSpacer) column->addStretch(1);
     return body;
 }
 

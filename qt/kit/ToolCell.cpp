@@ -88,12 +88,13 @@ void ToolCell::build() {
     case Kind::Icon: main_ = makeIcon(); break;
     }
     // Check boxes and options keep their own width, so a click lands on them.
-    const bool natural = kind_ == Kind::Check || kind_ == Kind::Option;
+    // On a tool bar every tool keeps its own width; spacers take the rest.
+    const bool natural = kind_ == Kind::Check || kind_ == Kind::Option || toolbar_;
     if (main_) {
         row->addWidget(main_, natural ? 0 : 1);
         main_->installEventFilter(this);
     }
-    if (kind_ == Kind::Spacer || natural) row->addStretch(1);
+    if (kind_ == Kind::Spacer || (natural && !toolbar_)) row->addStretch(1);
 }
 
 QWidget* ToolCell::makeButton() {
