@@ -1,5 +1,6 @@
 #include "view/DemoDriver.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDateEdit>
 #include <QDir>
@@ -11,6 +12,7 @@
 
 #include "kit/ToolCell.h"
 #include "view/HostApp.h"
+#include "view/HostSession.h"
 #include "view/HostWindow.h"
 
 namespace qv {
@@ -18,6 +20,13 @@ namespace qv {
 namespace {
 const QString kNewTask = "frmTask3";
 bool closed(const QString& form) { return !StepRunner::formWindow(form); }
+// After a save, and the banner's wait, the close tool reads "D&one" again.
+bool saved() {
+    QWidget* w = StepRunner::formWindow(kNewTask);
+    auto* done = w ? w->findChild<ToolCell*>("smtActions.DONE") : nullptr;
+    auto* b = done ? qobject_cast<QAbstractButton*>(done->control()) : nullptr;
+    return b && b->text() == "D&one";
+}
 }  // namespace
 
 DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
@@ -26,6 +35,8 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
         saveGrab(&box, QStringLiteral("message-%1").arg(++messages_));
         return 0;
     });
+    connect(&app_.session(), &HostSession::logged, this,
+            [](const QString& line) { qInfo("event: %s", qPrintable(line)); });
     steps_.then("host", [this] { shoot(&app_.window(), "host", allSizes_); });
     planNewTask();
     planSubDialogs();
@@ -57,8 +68,7 @@ void DemoDriver::planSubDialogs() {
     openAndShoot("smtCKActions.PICK", "frmCkPicker", "checklist-picker");
     shootWhenShown(kNewTask, "new-task-before-filing", false, 100);
     steps_.then("file in the Task Catalog", [] { StepRunner::clickTool(kNewTask, "smtActions.TC"); });
-    steps_.when("close New Task", [] { return StepRunner::formWindow(kNewTask) != nullptr; },
-                [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); }, 200);
+    steps_.when("close New Task", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
 }
 
 void DemoDriver::planFromCatalog() {
@@ -70,7 +80,7 @@ void DemoDriver::planFromCatalog() {
     shootWhenShown(kNewTask, "new-task-from-catalog", allSizes_, 900);
     steps_.then("add the task", [] { StepRunner::clickTool(kNewTask, "smtActions.QV2"); });
     shootWhenShown(kNewTask, "new-task-added", false, 200);
-    steps_.then("close New Task again", [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
+    steps_.when("close New Task again", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
 }
 
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {

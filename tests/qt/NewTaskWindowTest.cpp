@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTest>
 #include <QTextEdit>
@@ -53,6 +54,10 @@ TEST_F(NewTaskWindow, TypedTaskLandsInTheStoreAndTheHostList) {
     ASSERT_EQ(list.rowCount(), 1);
     EXPECT_EQ(list.data(list.index(0, TaskTableModel::Desc)).toString(), "Renew the passport");
     EXPECT_FALSE(list.data(list.index(0, TaskTableModel::Status)).toString().isEmpty());
+    // Every event of the session is in the host's log, in order.
+    const QString log = host().window().findChild<QPlainTextEdit*>("txtLog")->toPlainText();
+    EXPECT_TRUE(log.contains("5 NewTask")) << log.toStdString();
+    EXPECT_LT(log.indexOf("5 NewTask"), log.lastIndexOf("7 DoCloseTaskForm"));
     // The dialog's own close after a save asks nothing.
     EXPECT_TRUE(steps.messages().isEmpty()) << steps.messages().join(" | ").toStdString();
 }
