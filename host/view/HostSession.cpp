@@ -23,10 +23,15 @@ HostSession::HostSession(const std::string& folder, HostStore& store, bool inter
     : QObject(parent),
       folder_(folder),
       store_(store),
-      reporter_(std::make_shared<HostReporter>(interactive)),
-      task_(std::make_unique<clsTask2>()) {
+      reporter_(std::make_shared<HostReporter>(interactive)) {
     reporter_->setLog([this](const std::string& line) { emit logged(QString::fromStdString(line)); });
     ports().reporter = reporter_.get();
+    start();
+}
+
+void HostSession::start() {
+    task_ = std::make_unique<clsTask2>();
+    ended_ = false;
     task_->setTempErrReport(reporter_);
     task_->SetMOP(kDefaultProject);
     task_->SetTaskPrintSetting(printInfo(0));
@@ -57,6 +62,11 @@ std::vector<std::string> HostSession::userStuff() const {
 }
 
 void HostSession::open(int32_t mode, const std::string& key, const std::string& projectKey) {
+    // A session that ended on a fault is not used again: the next task gets a fresh one.
+    if (ended_) {
+        emit logged(QStringLiteral("The last session ended on a fault; starting a new one"));
+        start();
+    }
     try {
         task_->SetupTask(mode, key, userStuff(), kTaskDialogSlot, printInfo(kTaskDialogSlot), {}, projectKey);
     } catch (const std::exception& e) {

@@ -33,6 +33,7 @@ signals:
     void logged(const QString& line);
 
 private:
+    void start();
     void wire();
     void onRaised(const HostEvent& e);
     void savePrintInfo(const std::string& info, int32_t slot);

@@ -2,13 +2,13 @@
 
 #include <QDateTime>
 
-#include "values/TimeValues.h"
-
 namespace qv {
 
 namespace {
+// Hours and minutes, as the host's list writes a duration.
 QString minutesText(int32_t minutes) {
-    return minutes > 0 ? QString::fromStdString(SetTimeFormat(minutes)) : QString();
+    if (minutes <= 0) return {};
+    return QStringLiteral("%1:%2").arg(minutes / 60).arg(minutes % 60, 2, 10, QLatin1Char('0'));
 }
 }  // namespace
 

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Builds the host and saves a picture of every window of the demonstration
+# (the host, New Task empty, filled and from a catalog item with a past
+# deadline, Add Project, Add Keyword, the checklist picker), each at its
+# opening size, its minimum and a larger size.
+# Usage: scripts/screenshots.sh [application folder]   (default: build/shots)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+home=${1:-build/shots}
+cmake -S . -B build/qt -G Ninja -DQV_BUILD_BENCH=OFF >/dev/null
+ninja -C build/qt quorvel
+QT_QPA_PLATFORM=offscreen build/qt/host/quorvel --home "$home" --screenshots
