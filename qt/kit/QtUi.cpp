@@ -7,6 +7,7 @@
 #include "kit/FormWindow.h"
 #include "kit/MessageBoxes.h"
 #include "kit/ViewFactory.h"
+#include "session/globals/SessionGlobals.h"
 #include "toolkit/Form.h"
 #include "toolkit/Timer.h"
 
@@ -35,7 +36,8 @@ int32_t QtUi::msgBox(const std::string& text, int32_t style, const std::string& 
     if (!parent) parent = QApplication::activeWindow();
     const bool wasWaiting = waitCursor_;
     setWaitCursor(false);
-    const int32_t answer = MessageBoxes::ask(parent, text, style, title);
+    // A box without a title of its own carries the program's.
+    const int32_t answer = MessageBoxes::ask(parent, text, style, title.empty() ? kProgramTitle : title);
     setWaitCursor(wasWaiting);
     return answer;
 }

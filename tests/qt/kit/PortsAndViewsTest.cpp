@@ -60,9 +60,10 @@ TEST(QtUiPort, MessageBoxesMapStylesAndAnswers) {
     answerNextBox(vbCancel, nullptr, nullptr, &icon);
     EXPECT_EQ(ui.msgBox("Go?", vbOKCancel + vbCritical, "t"), vbCancel);
     EXPECT_EQ(icon, QMessageBox::Critical);
-    answerNextBox(vbOK, nullptr, nullptr, &icon);
-    EXPECT_EQ(ui.msgBox("Done.", vbInformation, "t"), vbOK);
+    answerNextBox(vbOK, nullptr, &title, &icon);
+    EXPECT_EQ(ui.msgBox("Done.", vbInformation, ""), vbOK);
     EXPECT_EQ(icon, QMessageBox::Information);
+    EXPECT_EQ(title, "Quorvel - Version 1.14");
     // A box closed without a button answers Cancel where there is one.
     answerNextBox(0);
     EXPECT_EQ(ui.msgBox("Leave?", vbRetryCancel, "t"), vbCancel);
