@@ -154,9 +154,11 @@ QWidget* ToolCell::makeList() {
         if (index < 0 || index >= static_cast<int>(items.size())) return;
         owner_.forward(items[static_cast<size_t>(index)].get(), [](Tool& t) { t.sheet()->click(t); });
     });
-    connect(box->lineEdit(), &QLineEdit::editingFinished, this, [this, box] {
-        const std::string text = box->currentText().toStdString();
-        owner_.forward(tool_, [&text](Tool& t) { t.sheet()->userEdit(t, text); });
+    // Typed text counts at once: a tool-bar click takes no focus, so waiting
+    // for the edit to finish would lose it.
+    connect(box->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
+        const std::string s = text.toStdString();
+        owner_.forward(tool_, [&s](Tool& t) { t.sheet()->userEdit(t, s); });
     });
     return box;
 }

@@ -105,5 +105,27 @@ TEST_F(NewTaskWindow, ProjectAddedThroughItsWindowComesUpChosen) {
     EXPECT_EQ(count("SELECT count(*) FROM PROJECTS WHERE prjProject='Garden & Shed'"), 1);
 }
 
+TEST_F(NewTaskWindow, KeywordAddedThroughItsWindowJoinsTheList) {
+    StepRunner steps;
+    whenOpen(steps, "new keyword", [] { QTest::mouseClick(button(kForm, "smtKeywords.kNEWKEYWORD"), Qt::LeftButton); });
+    steps.when("type it", [] { return shown("frmAddKeyword"); }, [] {
+        QTest::keyClicks(cell("frmAddKeyword", "smtKeywords.CATEGORY")->findChild<QLineEdit*>(), "Places");
+        QTest::keyClicks(cell("frmAddKeyword", "smtKeywords.KEYWORD")->findChild<QLineEdit*>(), "Garden");
+        QTest::mouseClick(button("frmAddKeyword", "smtAction.ADD"), Qt::LeftButton);
+    });
+    steps.when("close Add Keyword", [this] { return count("SELECT count(*) FROM KEYWORDS") == 1; },
+               [] { QTest::mouseClick(button("frmAddKeyword", "smtAction.OK"), Qt::LeftButton); }, 100);
+    steps.when("in the list", [this] {
+        if (shown("frmAddKeyword")) return false;
+        ToolCell* box = cell(kForm, "smtKeywords." + QString::fromStdString(text("SELECT keyGUIDID FROM KEYWORDS")));
+        return box && box->kind() == ToolCell::Kind::Check && cell(kForm, "smtKeywords.Places") != nullptr;
+    }, [] { QTest::mouseClick(button(kForm, "smtActions.DONE"), Qt::LeftButton); });
+    openNewTask(steps);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString()
+                                           << steps.messages().join(" | ").toStdString();
+    EXPECT_EQ(count("SELECT count(*) FROM KEYWORDS WHERE keySubject='Places' AND keyKeyword='Garden'"), 1);
+}
+
 }  // namespace
 }  // namespace qv

@@ -123,7 +123,7 @@ TEST_F(SheetFixture, DropDownListTakesChoiceAndTypedText) {
     EXPECT_EQ(status.text(), "Active");
     box->lineEdit()->clear();
     QTest::keyClicks(box->lineEdit(), "Waiting");
-    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    // Typed text reaches the model without Enter or a change of focus.
     EXPECT_EQ(status.text(), "Waiting");
     EXPECT_EQ(changes.back(), "STATUS=Waiting");
 }
