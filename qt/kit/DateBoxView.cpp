@@ -56,6 +56,15 @@ void DateBoxView::followModel() {
     applying_ = false;
 }
 
+void DateBoxView::mousePressEvent(QMouseEvent* e) {
+    QDateEdit::mousePressEvent(e);
+    // With no date the calendar opens on this month, not on the empty mark.
+    if (!model_.hasDate()) {
+        const QDate today = QDate::currentDate();
+        calendarWidget()->setCurrentPage(today.year(), today.month());
+    }
+}
+
 void DateBoxView::userPicked(const QDate& d) {
     if (applying_) return;
     try {

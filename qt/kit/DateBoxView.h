@@ -22,6 +22,9 @@ public:
     // The display format that the model's settings give.
     [[nodiscard]] static QString formatOf(const DateBox& model);
 
+protected:
+    void mousePressEvent(QMouseEvent* e) override;
+
 private:
     void followModel();
     void userPicked(const QDate& d);

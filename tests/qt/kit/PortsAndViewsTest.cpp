@@ -153,6 +153,14 @@ TEST(DesktopViews, DateBoxShowsEmptyForNoDateAndReportsPicks) {
     model.clear();
     EXPECT_EQ(view.text().trimmed(), "");
     EXPECT_EQ(changes, 1);
+
+    // Opening the calendar on an empty box shows this month and picks nothing.
+    view.show();
+    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 5, view.height() / 2));
+    EXPECT_EQ(view.calendarWidget()->yearShown(), QDate::currentDate().year());
+    EXPECT_EQ(view.calendarWidget()->monthShown(), QDate::currentDate().month());
+    EXPECT_FALSE(model.hasDate());
+    view.calendarWidget()->window()->hide();
 }
 
 TEST(DesktopViews, SplitterArrangementGoesThroughTheBlob) {
