@@ -66,6 +66,7 @@ void DemoDriver::planSubDialogs() {
     openAndShoot("smtProj.kNEWPROJECT", "frmAddProject", "add-project");
     openAndShoot("smtKeywords.kNEWKEYWORD", "frmAddKeyword", "add-keyword");
     openAndShoot("smtCKActions.PICK", "frmCkPicker", "checklist-picker");
+    openAndShoot("smtCKActions.NEW", "frmChecklistEditor", "checklist-editor");
     shootWhenShown(kNewTask, "new-task-before-filing", false, 100);
     steps_.then("file in the Task Catalog", [] { StepRunner::clickTool(kNewTask, "smtActions.TC"); });
     steps_.when("close New Task", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });

@@ -1,7 +1,7 @@
 #pragma once
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
-// Project, Add Keyword and the checklist picker, creates a task from the
+// Project, Add Keyword, the checklist picker and editor, creates a task from the
 // catalog item (its past deadline red) and adds it. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
