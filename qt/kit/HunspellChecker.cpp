@@ -1,6 +1,7 @@
 #include "kit/HunspellChecker.h"
 
 #include <filesystem>
+#include <future>
 
 #include <hunspell.h>
 
@@ -9,12 +10,18 @@ namespace qv {
 namespace {
 constexpr const char* kAff = "/usr/share/hunspell/en_US.aff";
 constexpr const char* kDic = "/usr/share/hunspell/en_US.dic";
-}  // namespace
 
-HunspellChecker& HunspellChecker::instance() {
-    static HunspellChecker checker(kAff, kDic);
+
+std::shared_future<std::shared_ptr<HunspellChecker>>& loading() {
+    static std::shared_future<std::shared_ptr<HunspellChecker>> checker =
+        std::async(std::launch::async, [] { return std::make_shared<HunspellChecker>(kAff, kDic); }).share();
     return checker;
 }
+}  // namespace
+
+void HunspellChecker::preload() { loading(); }
+
+HunspellChecker& HunspellChecker::instance() { return *loading().get(); }
 
 HunspellChecker::HunspellChecker(const std::string& affPath, const std::string& dicPath) {
     if (std::filesystem::exists(affPath) && std::filesystem::exists(dicPath))

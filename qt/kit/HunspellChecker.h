@@ -12,6 +12,9 @@ class HunspellChecker {
 public:
     // The shared checker; nullptr-backed (every word right) without a dictionary.
     static HunspellChecker& instance();
+    // Starts reading the dictionary in the background (it takes tens of
+    // milliseconds), so the first editor does not wait for it.
+    static void preload();
     HunspellChecker(const std::string& affPath, const std::string& dicPath);
     ~HunspellChecker();
     HunspellChecker(const HunspellChecker&) = delete;

@@ -1,5 +1,7 @@
 #include "kit/QtUi.h"
 
+#include "kit/HunspellChecker.h"
+
 #include <QApplication>
 #include <QCursor>
 
@@ -19,6 +21,7 @@ constexpr int kTimerPumpMs = 20;
 }  // namespace
 
 QtUi::QtUi(ViewFactory& views, QObject* parent) : QObject(parent), views_(views) {
+    HunspellChecker::preload();
     timerPump_.setInterval(kTimerPumpMs);
     // A timer's handler may wait in a modal window; the pump itself must go
     // on ticking meanwhile, so each pass runs from a one-shot of its own.

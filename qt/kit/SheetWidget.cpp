@@ -130,20 +130,49 @@ QWidget* SheetWidget::buildBody() {
     auto* body = new QWidget;
     body->setObjectName(objectName() + ".body");
     const bool toolbar = style_ == Style::Toolbar;
-    QBoxLayout* column = toolbar ? static_cast<QBoxLayout*>(new QHBoxLayout(body)) : new QVBoxLayout(body);
-    column->setContentsMargins(2, 2, 2, 2);
-    column->setSpacing(toolbar ? 2 : 0);
-    QBoxLayout* iconRow = nullptr;
-    int position = 0;
-    for (const auto& t : sheet_.tools()) {
-        auto* cell = new ToolCell(*t, *this, ++position, body);
-        cells_.push_back(cell);
-        placeCell(column, iconRow, cell);
+    column_ = toolbar ? static_cast<QBoxLayout*>(new QHBoxLayout(body)) : new QVBoxLayout(body);
+    column_->setContentsMargins(2, 2, 2, 2);
+    column_->setSpacing(toolbar ? 2 : 0);
+    iconRow_ = nullptr;
+    built_ = 0;
+    ++generation_;
+    if (toolbar) {
+        buildCells(body, sheet_.tools().size());
+        const bool hasSpacer = std::any_of(cells_.begin(), cells_.end(),
+                                           [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; });
+        if (!hasSpacer) column_->addStretch(1);
+        return body;
     }
-    const bool hasSpacer = std::any_of(cells_.begin(), cells_.end(),
-                                       [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; });
-    if (!toolbar || !hasSpacer) column->addStretch(1);
+    column_->addStretch(1);
+    // A long list shows its first screen at once and grows in the idle
+    // time after: two thousand keywords must not hold up the window.
+    buildCells(body, kFirstCells);
+    if (built_ < sheet_.tools().size()) scheduleMoreCells();
     return body;
+}
+
+void SheetWidget::buildCells(QWidget* body, std::size_t count) {
+    const auto& tools = sheet_.tools();
+    const std::size_t end = std::min(tools.size(), built_ + count);
+    for (; built_ < end; ++built_) {
+        auto* cell = new ToolCell(*tools[built_], *this, static_cast<int>(built_) + 1, body);
+        cells_.push_back(cell);
+        placeCell(column_, iconRow_, cell);
+    }
+}
+
+void SheetWidget::scheduleMoreCells() {
+    QTimer::singleShot(kGrowthDelayMs, this, [this, generation = generation_] {
+        if (generation != generation_ || !body_) return;
+        buildRemainingCells(kMoreCells);
+    });
+}
+
+void SheetWidget::buildRemainingCells(std::size_t count) {
+    const std::size_t before = cells_.size();
+    buildCells(body_, count);
+    for (std::size_t i = before; i < cells_.size(); ++i) cells_[i]->refresh();
+    if (built_ < sheet_.tools().size()) scheduleMoreCells();
 }
 
 void SheetWidget::placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell) {
@@ -158,14 +187,19 @@ void SheetWidget::placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* 
         if (!iconRow) {
             iconRow = new QHBoxLayout;
             iconRow->setSpacing(2);
-            column->addLayout(iconRow);
+            column->insertLayout(insertAt(column), iconRow);
             iconRow->addStretch(1);
         }
         iconRow->insertWidget(iconRow->count() - 1, cell);
         return;
     }
     iconRow = nullptr;
-    column->addWidget(cell);
+    column->insertWidget(insertAt(column), cell);
+}
+
+// Lists keep their closing stretch last; tool bars are built whole.
+int SheetWidget::insertAt(QBoxLayout* column) const {
+    return style_ == Style::List ? column->count() - 1 : column->count();
 }
 
 void SheetWidget::refresh() {
@@ -192,6 +226,7 @@ QSize SheetWidget::minimumSizeHint() const {
 
 ToolCell* SheetWidget::cellOf(const std::string& key) {
     if (pending_ || shapeOfModel() != shape_) syncNow();
+    if (built_ < sheet_.tools().size()) buildRemainingCells(sheet_.tools().size());
     for (ToolCell* c : cells_)
         if (c->tool()->key() == key) return c;
     return nullptr;

@@ -65,7 +65,15 @@ private:
     void refresh();
     void buildTitle(QBoxLayout* outer);
     QWidget* buildBody();
+    void buildCells(QWidget* body, std::size_t count);
+    void scheduleMoreCells();
+    void buildRemainingCells(std::size_t count);
     void placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell);
+    [[nodiscard]] int insertAt(QBoxLayout* column) const;
+
+    static constexpr std::size_t kFirstCells = 40;
+    static constexpr std::size_t kMoreCells = 250;
+    static constexpr int kGrowthDelayMs = 15;  // lets the window paint first
 
     Sheet& sheet_;
     Style style_;
@@ -75,6 +83,10 @@ private:
     QScrollArea* scroll_ = nullptr;
     QWidget* body_ = nullptr;
     std::vector<ToolCell*> cells_;
+    QBoxLayout* column_ = nullptr;
+    QBoxLayout* iconRow_ = nullptr;
+    std::size_t built_ = 0;      // tools of the sheet that have their cell
+    unsigned generation_ = 0;    // a rebuild drops the growth of the old body
     std::vector<Shape> shape_;
     bool pending_ = false;
     int forwarding_ = 0;
