@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "dialogs/newtask/frmTask3.h"
+#include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
 #include "support/BenchStore.h"
 #include "session/clsTask2.h"
@@ -37,69 +38,9 @@ const std::vector<std::string> kSections = {
     "Difficulty", "Time Needed", "TAS", "TASKWINDOW", "ETASK", "ETASK", "Points",
     "OutLookIntegration", "OutlookProfileString"};
 
-std::string key(char kind, int n) {
-    char buf[40];
-    snprintf(buf, sizeof buf, "%c%07d-0000-0000-0000-000000000000", kind, n);
-    return buf;
-}
-
-void execOrThrow(sqlite3* db, const std::string& sql) {
-    char* message = nullptr;
-    if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &message) != SQLITE_OK) {
-        const std::string why = message ? message : "?";
-        sqlite3_free(message);
-        throw std::runtime_error(why);
-    }
-}
-
-// Bulk rows in one transaction, through prepared statements.
-void fill(sqlite3* db) {
-    execOrThrow(db, "BEGIN");
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v2(db, "INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES (?, ?)", -1, &st, nullptr);
-    for (int i = 0; i < kProjects; ++i) {
-        const std::string k = key('P', i), name = "Project " + std::to_string(i);
-        sqlite3_bind_text(st, 1, k.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 2, name.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_step(st);
-        sqlite3_reset(st);
-    }
-    sqlite3_finalize(st);
-    sqlite3_prepare_v2(db, "INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES (?, ?, ?)", -1, &st,
-                       nullptr);
-    for (int i = 0; i < kKeywords; ++i) {
-        const std::string k = key('K', i), subject = "Subject " + std::to_string(i % kSubjects),
-                          word = "Keyword " + std::to_string(i);
-        sqlite3_bind_text(st, 1, k.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 2, subject.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 3, word.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_step(st);
-        sqlite3_reset(st);
-    }
-    sqlite3_finalize(st);
-    sqlite3_prepare_v2(db,
-                       "INSERT INTO TASKS (tskGUIDID, tskDesc, tskProjectKey, tskStatus, tskImp, tskDifficulty, "
-                       "tskCurrent) VALUES (?, ?, ?, 3, 1, 1, ?)",
-                       -1, &st, nullptr);
-    for (int i = 0; i < kTasks; ++i) {
-        const std::string k = key('T', i), desc = "Task " + std::to_string(i), proj = key('P', i % kProjects);
-        sqlite3_bind_text(st, 1, k.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 2, desc.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_text(st, 3, proj.c_str(), -1, SQLITE_TRANSIENT);
-        sqlite3_bind_int(st, 4, i % 10 == 0);
-        sqlite3_step(st);
-        sqlite3_reset(st);
-    }
-    sqlite3_finalize(st);
-    execOrThrow(db, "COMMIT");
-}
-
 struct LargeStore : bench::BenchStore {
     LargeStore() : bench::BenchStore("newtask-bench") {
-        sqlite3* db = nullptr;
-        sqlite3_open(storePath().c_str(), &db);
-        fill(db);
-        sqlite3_close(db);
+        fillSampleStore(storePath(), {kTasks, kProjects, kKeywords, kSubjects});
     }
 };
 
