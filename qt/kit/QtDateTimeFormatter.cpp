@@ -9,8 +9,8 @@ QDateTime QtDateTimeFormatter::toDateTime(double serial) {
     return {QDate(p.year, p.month, p.day), QTime(p.hour, p.minute, p.second)};
 }
 
-std::string QtDateTimeFormatter::shortDate(double serial) const {
-    return locale_.toString(toDateTime(serial).date(), QLocale::ShortFormat).toStdString();
+bool QtDateTimeFormatter::twelveHour() const {
+    return locale_.timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive);
 }
 
 std::string QtDateTimeFormatter::longDate(double serial) const {
@@ -23,7 +23,8 @@ std::string QtDateTimeFormatter::shortTime(double serial) const {
 }
 
 std::string QtDateTimeFormatter::longTime(double serial) const {
-    return locale_.toString(toDateTime(serial).time(), QLocale::LongFormat).toStdString();
+    if (twelveHour()) return DateTimeFormatter::longTime(serial);
+    return toDateTime(serial).time().toString(QStringLiteral("HH:mm:ss")).toStdString();
 }
 
 }  // namespace qv
