@@ -63,7 +63,14 @@ void DemoDriver::planNewTask() {
 }
 
 void DemoDriver::planSubDialogs() {
-    openAndShoot("smtProj.kNEWPROJECT", "frmAddProject", "add-project");
+    // A fresh store has no project, and a task needs one: make it here.
+    openAndShoot("smtProj.kNEWPROJECT", "frmAddProject", "add-project", [](QWidget* w) {
+        for (const auto& [cell, text] : {std::pair{"smtProject.txName", "Quarterly Reports"},
+                                         std::pair{"smtProject.txSummary", "Reports for the board"}})
+            if (auto* c = w->findChild<ToolCell*>(cell))
+                if (auto* edit = c->findChild<QLineEdit*>()) StepRunner::typeInto(edit, text);
+        StepRunner::clickTool("frmAddProject", "smtAction.OK");
+    });
     openAndShoot("smtKeywords.kNEWKEYWORD", "frmAddKeyword", "add-keyword");
     openAndShoot("smtCKActions.PICK", "frmCkPicker", "checklist-picker");
     openAndShoot("smtCKActions.NEW", "frmChecklistEditor", "checklist-editor");
@@ -93,17 +100,21 @@ void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool s
         settleMs);
 }
 
-void DemoDriver::openAndShoot(const QString& cell, const QString& form, const QString& name) {
+void DemoDriver::openAndShoot(const QString& cell, const QString& form, const QString& name,
+                              std::function<void(QWidget*)> use) {
     steps_.when("open " + name, [] { return StepRunner::formWindow(kNewTask) != nullptr; },
                 [cell] { StepRunner::clickTool(kNewTask, cell); });
     steps_.when(name, [form] { return StepRunner::formWindow(form) != nullptr; },
-                [this, form, name] {
+                [this, form, name, use] {
                     if (QWidget* w = StepRunner::formWindow(form)) {
                         shoot(w, name, allSizes_);
-                        w->close();
+                        if (use) use(w);
                     }
                 },
                 300);
+    steps_.then("close " + name, [form] {
+        if (QWidget* w = StepRunner::formWindow(form)) w->close();
+    });
     steps_.when(name + " closed", [form] { return closed(form); }, [] {});
 }
 

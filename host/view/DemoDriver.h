@@ -6,6 +6,8 @@
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
 
+#include <functional>
+
 #include <QObject>
 #include <QStringList>
 
@@ -32,7 +34,8 @@ private:
     void planFromCatalog();
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
-    void openAndShoot(const QString& cell, const QString& form, const QString& name);
+    void openAndShoot(const QString& cell, const QString& form, const QString& name,
+                      std::function<void(QWidget*)> use = {});
     void shoot(QWidget* w, const QString& name, bool sizes);
     void saveGrab(QWidget* w, const QString& name);
 

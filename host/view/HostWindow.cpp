@@ -85,6 +85,10 @@ QWidget* HostWindow::buildTaskPage() {
     table_->verticalHeader()->hide();
     table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     table_->horizontalHeader()->setSectionResizeMode(TaskTableModel::Desc, QHeaderView::Stretch);
+    // Widths from the text they hold, not from 100,000 rows.
+    const auto& fm = fontMetrics();
+    table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
+    table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
     column->addWidget(table_, 1);
     connect(project_, &QComboBox::currentIndexChanged, this, &HostWindow::refresh);
     connect(currentOnly_, &QCheckBox::toggled, this, &HostWindow::refresh);

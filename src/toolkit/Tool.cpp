@@ -66,6 +66,9 @@ void Tool::setHostedControl(const std::string& name) {
 }
 
 void Tool::setChecked(bool c) {
+    // Only check boxes and options hold a checked state: checking the
+    // separator of an empty project list leaves no project chosen.
+    if (type_ != ttCheck && type_ != ttOption) return;
     if (c && type_ == ttOption && sheet_) {
         // Options are exclusive among their siblings.
         const auto& siblings = parent_ ? parent_->items() : sheet_->tools();

@@ -37,6 +37,8 @@ protected:
 };
 
 TEST_F(NewTaskWindow, TypedTaskLandsInTheStoreAndTheHostList) {
+    // A task needs a project; the first in the list is the default.
+    exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Home')");
     StepRunner steps;
     whenOpen(steps, "type", [] { QTest::keyClicks(description(), "Renew the passport"); });
     steps.when("add", [] { return enabled(kForm, "smtActions.QV2"); },

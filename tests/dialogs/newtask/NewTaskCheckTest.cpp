@@ -81,6 +81,19 @@ TEST_F(NewTaskCheck, MissingPicksLightTheirFlagsAndStatusIsToldByABox) {
     EXPECT_FALSE(tool("smtActions", "QV").enabled());
 }
 
+// The default of an empty project list checks the separator, which holds
+// no checked state: no project is chosen.
+TEST_F(NewTaskCheck, AnEmptyProjectListLeavesTheProjectUnset) {
+    fireTimer();
+    typeDescription("No projects yet");
+    closeHidden();
+    open();
+    EXPECT_EQ(sheet("smtProj").count(), 2);  // the separator and New Project
+    EXPECT_EQ(form().fields().utilProjectKey(), "NOPROJECT");
+    EXPECT_EQ(tool("smtReady", "PROJECTFLAG").image(), "BAD");
+    EXPECT_FALSE(tool("smtActions", "QV").enabled());
+}
+
 TEST_F(NewTaskCheck, CustomTimeAndDeadlineTime) {
     seed();
     fireTimer();
