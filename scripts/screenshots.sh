@@ -7,6 +7,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 home=${1:-build/shots}
-cmake -S . -B build/qt -G Ninja -DQV_BUILD_BENCH=OFF >/dev/null
-ninja -C build/qt quorvel
-QT_QPA_PLATFORM=offscreen build/qt/host/quorvel --home "$home" --screenshots
+scripts/setup-deps.sh
+scripts/build.sh release
+QT_QPA_PLATFORM=offscreen build/release/host/quorvel --home "$home" --screenshots
