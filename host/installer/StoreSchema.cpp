@@ -45,6 +45,10 @@ std::vector<std::string> makeSchema() {
         // Where the queries filter and sort.
         "CREATE INDEX idxTasksProject ON TASKS (tskProjectKey)",
         "CREATE INDEX idxTasksCurrent ON TASKS (tskCurrent)",
+        // New rows are added through a set opened on "tskImp= 6", which
+        // must find its nothing without reading every task.
+        "CREATE INDEX idxTasksImp ON TASKS (tskImp)",
+        "CREATE INDEX idxTasksCatImp ON TASKSCAT (tskImp)",
         "CREATE INDEX idxApptsTask ON TASKAPPTS (taTaskGUIDID)",
         "CREATE INDEX idxApptsKey ON TASKAPPTS (taGUIDID)",
         "CREATE INDEX idxTaskKeywordsTask ON TaskKeywords (ktTASKGUID)",

@@ -83,6 +83,12 @@ std::string TextCase::upper(std::string_view text) {
     out.reserve(text.size());
     std::size_t i = 0;
     while (i < text.size()) {
+        // Keys and most names are plain ASCII: no decoding for them.
+        if (const auto b = static_cast<unsigned char>(text[i]); b < 0x80) {
+            out.push_back(b >= 'a' && b <= 'z' ? static_cast<char>(b - 32) : static_cast<char>(b));
+            ++i;
+            continue;
+        }
         const std::size_t start = i;
         const char32_t c = decode(text, i);
         const char32_t u = upper(c);
