@@ -10,7 +10,9 @@
 #include <string_view>
 
 #include "store/Connection.h"
+#include "store/FieldCodec.h"
 #include "store/JetDialect.h"
+#include "store/RowStore.h"
 #include "toolkit/Failure.h"
 #include "values/DateSerial.h"
 
@@ -50,181 +52,10 @@ constexpr int32_t kErrOpen = 3705;
                   "Recordset");
 }
 
-// What a column holds, from its declared type.
-enum class FieldType : uint8_t { Expr, Bool, Int16, Int32, Double, Date, Text };
-
-char upper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
-FieldType typeFromDecl(const char* decl) {
-    if (!decl || !*decl) return FieldType::Expr;
-    std::string u(decl);
-    for (char& c : u) c = upper(c);
-    auto has = [&](const char* w) { return u.find(w) != std::string::npos; };
-    if (has("BOOL") || has("YESNO") || has("BIT")) return FieldType::Bool;
-    if (has("DATE") || has("TIME")) return FieldType::Date;
-    if (has("CHAR") || has("TEXT") || has("MEMO") || has("CLOB") || has("STRING")) return FieldType::Text;
-    if (has("SMALLINT") || has("SHORT") || has("TINYINT")) return FieldType::Int16;
-    if (has("INT") || has("LONG") || has("COUNTER")) return FieldType::Int32;
-    if (has("REAL") || has("DOUB") || has("FLOA") || has("NUMERIC") || has("DECIMAL") || has("CURRENCY") ||
-        has("MONEY") || has("SINGLE"))
-        return FieldType::Double;
-    return FieldType::Expr;
-}
-
-bool equalsNoCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) return false;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (upper(a[i]) != upper(b[i])) return false;
-    return true;
-}
-
-bool fitsInt32(int64_t i) {
-    return i >= std::numeric_limits<int32_t>::min() && i <= std::numeric_limits<int32_t>::max();
-}
-bool fitsInt16(int64_t i) {
-    return i >= std::numeric_limits<int16_t>::min() && i <= std::numeric_limits<int16_t>::max();
-}
-
-// A value as the column's declared type wants it; throws (type mismatch,
-// overflow, invalid use of null) before anything changes.
-Value convertFor(FieldType type, const Value& v) {
-    if (v.isNull()) return {};
-    switch (type) {
-        case FieldType::Bool:
-            return Value(v.toBool());
-        case FieldType::Int16:
-            return Value(v.toInt16());
-        case FieldType::Int32:
-            return Value(v.toInt32());
-        case FieldType::Double:
-            return Value(v.toDouble());
-        case FieldType::Date:
-            return Value(Date{dateserial::roundToMillisecond(v.toDate().serial)});
-        case FieldType::Text:
-            return Value(v.toText());
-        case FieldType::Expr:
-            break;
-    }
-    return v;
-}
-
-void bindValue(sqlite3_stmt* stmt, int index, const Value& v) {
-    switch (v.kind()) {
-        case Value::Kind::Null:
-            sqlite3_bind_null(stmt, index);
-            break;
-        case Value::Kind::Bool:
-            sqlite3_bind_int(stmt, index, v.toBool() ? 1 : 0);
-            break;
-        case Value::Kind::Int16:
-        case Value::Kind::Int32:
-            sqlite3_bind_int(stmt, index, v.toInt32());
-            break;
-        case Value::Kind::Double:
-            sqlite3_bind_double(stmt, index, v.toDouble());
-            break;
-        case Value::Kind::Date: {
-            const std::string iso = dateserial::toIso(v.toDate().serial);
-            sqlite3_bind_text(stmt, index, iso.data(), static_cast<int>(iso.size()), SQLITE_TRANSIENT);
-            break;
-        }
-        case Value::Kind::Text: {
-            const std::string s = v.toText();
-            sqlite3_bind_text(stmt, index, s.data(), static_cast<int>(s.size()), SQLITE_TRANSIENT);
-            break;
-        }
-    }
-}
-
 struct Column {
     std::string name;
     FieldType type = FieldType::Expr;
     std::string origin;  // the base table's column, empty for an expression
-};
-
-// One stored cell as SQLite gave it; text lives in the set's RowStore.
-struct Cell {
-    union {
-        int64_t i;
-        double d;
-        const char* text;
-    };
-    uint32_t len;
-    uint8_t kind;
-};
-
-// Memory for the rows as read: blocks that never move, so that a load never
-// copies again what it has read, whatever the number of rows. Blocks of the
-// standard size go back to a small pool of the thread when a set lets go of
-// its rows, so that the next read doesn't ask the system for fresh pages.
-class RowStore {
-public:
-    RowStore() = default;
-    RowStore(const RowStore&) = delete;
-    RowStore& operator=(const RowStore&) = delete;
-    ~RowStore() { clear(); }
-
-    void clear() {
-        auto& p = pool();
-        for (auto& b : blocks_)
-            if (b.size == kBlock && p.size() < kPoolBlocks) p.push_back(std::move(b.data));
-        blocks_.clear();
-        cur_ = nullptr;
-        left_ = 0;
-    }
-    Cell* cells(size_t n) {
-        auto* c = static_cast<Cell*>(take(n * sizeof(Cell), alignof(Cell)));
-        std::memset(static_cast<void*>(c), 0, n * sizeof(Cell));
-        return c;
-    }
-    const char* copy(const void* p, size_t len) {
-        char* dst = static_cast<char*>(take(len, 1));
-        if (len) std::memcpy(dst, p, len);
-        return dst;
-    }
-
-private:
-    static constexpr size_t kBlock = 256 * 1024;
-    static constexpr size_t kPoolBlocks = 32;  // 8 MB kept at most
-
-    struct Block {
-        std::unique_ptr<char[]> data;
-        size_t size;
-    };
-
-    static std::vector<std::unique_ptr<char[]>>& pool() {
-        thread_local std::vector<std::unique_ptr<char[]>> blocks;
-        return blocks;
-    }
-
-    void* take(size_t bytes, size_t align) {
-        size_t pad = (align - reinterpret_cast<uintptr_t>(cur_) % align) % align;
-        if (bytes + pad > left_) {
-            grow(std::max(kBlock, bytes + align));
-            pad = (align - reinterpret_cast<uintptr_t>(cur_) % align) % align;
-        }
-        char* r = cur_ + pad;
-        cur_ = r + bytes;
-        left_ -= bytes + pad;
-        return r;
-    }
-    void grow(size_t size) {
-        auto& p = pool();
-        if (size == kBlock && !p.empty()) {
-            blocks_.push_back({std::move(p.back()), size});
-            p.pop_back();
-        } else {
-            blocks_.push_back({std::unique_ptr<char[]>(new char[size]), size});
-        }
-        cur_ = blocks_.back().data.get();
-        left_ = size;
-    }
-
-    std::vector<Block> blocks_;
-    char* cur_ = nullptr;
-    size_t left_ = 0;
 };
 
 // Assigned values of a row: they override the cells as read.
@@ -367,11 +198,11 @@ struct Recordset::Impl {
                     case FieldType::Bool:
                         return Value(i != 0);
                     case FieldType::Int16:
-                        if (fitsInt16(i)) return Value(static_cast<int16_t>(i));
+                        if (FieldCodec::fitsInt16(i)) return Value(static_cast<int16_t>(i));
                         [[fallthrough]];
                     case FieldType::Int32:
                     case FieldType::Expr:
-                        if (fitsInt32(i)) return Value(static_cast<int32_t>(i));
+                        if (FieldCodec::fitsInt32(i)) return Value(static_cast<int32_t>(i));
                         return Value(static_cast<double>(i));
                     case FieldType::Double:
                         return Value(static_cast<double>(i));
@@ -425,7 +256,7 @@ struct Recordset::Impl {
 
     int findColumn(std::string_view name) const {
         for (size_t i = 0; i < cols.size(); ++i)
-            if (equalsNoCase(cols[i].name, name)) return static_cast<int>(i);
+            if (FieldCodec::equalsNoCase(cols[i].name, name)) return static_cast<int>(i);
         return -1;
     }
 
@@ -458,7 +289,7 @@ struct Recordset::Impl {
                 err::StoreFailure,
                 "Insufficient base table information for updating or refreshing. (field " + col.name + ")",
                 "Recordset");
-        Value converted = convertFor(col.type, v);  // may throw: nothing changed yet
+        Value converted = FieldCodec::convertFor(col.type, v);  // may throw: nothing changed yet
         beginEdit();
         Row& row = rows[pos];
         if (!row.edit) row.edit = std::make_unique<Edit>(cols.size());
@@ -532,7 +363,7 @@ struct Recordset::Impl {
                     auto st = conn->prepare(sql, ctx);
                     int b = 1;
                     for (size_t c = 0; c < cols.size(); ++c)
-                        if (row.edit->has[c]) bindValue(st.get(), b++, row.edit->vals[c]);
+                        if (row.edit->has[c]) FieldCodec::bindValue(st.get(), b++, row.edit->vals[c]);
                     step(st.get(), ctx);
                     newIds[k] = sqlite3_last_insert_rowid(db);
                 } else {
@@ -546,7 +377,7 @@ struct Recordset::Impl {
                     auto st = conn->prepare("UPDATE " + qTable + " SET " + sets + " WHERE rowid=?", ctx);
                     int b = 1;
                     for (size_t c = 0; c < cols.size(); ++c)
-                        if (row.edit->dirty[c]) bindValue(st.get(), b++, row.edit->vals[c]);
+                        if (row.edit->dirty[c]) FieldCodec::bindValue(st.get(), b++, row.edit->vals[c]);
                     sqlite3_bind_int64(st.get(), b, row.rowid);
                     step(st.get(), ctx);
                     if (sqlite3_changes(db) == 0)
@@ -646,13 +477,13 @@ void Recordset::Open(const std::string& source, const std::string& connString, i
         Column col;
         const char* name = sqlite3_column_name(stmt, c);
         col.name = name ? name : "";
-        col.type = typeFromDecl(sqlite3_column_decltype(stmt, c));
+        col.type = FieldCodec::typeFromDecl(sqlite3_column_decltype(stmt, c));
         const char* t = sqlite3_column_table_name(stmt, c);
         const char* o = sqlite3_column_origin_name(stmt, c);
         if (withRowid && t && o) {
             if (table.empty())
                 table = t;
-            else if (!equalsNoCase(table, t))
+            else if (!FieldCodec::equalsNoCase(table, t))
                 tableClash = true;
             col.origin = o;
         }

@@ -1,0 +1,96 @@
+#include "store/FieldCodec.h"
+
+#include <limits>
+#include <string>
+
+#include "values/DateSerial.h"
+
+namespace qv {
+
+namespace {
+char upper(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+}
+}  // namespace
+
+
+FieldType FieldCodec::typeFromDecl(const char* decl) {
+    if (!decl || !*decl) return FieldType::Expr;
+    std::string u(decl);
+    for (char& c : u) c = upper(c);
+    auto has = [&](const char* w) { return u.find(w) != std::string::npos; };
+    if (has("BOOL") || has("YESNO") || has("BIT")) return FieldType::Bool;
+    if (has("DATE") || has("TIME")) return FieldType::Date;
+    if (has("CHAR") || has("TEXT") || has("MEMO") || has("CLOB") || has("STRING")) return FieldType::Text;
+    if (has("SMALLINT") || has("SHORT") || has("TINYINT")) return FieldType::Int16;
+    if (has("INT") || has("LONG") || has("COUNTER")) return FieldType::Int32;
+    if (has("REAL") || has("DOUB") || has("FLOA") || has("NUMERIC") || has("DECIMAL") || has("CURRENCY") ||
+        has("MONEY") || has("SINGLE"))
+        return FieldType::Double;
+    return FieldType::Expr;
+}
+
+bool FieldCodec::equalsNoCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) return false;
+    for (size_t i = 0; i < a.size(); ++i)
+        if (upper(a[i]) != upper(b[i])) return false;
+    return true;
+}
+
+bool FieldCodec::fitsInt32(int64_t i) {
+    return i >= std::numeric_limits<int32_t>::min() && i <= std::numeric_limits<int32_t>::max();
+}
+bool FieldCodec::fitsInt16(int64_t i) {
+    return i >= std::numeric_limits<int16_t>::min() && i <= std::numeric_limits<int16_t>::max();
+}
+
+Value FieldCodec::convertFor(FieldType type, const Value& v) {
+    if (v.isNull()) return {};
+    switch (type) {
+        case FieldType::Bool:
+            return Value(v.toBool());
+        case FieldType::Int16:
+            return Value(v.toInt16());
+        case FieldType::Int32:
+            return Value(v.toInt32());
+        case FieldType::Double:
+            return Value(v.toDouble());
+        case FieldType::Date:
+            return Value(Date{dateserial::roundToMillisecond(v.toDate().serial)});
+        case FieldType::Text:
+            return Value(v.toText());
+        case FieldType::Expr:
+            break;
+    }
+    return v;
+}
+
+void FieldCodec::bindValue(sqlite3_stmt* stmt, int index, const Value& v) {
+    switch (v.kind()) {
+        case Value::Kind::Null:
+            sqlite3_bind_null(stmt, index);
+            break;
+        case Value::Kind::Bool:
+            sqlite3_bind_int(stmt, index, v.toBool() ? 1 : 0);
+            break;
+        case Value::Kind::Int16:
+        case Value::Kind::Int32:
+            sqlite3_bind_int(stmt, index, v.toInt32());
+            break;
+        case Value::Kind::Double:
+            sqlite3_bind_double(stmt, index, v.toDouble());
+            break;
+        case Value::Kind::Date: {
+            const std::string iso = dateserial::toIso(v.toDate().serial);
+            sqlite3_bind_text(stmt, index, iso.data(), static_cast<int>(iso.size()), SQLITE_TRANSIENT);
+            break;
+        }
+        case Value::Kind::Text: {
+            const std::string s = v.toText();
+            sqlite3_bind_text(stmt, index, s.data(), static_cast<int>(s.size()), SQLITE_TRANSIENT);
+            break;
+        }
+    }
+}
+
+}  // namespace qv

@@ -1,0 +1,31 @@
+#pragma once
+// Between the store's columns and the logic's values: what a column holds
+// from its declared type, a value converted for a column, and a value bound
+// to a statement parameter.
+
+#include <sqlite3.h>
+
+#include <cstdint>
+#include <string_view>
+
+#include "values/Value.h"
+
+namespace qv {
+
+// What a column holds, from its declared type.
+enum class FieldType : uint8_t { Expr, Bool, Int16, Int32, Double, Date, Text };
+
+class FieldCodec {
+public:
+    [[nodiscard]] static FieldType typeFromDecl(const char* decl);
+    // A value as the column's declared type wants it; throws (type mismatch,
+    // overflow, invalid use of null) before anything changes.
+    [[nodiscard]] static Value convertFor(FieldType type, const Value& v);
+    static void bindValue(sqlite3_stmt* stmt, int index, const Value& v);
+    // Column names compare without regard to case, as the engine's do.
+    [[nodiscard]] static bool equalsNoCase(std::string_view a, std::string_view b);
+    [[nodiscard]] static bool fitsInt32(int64_t i);
+    [[nodiscard]] static bool fitsInt16(int64_t i);
+};
+
+}  // namespace qv
