@@ -1,12 +1,11 @@
 #include "script/ScriptRunner.h"
 
-#include <sqlite3.h>
-
 #include <filesystem>
 #include <map>
 #include <optional>
 #include <stdexcept>
 
+#include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
@@ -183,19 +182,7 @@ void ScriptRunner::cmdHome(const ScriptLine& l) {
 
 void ScriptRunner::cmdSql(const ScriptLine& l) {
     ensureStore();
-    sqlite3* db = nullptr;
-    const auto path = (std::filesystem::path(folder_) / "QuorvelData.mdb").string();
-    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE, nullptr) != SQLITE_OK) {
-        sqlite3_close(db);
-        throw std::runtime_error("cannot open the store");
-    }
-    sqlite3_busy_timeout(db, 5000);
-    char* msg = nullptr;
-    const int rc = sqlite3_exec(db, l.word(1).c_str(), nullptr, nullptr, &msg);
-    std::string error = msg ? msg : "";
-    sqlite3_free(msg);
-    sqlite3_close(db);
-    if (rc != SQLITE_OK) throw std::runtime_error("sql: " + error);
+    StoreFile(storePath()).exec(l.word(1));
 }
 
 clsTask2& ScriptRunner::task() {
@@ -389,26 +376,12 @@ void ScriptRunner::expectForm(const ScriptLine& l) {
 }
 
 std::string ScriptRunner::queryOne(const std::string& sql) const {
-    sqlite3* db = nullptr;
-    const auto path = (std::filesystem::path(folder_) / "QuorvelData.mdb").string();
-    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr) != SQLITE_OK) {
-        sqlite3_close(db);
-        throw std::runtime_error("cannot open the store");
-    }
-    sqlite3_stmt* st = nullptr;
-    std::string result = "(no row)";
-    if (sqlite3_prepare_v2(db, sql.c_str(), -1, &st, nullptr) != SQLITE_OK) {
-        std::string error = sqlite3_errmsg(db);
-        sqlite3_close(db);
-        throw std::runtime_error("sql: " + error);
-    }
-    if (sqlite3_step(st) == SQLITE_ROW) {
-        const auto* text = sqlite3_column_text(st, 0);
-        result = text ? reinterpret_cast<const char*>(text) : "(null)";
-    }
-    sqlite3_finalize(st);
-    sqlite3_close(db);
-    return result;
+    bool isNull = false;
+    const auto value = StoreFile(storePath(), true).firstValue(sql, &isNull);
+    if (!value) return "(no row)";
+    return isNull ? "(null)" : *value;
 }
+
+std::string ScriptRunner::storePath() const { return (std::filesystem::path(folder_) / "QuorvelData.mdb").string(); }
 
 }  // namespace qv

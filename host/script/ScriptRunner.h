@@ -68,6 +68,7 @@ private:
     [[nodiscard]] Form& activeForm() const;
     Tool& toolOf(Form& form, const std::string& target, Sheet** sheet) const;
     [[nodiscard]] std::string queryOne(const std::string& sql) const;
+    [[nodiscard]] std::string storePath() const;
 
     std::ostream& out_;
     std::unique_ptr<ScriptedUi> ui_;

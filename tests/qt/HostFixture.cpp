@@ -2,8 +2,7 @@
 
 #include <stdexcept>
 
-#include <sqlite3.h>
-
+#include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "kit/ToolCell.h"
 #include "session/globals/SessionGlobals.h"
@@ -25,27 +24,10 @@ void HostFixture::TearDown() {
     resetGlobals();
 }
 
-void HostFixture::exec(const std::string& sql) const {
-    sqlite3* db = nullptr;
-    sqlite3_open((folder() + "/QuorvelData.mdb").c_str(), &db);
-    char* err = nullptr;
-    const int rc = sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &err);
-    const std::string message = err ? err : "";
-    sqlite3_free(err);
-    sqlite3_close(db);
-    if (rc != SQLITE_OK) throw std::runtime_error(message);
-}
+void HostFixture::exec(const std::string& sql) const { StoreFile(folder() + "/QuorvelData.mdb").exec(sql); }
 
 std::string HostFixture::text(const std::string& sql) const {
-    sqlite3* db = nullptr;
-    sqlite3_open((folder() + "/QuorvelData.mdb").c_str(), &db);
-    sqlite3_stmt* s = nullptr;
-    std::string value;
-    if (sqlite3_prepare_v2(db, sql.c_str(), -1, &s, nullptr) == SQLITE_OK && sqlite3_step(s) == SQLITE_ROW)
-        if (const auto* t = sqlite3_column_text(s, 0)) value = reinterpret_cast<const char*>(t);
-    sqlite3_finalize(s);
-    sqlite3_close(db);
-    return value;
+    return StoreFile(folder() + "/QuorvelData.mdb").firstValue(sql).value_or("");
 }
 
 long long HostFixture::count(const std::string& sql) const {

@@ -1,6 +1,5 @@
 #include "support/TestEnv.h"
 
-#include <sqlite3.h>
 #include <stdlib.h>
 
 #include <filesystem>
@@ -9,6 +8,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
@@ -19,20 +19,6 @@
 namespace qv {
 
 namespace {
-
-struct DbCloser {
-    void operator()(sqlite3* db) const { sqlite3_close(db); }
-};
-using Db = std::unique_ptr<sqlite3, DbCloser>;
-
-Db openStore(const std::string& path) {
-    sqlite3* raw = nullptr;
-    const int rc = sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE, nullptr);
-    Db db(raw);
-    if (rc != SQLITE_OK) throw std::runtime_error("cannot open " + path);
-    sqlite3_busy_timeout(db.get(), 2000);
-    return db;
-}
 
 std::string makeTempFolder() {
     auto pattern = (std::filesystem::temp_directory_path() / "quorvel-test-XXXXXX").string();
@@ -74,26 +60,10 @@ std::string TestEnv::settingsPath() const {
     return pathInFolder(folder_, kSettingsFileName);
 }
 
-void TestEnv::exec(const std::string& sql) const {
-    auto db = openStore(storePath());
-    char* message = nullptr;
-    if (sqlite3_exec(db.get(), sql.c_str(), nullptr, nullptr, &message) != SQLITE_OK) {
-        const std::string why = message ? message : "unknown";
-        sqlite3_free(message);
-        throw std::runtime_error(why + " in " + sql);
-    }
-}
+void TestEnv::exec(const std::string& sql) const { StoreFile(storePath()).exec(sql); }
 
 std::string TestEnv::readOne(const std::string& sql) const {
-    auto db = openStore(storePath());
-    sqlite3_stmt* st = nullptr;
-    if (sqlite3_prepare_v2(db.get(), sql.c_str(), -1, &st, nullptr) != SQLITE_OK)
-        throw std::runtime_error(std::string(sqlite3_errmsg(db.get())) + " in " + sql);
-    std::string out;
-    if (sqlite3_step(st) == SQLITE_ROW && sqlite3_column_type(st, 0) != SQLITE_NULL)
-        out = reinterpret_cast<const char*>(sqlite3_column_text(st, 0));
-    sqlite3_finalize(st);
-    return out;
+    return StoreFile(storePath()).firstValue(sql).value_or("");
 }
 
 int64_t TestEnv::readInt(const std::string& sql) const {
