@@ -30,10 +30,7 @@ bool has(const std::vector<std::string>& args, const char* flag) {
 // Returns false when the store could not be made.
 bool prepareFolder(const qv::HostOptions& opts) {
     try {
-        std::filesystem::create_directories(opts.home);
-        const bool made = qv::installStore(opts.home);
-        if (made || !std::filesystem::exists(std::filesystem::path(opts.home) / "QuorvelSettings.txt"))
-            qv::installSettingsFile(opts.home);
+        const bool made = qv::installApplicationFolder(opts.home);
         if (opts.installStoreOnly)
             std::cout << (made ? "Installed a fresh store in " : "The store stands already in ") << opts.home << "\n";
         return true;

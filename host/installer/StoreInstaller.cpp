@@ -100,4 +100,11 @@ void installSettingsFile(const std::string& folder) {
     writeSettingsFile(folder, pathInFolder(folder, kStoreFileName));
 }
 
+bool installApplicationFolder(const std::string& folder) {
+    std::filesystem::create_directories(folder);
+    const bool made = installStore(folder);
+    if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
+    return made;
+}
+
 }  // namespace qv

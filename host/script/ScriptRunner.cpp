@@ -174,9 +174,7 @@ void ScriptRunner::ensureStore() {
 void ScriptRunner::cmdHome(const ScriptLine& l) {
     if (!folder_.empty()) throw std::invalid_argument("home must come before the store is used");
     folder_ = l.word(1);
-    std::filesystem::create_directories(folder_);
-    if (installStore(folder_) || !std::filesystem::exists(std::filesystem::path(folder_) / "QuorvelSettings.txt"))
-        installSettingsFile(folder_);
+    installApplicationFolder(folder_);
     g().AppPath = folder_;
 }
 
