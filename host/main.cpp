@@ -3,7 +3,6 @@
 // demonstration by itself and saves a picture of every window it opened.
 
 #include <algorithm>
-#include <filesystem>
 #include <iostream>
 
 #include <QApplication>
