@@ -11,6 +11,7 @@
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/SpellChecking.h"
 #include "dialogs/shared/TaskPrinter.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
@@ -23,7 +24,6 @@ namespace qv {
 
 namespace {
 const char* const kModule = "frmTask3";
-const char* const kSpellSettings = "TarnvikQuorvel";
 const char* const kNoChecklistText = "(Pick a Checklist...)";
 }  // namespace
 
@@ -113,13 +113,7 @@ void frmTask3::SetupDetails() {
     });
 }
 
-void frmTask3::setSpellChecking() {
-    const bool on = g().SpellCheckOn;
-    for (TextEditor* e : {&c_.spellTask, &c_.SpellNotes}) {
-        e->setSpellCheckOn(on);
-        if (on) e->bindSettings(kSpellSettings);
-    }
-}
+void frmTask3::setSpellChecking() { applySpellChecking({&c_.spellTask, &c_.SpellNotes}); }
 
 void frmTask3::fillLevelSheets() {
     const auto& s = g();
