@@ -14,6 +14,7 @@ class QTableView;
 
 namespace qv {
 
+class AppointmentList;
 class HostSession;
 class HostStore;
 class TaskTableModel;
@@ -29,6 +30,13 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Mode 2 on the chosen appointment of the chosen task.
+    void workAppointment();
+    // A new hour's appointment for the chosen task.
+    void scheduleAppointment();
+    [[nodiscard]] AppointmentList& appointments() const { return *appointments_; }
+    // The key of the task chosen in the list, or empty.
+    [[nodiscard]] std::string chosenTask() const;
 
 private:
     void buildActions();
@@ -36,6 +44,7 @@ private:
     QWidget* buildCatalogPage();
     void buildLog();
     void refreshProjects();
+    void refreshAppointments();
     void log(const QString& line);
 
     HostStore& store_;
@@ -47,6 +56,9 @@ private:
     QListWidget* catalog_ = nullptr;
     QPlainTextEdit* log_ = nullptr;
     QAction* fromCatalog_ = nullptr;
+    AppointmentList* appointments_ = nullptr;
+    QAction* workAppointment_ = nullptr;
+    QAction* schedule_ = nullptr;
 };
 
 }  // namespace qv

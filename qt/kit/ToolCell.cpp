@@ -184,6 +184,13 @@ QWidget* ToolCell::makeTextBox() {
         const std::string s = text.toStdString();
         owner_.forward(tool_, [&s](Tool& t) { t.sheet()->userEdit(t, s); });
     });
+    // The dialog may refuse the edit when it starts, and judges it when it ends.
+    edit->installEventFilter(this);
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+        if (edit->isReadOnly() || !edit->isModified()) return;
+        edit->setModified(false);
+        owner_.forward(tool_, [](Tool& t) { t.sheet()->endEdit(t); });
+    });
     return makeLabeled(edit);
 }
 
@@ -213,6 +220,11 @@ QWidget* ToolCell::makeLabel() {
 QWidget* ToolCell::makeIcon() { return nullptr; }
 
 bool ToolCell::eventFilter(QObject* watched, QEvent* e) {
+    if (auto* edit = qobject_cast<QLineEdit*>(watched); edit && e->type() == QEvent::FocusIn) {
+        bool allowed = true;
+        owner_.forward(tool_, [&allowed](Tool& t) { allowed = t.sheet()->beginEdit(t); });
+        edit->setReadOnly(!allowed);
+    }
     if (watched == main_ && e->type() == QEvent::MouseButtonDblClick)
         owner_.forward(tool_, [](Tool& t) { t.sheet()->doubleClick(t); });
     return QWidget::eventFilter(watched, e);
@@ -230,7 +242,9 @@ void ToolCell::refresh() {
     if (caption_) caption_->setText(caption);
     if (auto* b = qobject_cast<QAbstractButton*>(main_)) {
         QSignalBlocker block(b);
-        b->setText(caption);
+        // A button that shows a reading (the stopwatch) shows it after its caption.
+        const bool reading = kind_ == Kind::Button && !t.text().empty();
+        b->setText(reading ? caption + " " + qs(t.text()) : caption);
         if (kind_ == Kind::Button || kind_ == Kind::MenuButton) b->setIcon(ToolIcons::icon(t.image()));
         if (kind_ == Kind::Check || kind_ == Kind::Option) b->setChecked(t.checked());
     }
