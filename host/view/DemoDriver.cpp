@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -19,6 +21,7 @@ namespace qv {
 
 namespace {
 const QString kNewTask = "frmTask3";
+const QString kAppointment = "frmTAS2";
 bool closed(const QString& form) { return !StepRunner::formWindow(form); }
 // After a save, and the banner's wait, the close tool reads "D&one" again.
 bool saved() {
@@ -41,7 +44,9 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
     planNewTask();
     planSubDialogs();
     planFromCatalog();
-    steps_.when("host after", [] { return closed(kNewTask); }, [this] { shoot(&app_.window(), "host-after", false); });
+    planAppointment();
+    steps_.when("host after", [] { return closed(kNewTask) && closed(kAppointment); },
+                [this] { shoot(&app_.window(), "host-after", false); });
     steps_.onFinished([] {
         StepRunner::closeAll();
         QTimer::singleShot(0, qApp, [] { QApplication::exit(0); });
@@ -89,6 +94,38 @@ void DemoDriver::planFromCatalog() {
     steps_.then("add the task", [] { StepRunner::clickTool(kNewTask, "smtActions.QV2"); });
     shootWhenShown(kNewTask, "new-task-added", false, 200);
     steps_.when("close New Task again", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
+}
+
+void DemoDriver::planAppointment() {
+    steps_.when("schedule an appointment", [] { return closed(kNewTask); }, [this] {
+        HostWindow& w = app_.window();
+        auto* table = w.findChild<QTableView*>("tblTasks");
+        if (table && table->model()->rowCount() > 0) table->setCurrentIndex(table->model()->index(0, 0));
+        w.scheduleAppointment();
+    });
+    steps_.then("work the appointment", [this] { app_.window().workAppointment(); });
+    shootWhenShown(kAppointment, "appointment-fresh", allSizes_);
+    steps_.then("time the work", [] {
+        StepRunner::clickTool(kAppointment, "smtTimes.TIMER");
+        QWidget* w = StepRunner::formWindow(kAppointment);
+        if (auto* cell = w ? w->findChild<ToolCell*>("smtTimes.TIMESPENT") : nullptr)
+            if (auto* edit = cell->findChild<QLineEdit*>()) {
+                edit->setFocus();
+                edit->selectAll();
+                StepRunner::typeInto(edit, "0:40");
+                if (auto* notes = w->findChild<QTextEdit*>("spellTask")) notes->setFocus();
+            }
+    });
+    shootWhenShown(kAppointment, "appointment-worked", allSizes_, 1200);
+    steps_.then("mark the task done", [] {
+        QWidget* w = StepRunner::formWindow(kAppointment);
+        if (auto* cell = w ? w->findChild<ToolCell*>("smtReady.DONE") : nullptr)
+            if (auto* box = cell->findChild<QAbstractButton*>()) box->click();
+        if (auto* tabs = w ? w->findChild<QTabWidget*>("Tabs1") : nullptr) tabs->setCurrentIndex(2);
+    });
+    shootWhenShown(kAppointment, "appointment-completed", allSizes_);
+    steps_.then("update the appointment", [] { StepRunner::clickTool(kAppointment, "smtActions.SAVE"); });
+    steps_.when("appointment closed", [] { return closed(kAppointment); }, [] {});
 }
 
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {

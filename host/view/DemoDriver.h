@@ -2,7 +2,8 @@
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
 // Project, Add Keyword, the checklist picker and editor, creates a task from the
-// catalog item (its past deadline red) and adds it. Every window it meets
+// catalog item (its past deadline red) and adds it, then schedules an
+// appointment for that task and works it to completion. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
 
@@ -32,6 +33,7 @@ private:
     void planNewTask();
     void planSubDialogs();
     void planFromCatalog();
+    void planAppointment();
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
     void openAndShoot(const QString& cell, const QString& form, const QString& name,
