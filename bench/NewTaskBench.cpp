@@ -14,6 +14,7 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
+#include "support/BareReads.h"
 #include "support/BenchStore.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
@@ -33,11 +34,6 @@ constexpr int kProjects = 500;
 constexpr int kKeywords = 2000;
 constexpr int kSubjects = 50;
 
-const std::vector<std::string> kSections = {
-    "DateFormats", "AppVersion", "Spellchecking", "UserStuff", "Status", "Importance Level",
-    "Difficulty", "Time Needed", "TAS", "TASKWINDOW", "ETASK", "ETASK", "Points",
-    "OutLookIntegration", "OutlookProfileString"};
-
 struct LargeStore : bench::BenchStore {
     LargeStore() : bench::BenchStore("newtask-bench") {
         fillSampleStore(storePath(), {kTasks, kProjects, kKeywords, kSubjects});
@@ -49,28 +45,14 @@ LargeStore& largeStore() {
     return s;
 }
 
-// Walks every row of a query, reading each column as text.
-int64_t walk(sqlite3* db, const std::string& sql) {
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v2(db, sql.c_str(), -1, &st, nullptr);
-    int64_t cells = 0;
-    while (sqlite3_step(st) == SQLITE_ROW)
-        for (int c = 0; c < sqlite3_column_count(st); ++c) cells += sqlite3_column_text(st, c) != nullptr;
-    sqlite3_finalize(st);
-    return cells;
-}
-
 void BM_NewTaskOpenBareReads(benchmark::State& state) {
     auto& s = largeStore();
     for (auto _ : state) {
         sqlite3* db = nullptr;
         sqlite3_open_v2(s.storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
-        int64_t cells = 0;
-        for (const auto& section : kSections)
-            cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +
-                                  "' ORDER BY setSettingDisplayOrd");
-        cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
-        cells += walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
+        int64_t cells = bench::walkSettings(db);
+        cells += bench::walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
+        cells += bench::walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
         benchmark::DoNotOptimize(cells);
         sqlite3_close(db);
     }
