@@ -49,9 +49,10 @@ QWidget* AppointmentView::buildTabs() {
     Sheet* strip = form().sheet("Tabs1");
     if (!strip) return build.sheet("smtABOUT");
     auto* tabs = new TabSheetView(*strip, this);
-    tabs->addPage(build.editorPane("lblCk", "spellCK", "smtCKActions"));
-    tabs->addPage(build.editorPane("lblNotes", "SpellNotes"));
-    tabs->addPage(build.sheet("smtABOUT"));
+    Form* f = &form();
+    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblCk", "spellCK", "smtCKActions"); });
+    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblNotes", "SpellNotes"); });
+    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).sheet("smtABOUT"); });
     return tabs;
 }
 

@@ -6,9 +6,9 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEvent>
 #include <QTemporaryDir>
 
+#include "FirstPaint.h"
 #include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
 #include "kit/FormWindow.h"
@@ -23,26 +23,10 @@ namespace {
 
 using namespace qv;
 
-// Notes the time of a window's first paint.
-class FirstPaint : public QObject {
-public:
-    explicit FirstPaint(QElapsedTimer& clock) : clock_(clock) {}
-    qint64 at = -1;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* e) override {
-        if (e->type() == QEvent::Paint && at < 0) at = clock_.nsecsElapsed();
-        return QObject::eventFilter(watched, e);
-    }
-
-private:
-    QElapsedTimer& clock_;
-};
-
 // Opens New Task, waits for its paint, and closes it by its Done tool.
 qint64 openOnce(HostApp& host) {
     QElapsedTimer clock;
-    FirstPaint paint(clock);
+    bench::FirstPaint paint(clock);
     host.ui().setWindowBuilt([&paint](FormWindow& w) {
         if (w.objectName() == "frmTask3") w.installEventFilter(&paint);
     });
@@ -79,12 +63,3 @@ void BM_NewTaskFirstPaint(benchmark::State& state) {
 BENCHMARK(BM_NewTaskFirstPaint)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

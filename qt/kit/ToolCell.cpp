@@ -149,6 +149,9 @@ QWidget* ToolCell::makeList() {
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Sized by a few characters, not by measuring every entry of a long list.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
     connect(box, &QComboBox::activated, this, [this](int index) {
         const auto& items = tool_->items();
         if (index < 0 || index >= static_cast<int>(items.size())) return;
@@ -272,7 +275,10 @@ void ToolCell::refreshList() {
     const auto& items = tool_->items();
     if (box->count() != static_cast<int>(items.size())) {
         box->clear();
-        for (const auto& i : items) box->addItem(qs(i->caption()));
+        QStringList captions;
+        captions.reserve(static_cast<qsizetype>(items.size()));
+        for (const auto& i : items) captions << qs(i->caption());
+        box->addItems(captions);
     } else {
         for (int n = 0; n < box->count(); ++n) box->setItemText(n, qs(items[static_cast<size_t>(n)]->caption()));
     }
