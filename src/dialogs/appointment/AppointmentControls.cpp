@@ -67,9 +67,9 @@ void AppointmentControls::buildAbout() {
 
 void AppointmentControls::buildActions() {
     auto& s = smtActions;
-    s.add(ttButton, "HELP", "&Help").setTip("Alt+H");
+    s.add(ttButton, "HELP", "&Help").setTip("Help with Task Appointments");
     Tool& printing = s.add(ttDropSeparator, {}, "Printin&g ");
-    printing.addItem(ttButton, "PRINT", "&Print").setTip("Ctrl+P");
+    printing.addItem(ttButton, "PRINT", "&Print");
     printing.addItem(ttButton, "PRINTPREVIEW", "Print Pr&eview");
     printing.addItem(ttButton, "PAGESETUP", "Page Se&tup");
     s.add(ttButton, "EDIT", "Edit &Task").setTip("Open the task of this appointment");

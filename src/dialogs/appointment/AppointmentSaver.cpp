@@ -9,6 +9,7 @@
 #include "dialogs/shared/UnlessEqual.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewTask.h"
 #include "store/clsStatusList.h"
 #include "toolkit/Clock.h"
@@ -94,11 +95,16 @@ bool AppointmentSaver::askBlankTimeSpent() {
     return false;
 }
 
+// One save, committed before the host hears of it. A failure on the task's
+// row leaves the slot's row stored, as two separate writes always did.
 bool AppointmentSaver::UpdateTASTask() {
     if (!ValidateTask()) return false;
     g().SettingUp = true;
+    SaveTransaction save;
     writeAppointment();
+    save.keepSoFar();
     writeTask();
+    save.commit();
     g().SettingUp = false;
     return true;
 }

@@ -6,6 +6,7 @@ namespace qv {
 
 void AppointmentFixture::SetUp() {
     TestEnv::SetUp();
+    task_.setTempErrReport(std::shared_ptr<Reporter>(&reporter(), [](Reporter*) {}));
     task_.Raised.connect([this](const HostEvent& e) { events_.push_back(e.name); });
 }
 

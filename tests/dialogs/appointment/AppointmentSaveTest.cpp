@@ -161,3 +161,37 @@ TEST_F(AppointmentSave, AChecklistRemovedIsUnlinkedAtTheSave) {
 }
 
 }  // namespace qv
+
+namespace qv {
+
+namespace {
+class AppointmentSaveFault : public AppointmentFixture {
+protected:
+    // Works the slot to a save that the store refuses at the given table.
+    void saveRefusedAt(const std::string& table) {
+        seed();
+        sql("CREATE TRIGGER refuse BEFORE UPDATE ON " + table + " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+        type("smtTimes", "TIMESPENT", "0:50");
+        click("smtActions", "SAVE");
+        open();
+    }
+};
+}  // namespace
+
+TEST_F(AppointmentSaveFault, ARefusedTaskRowLeavesTheSlotStoredAndTakesTheErrorPath) {
+    saveRefusedAt("TASKS");
+    EXPECT_EQ(slotValue("taTimeWorked"), "50") << "the slot's row was written before the task's";
+    EXPECT_EQ(taskValue("tskTimeScheduled"), "30");
+    EXPECT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(count("TASUpdated"), 0);
+    EXPECT_EQ(count("GotErrExitNow"), 1);
+}
+
+TEST_F(AppointmentSaveFault, ARefusedSlotRowStoresNothing) {
+    saveRefusedAt("TASKAPPTS");
+    EXPECT_EQ(slotValue("taTimeWorked"), "0");
+    EXPECT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(count("TASUpdated"), 0);
+}
+
+}  // namespace qv
