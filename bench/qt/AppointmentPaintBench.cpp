@@ -5,14 +5,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include "FirstPaint.h"
 #include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
-#include "kit/FormWindow.h"
-#include "kit/QtUi.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
 #include "support/SampleAppointments.h"
@@ -23,24 +20,6 @@
 namespace {
 
 using namespace qv;
-
-// Opens the appointment, waits for its paint, and cancels it.
-qint64 openOnce(HostApp& host, const std::string& slot) {
-    QElapsedTimer clock;
-    bench::FirstPaint paint(clock);
-    host.ui().setWindowBuilt([&paint](FormWindow& w) {
-        if (w.objectName() == "frmTAS2") w.installEventFilter(&paint);
-    });
-    StepRunner steps(30000);
-    steps.when("painted", [&paint] { return paint.at >= 0; },
-               [] { StepRunner::clickTool("frmTAS2", "smtActions.CANCEL"); }, 100);
-    steps.onFinished([] { StepRunner::closeAll(); });
-    steps.start();
-    clock.start();
-    host.session().workAppointment(slot);
-    host.ui().setWindowBuilt(nullptr);
-    return paint.at;
-}
 
 void BM_AppointmentFirstPaint(benchmark::State& state) {
     QTemporaryDir dir;
@@ -54,7 +33,8 @@ void BM_AppointmentFirstPaint(benchmark::State& state) {
     HostApp host(folder, false);
     const std::string slot = bench::sampleAppointmentKey(4242);
     for (auto _ : state) {
-        const qint64 ns = openOnce(host, slot);
+        const qint64 ns = bench::timeFirstPaint(host, "frmTAS2", "smtActions.CANCEL", 100,
+                                                [&host, &slot] { host.session().workAppointment(slot); });
         if (ns < 0) {
             state.SkipWithError("the Task Appointment window was never painted");
             break;

@@ -2,9 +2,16 @@
 // Notes the time of a window's first paint, on the clock the benchmark
 // started when it asked for the window.
 
+#include <functional>
+
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QObject>
+#include <QString>
+
+namespace qv {
+class HostApp;
+}
 
 namespace qv::bench {
 
@@ -22,5 +29,11 @@ protected:
 private:
     QElapsedTimer& clock_;
 };
+
+// Runs open (which blocks while the form's window is up), notes the
+// nanoseconds to the window's first paint, then clicks closeCell once the
+// window has stood for settleMs. -1 when the window never painted.
+qint64 timeFirstPaint(HostApp& host, const QString& form, const QString& closeCell, int settleMs,
+                      const std::function<void()>& open);
 
 }  // namespace qv::bench

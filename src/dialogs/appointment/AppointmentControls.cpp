@@ -1,5 +1,7 @@
 #include "dialogs/appointment/AppointmentControls.h"
 
+#include "dialogs/shared/PrintingMenu.h"
+
 namespace qv {
 
 namespace {
@@ -68,10 +70,7 @@ void AppointmentControls::buildAbout() {
 void AppointmentControls::buildActions() {
     auto& s = smtActions;
     s.add(ttButton, "HELP", "&Help").setTip("Help with Task Appointments");
-    Tool& printing = s.add(ttDropSeparator, {}, "Printin&g ");
-    printing.addItem(ttButton, "PRINT", "&Print");
-    printing.addItem(ttButton, "PRINTPREVIEW", "Print Pr&eview");
-    printing.addItem(ttButton, "PAGESETUP", "Page Se&tup");
+    PrintingMenu::add(s, "Page Se&tup");
     s.add(ttButton, "EDIT", "Edit &Task").setTip("Open the task of this appointment");
     s.add(ttSeparator);
     s.add(ttButton, "CANCEL", "C&ancel");

@@ -1,18 +1,17 @@
 #include "dialogs/appointment/AppointmentLayout.h"
 
-#include <algorithm>
-
 #include "dialogs/appointment/frmTAS2.h"
 #include "session/globals/SessionGlobals.h"
 #include "values/Settings.h"
-#include "values/WindowGeometry.h"
 
 namespace qv {
 
 namespace {
-enum Pos : std::size_t { kLeft = 0, kTop, kWidth, kHeight, kUpper, kState };
+constexpr std::size_t kUpper = 4;  // the upper pane's height in TASWindow
 constexpr int32_t kActionsHeight = 400;
 }  // namespace
+
+AppointmentLayout::AppointmentLayout(frmTAS2& f) : f_(f), geometry_(WindowGeometry::forTAS(f)) {}
 
 std::string AppointmentLayout::layoutFile() { return WindowGeometry::layoutPath("QuorvelTAS.slf"); }
 
@@ -28,19 +27,9 @@ void AppointmentLayout::restore() {
 }
 
 void AppointmentLayout::place() {
-    const auto& w = g().TASWindow;
-    auto& split = f_.controls().splitTAS;
-    switch (w[kState]) {
-        case vbNormal:
-        case vbMinimized:
-        case vbMaximized:
-            f_.move(w[kLeft], w[kTop], w[kWidth], w[kHeight]);
-            if (w[kUpper] > 0) split.setPaneHeight(paneTAUpper, w[kUpper]);
-            f_.setWindowState(w[kState] == vbMaximized ? vbMaximized : vbNormal);
-            break;
-        default:
-            break;
-    }
+    geometry_.restore();
+    const int32_t upper = g().TASWindow[kUpper];
+    if (upper > 0) f_.controls().splitTAS.setPaneHeight(paneTAUpper, upper);
 }
 
 void AppointmentLayout::loadLayoutFile() {
@@ -64,36 +53,22 @@ void AppointmentLayout::setPaneLimits() {
 }
 
 void AppointmentLayout::onResize() {
-    const auto& geo = f_.geometry();
-    auto& w = g().TASWindow;
-    if (geo.state == vbMaximized || geo.state == vbMinimized) {
-        w[kState] = geo.state;
-        return;
-    }
-    if (geo.width < kMinWidth || geo.height < kMinHeight)
-        f_.move(geo.left, geo.top, std::max(geo.width, kMinWidth), std::max(geo.height, kMinHeight));
-    keepNormalGeometry();
+    geometry_.onResize();
+    if (f_.geometry().state == vbNormal) keepUpperHeight();
 }
 
 void AppointmentLayout::onClose() {
-    if (f_.geometry().state == vbNormal) keepNormalGeometry();
-    SaveSettings();
+    if (f_.geometry().state == vbNormal) keepUpperHeight();
+    geometry_.onClose();
 }
 
 void AppointmentLayout::onEndDrag() {
-    g().TASWindow[kUpper] = f_.controls().splitTAS.pane(paneTAUpper).height;
+    keepUpperHeight();
     SaveSettings();
 }
 
-void AppointmentLayout::keepNormalGeometry() {
-    const auto& geo = f_.geometry();
-    auto& w = g().TASWindow;
-    w[kLeft] = geo.left;
-    w[kTop] = geo.top;
-    w[kWidth] = geo.width;
-    w[kHeight] = geo.height;
-    w[kUpper] = f_.controls().splitTAS.pane(paneTAUpper).height;
-    w[kState] = vbNormal;
+void AppointmentLayout::keepUpperHeight() {
+    g().TASWindow[kUpper] = f_.controls().splitTAS.pane(paneTAUpper).height;
 }
 
 void AppointmentLayout::SetVisibleTab(int32_t index) {

@@ -4,10 +4,12 @@
 // view, and the geometry kept on resize and close. TASWindow holds left
 // before top here, and the height of the pane "Upper" in position 4; a
 // window closed minimised comes back normal, not maximised as the other
-// dialogs do.
+// dialogs do (see WindowGeometry::forTAS).
 
 #include <cstdint>
 #include <string>
+
+#include "values/WindowGeometry.h"
 
 namespace qv {
 
@@ -15,10 +17,7 @@ class frmTAS2;
 
 class AppointmentLayout {
 public:
-    static constexpr int32_t kMinWidth = 8400;
-    static constexpr int32_t kMinHeight = 6300;
-
-    explicit AppointmentLayout(frmTAS2& f) : f_(f) {}
+    explicit AppointmentLayout(frmTAS2& f);
 
     [[nodiscard]] static std::string layoutFile();
     // The stored window, then the layout file, then the fixed pane limits.
@@ -34,9 +33,10 @@ private:
     void place();
     void loadLayoutFile();
     void setPaneLimits();
-    void keepNormalGeometry();
+    void keepUpperHeight();
 
     frmTAS2& f_;
+    WindowGeometry geometry_;
 };
 
 }  // namespace qv
