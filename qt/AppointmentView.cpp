@@ -1,12 +1,16 @@
 #include "AppointmentView.h"
 
+#include <utility>
+
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "kit/PaneBuilder.h"
 #include "kit/SplitterView.h"
-#include "kit/TabSheetView.h"
+#include "kit/TabStripView.h"
 #include "toolkit/Form.h"
 #include "toolkit/Splitter.h"
+#include "toolkit/TabStrip.h"
 
 namespace qv {
 
@@ -45,15 +49,33 @@ QWidget* AppointmentView::buildPane(int index) {
 }
 
 QWidget* AppointmentView::buildTabs() {
-    PaneBuilder build(form(), this);
-    Sheet* strip = form().sheet("Tabs1");
-    if (!strip) return build.sheet("smtABOUT");
-    auto* tabs = new TabSheetView(*strip, this);
+    TabStrip* strip = form().tabStrip("Tabs1");
+    if (!strip) return PaneBuilder(form(), this).sheet("smtABOUT");
+    auto* tabs = new TabStripView(*strip, this);
     Form* f = &form();
-    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblCk", "spellCK", "smtCKActions"); });
-    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblNotes", "SpellNotes"); });
-    tabs->addPage([f](QWidget* parent) { return PaneBuilder(*f, parent).sheet("smtABOUT"); });
+    waiting_ = {[f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblCk", "spellCK", "smtCKActions"); },
+                [f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblNotes", "SpellNotes"); },
+                [f](QWidget* parent) { return PaneBuilder(*f, parent).sheet("smtABOUT"); }};
+    for (std::size_t i = 0; i < waiting_.size(); ++i) {
+        auto* holder = new QWidget(tabs);
+        (new QVBoxLayout(holder))->setContentsMargins(0, 0, 0, 0);
+        panels_.push_back(holder);
+        tabs->addPanel(holder);
+    }
+    buildPanel(strip->current());
+    // A tab the dialog brings forward has its panel at once.
+    tabsChanged_ = EventLink(strip->Changed, [this, strip] { buildPanel(strip->current()); });
+    QTimer::singleShot(kIdleDelayMs, this, [this] {
+        for (int t = 0; t < static_cast<int>(panels_.size()); ++t) buildPanel(t);
+    });
     return tabs;
+}
+
+void AppointmentView::buildPanel(int tab) {
+    if (tab < 0 || tab >= static_cast<int>(waiting_.size()) || !waiting_[static_cast<std::size_t>(tab)]) return;
+    QWidget* holder = panels_[static_cast<std::size_t>(tab)];
+    auto make = std::exchange(waiting_[static_cast<std::size_t>(tab)], nullptr);
+    holder->layout()->addWidget(make(holder));
 }
 
 }  // namespace qv

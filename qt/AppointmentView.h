@@ -1,8 +1,13 @@
 #pragma once
 // The Task Appointment dialog: the description and the tabs (checklist,
 // notes, about the task) beside the times and the completed box, the
-// action bar under them all.
+// action bar under them all. The tabs out of view are built once the
+// window has painted.
 
+#include <functional>
+#include <vector>
+
+#include "kit/EventLink.h"
 #include "kit/FormView.h"
 
 namespace qv {
@@ -21,8 +26,15 @@ public:
 private:
     QWidget* buildPane(int index);
     QWidget* buildTabs();
+    // The panel of a tab, built now if it still waits.
+    void buildPanel(int tab);
+
+    static constexpr int kIdleDelayMs = 15;  // lets the window paint first
 
     SplitterView* splitter_ = nullptr;
+    std::vector<QWidget*> panels_;  // the tabs' holders
+    std::vector<std::function<QWidget*(QWidget*)>> waiting_;
+    EventLink tabsChanged_;
 };
 
 }  // namespace qv

@@ -16,6 +16,7 @@
 #include "toolkit/ScriptedUi.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Splitter.h"
+#include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
 #include "values/Convert.h"
@@ -150,7 +151,7 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"key", &ScriptRunner::cmdKey},       {"close", &ScriptRunner::cmdClose},
         {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
         {"expect", &ScriptRunner::cmdExpect}, {"resize", &ScriptRunner::cmdResize},
-        {"drag", &ScriptRunner::cmdDrag}};
+        {"drag", &ScriptRunner::cmdDrag},     {"tab", &ScriptRunner::cmdTab}};
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -331,8 +332,9 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "editor") return expectEditor(l);
     if (what == "date") return expectDate(l);
     if (what == "window") return expectWindow(l);
+    if (what == "tab") return expectTab(l);
     throw std::invalid_argument(
-        "expect event, no-event, message, tool, checked, editor, date, window, row, rows or form");
+        "expect event, no-event, message, tool, checked, editor, date, window, tab, row, rows or form");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -397,6 +399,21 @@ void ScriptRunner::expectEditor(const ScriptLine& l) {
     if (!ed) throw std::invalid_argument("no editor " + l.word(2));
     if (ed->text() == l.word(3)) return pass();
     fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
+}
+
+// tab NAME INDEX: the user picks a tab (counted from 0) of a tab strip.
+void ScriptRunner::cmdTab(const ScriptLine& l) {
+    TabStrip* tabs = activeForm().tabStrip(l.word(1));
+    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(1));
+    tabs->userSwitch(static_cast<int32_t>(toLong(l.word(2))));
+}
+
+// expect tab NAME INDEX: the tab shown.
+void ScriptRunner::expectTab(const ScriptLine& l) {
+    TabStrip* tabs = activeForm().tabStrip(l.word(2));
+    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(2));
+    if (std::to_string(tabs->current()) == l.word(3)) return pass();
+    fail(l, l.word(2) + " shows tab " + std::to_string(tabs->current()) + ", not " + l.word(3));
 }
 
 // expect date NAME TEXT: a date box's date as text ("" for none).

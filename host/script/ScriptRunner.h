@@ -55,6 +55,7 @@ private:
     void cmdAdvance(const ScriptLine& l);
     void cmdResize(const ScriptLine& l);
     void cmdDrag(const ScriptLine& l);
+    void cmdTab(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
 
     void expectEvent(const ScriptLine& l, bool present);
@@ -66,6 +67,7 @@ private:
     void expectEditor(const ScriptLine& l);
     void expectDate(const ScriptLine& l);
     void expectWindow(const ScriptLine& l);
+    void expectTab(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();

@@ -7,7 +7,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
-#include <QTabWidget>
+#include <QTabBar>
 #include <QTableView>
 #include <QTextEdit>
 #include <QTimer>
@@ -121,7 +121,7 @@ void DemoDriver::planAppointment() {
         QWidget* w = StepRunner::formWindow(kAppointment);
         if (auto* cell = w ? w->findChild<ToolCell*>("smtReady.DONE") : nullptr)
             if (auto* box = cell->findChild<QAbstractButton*>()) box->click();
-        if (auto* tabs = w ? w->findChild<QTabWidget*>("Tabs1") : nullptr) tabs->setCurrentIndex(2);
+        if (auto* tabs = w ? w->findChild<QTabBar*>("Tabs1.bar") : nullptr) tabs->setCurrentIndex(2);
     });
     shootWhenShown(kAppointment, "appointment-completed", allSizes_);
     steps_.then("update the appointment", [] { StepRunner::clickTool(kAppointment, "smtActions.SAVE"); });

@@ -5,7 +5,6 @@
 namespace qv {
 
 namespace {
-const char* const kTabKeys[] = {"CHECKLIST", "NOTES", "ABOUT"};
 // A tool of no input kind: the sheet shows its caption and text, read-only.
 constexpr int32_t kValueTool = 0;
 }  // namespace
@@ -16,13 +15,8 @@ AppointmentControls::AppointmentControls() {
     buildAbout();
     buildActions();
     buildChecklistActions();
-    buildTabs();
     buildPanes();
     spellCK.setReadOnly(true);
-}
-
-const char* AppointmentControls::tabKey(int32_t index) {
-    return index >= 0 && index < 3 ? kTabKeys[index] : "";
 }
 
 void AppointmentControls::buildTimes() {
@@ -83,12 +77,6 @@ void AppointmentControls::buildChecklistActions() {
     auto& s = smtCKActions;
     s.add(ttButton, "PICK", "Pick...");
     s.add(ttButton, "EDIT", "Edit...");
-}
-
-void AppointmentControls::buildTabs() {
-    const char* captions[] = {"&Checklist", "Notes", "About"};
-    for (int32_t i = 0; i < 3; ++i) Tabs1.add(ttOption, kTabKeys[i], captions[i]).setTag(std::to_string(i));
-    Tabs1.at(1).setChecked(true);
 }
 
 void AppointmentControls::buildPanes() {

@@ -6,6 +6,7 @@
 #include "toolkit/Label.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Splitter.h"
+#include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
 
@@ -26,8 +27,7 @@ struct AppointmentControls {
     Sheet smtABOUT{"smtABOUT", "About this Task:"};
     Sheet smtActions{"smtActions"};
     Sheet smtCKActions{"smtCKActions"};
-    // The tab strip: one option per page, keyed by page.
-    Sheet Tabs1{"Tabs1"};
+    TabStrip Tabs1{"Tabs1", {"&Checklist", "Notes", "About"}};
     TextEditor spellTask{"spellTask"};
     TextEditor SpellNotes{"SpellNotes"};
     TextEditor spellCK{"spellCK"};
@@ -38,16 +38,12 @@ struct AppointmentControls {
     Label lblCk{"lblCk", "Checklist"};
     Label lblNotes{"lblNotes", "Notes"};
 
-    // The key of the option of page index in Tabs1.
-    [[nodiscard]] static const char* tabKey(int32_t index);
-
 private:
     void buildTimes();
     void buildReady();
     void buildAbout();
     void buildActions();
     void buildChecklistActions();
-    void buildTabs();
     void buildPanes();
 };
 

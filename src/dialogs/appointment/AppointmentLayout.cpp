@@ -72,12 +72,8 @@ void AppointmentLayout::keepUpperHeight() {
 }
 
 void AppointmentLayout::SetVisibleTab(int32_t index) {
-    auto& tabs = f_.controls().Tabs1;
-    const char* key = AppointmentControls::tabKey(index);
-    if (!*key) return;
+    f_.controls().Tabs1.setCurrent(index);
     f_.currentTab = index;
-    Tool& page = tabs.tool(key);
-    if (!page.checked()) page.setChecked(true);
 }
 
 }  // namespace qv

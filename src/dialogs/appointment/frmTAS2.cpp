@@ -44,21 +44,20 @@ frmTAS2::frmTAS2()
 frmTAS2::~frmTAS2() = default;
 
 void frmTAS2::registerControls() {
-    for (Sheet* s : {&c_.smtTimes, &c_.smtReady, &c_.smtABOUT, &c_.smtActions, &c_.smtCKActions, &c_.Tabs1})
+    for (Sheet* s : {&c_.smtTimes, &c_.smtReady, &c_.smtABOUT, &c_.smtActions, &c_.smtCKActions})
         addControl(s->name(), *s);
     for (TextEditor* e : {&c_.spellTask, &c_.SpellNotes, &c_.spellCK}) addControl(e->name(), *e);
     addControl("ctTADate", c_.ctTADate);
     addControl("Timer1", c_.Timer1);
     addControl("splitTAS", c_.splitTAS);
+    addControl("Tabs1", c_.Tabs1);
     for (Label* l : {&c_.lblTask, &c_.lblCk, &c_.lblNotes}) addControl(l->name(), *l);
 }
 
 void frmTAS2::wireControls() {
     wireSheets();
     c_.splitTAS.EndDrag.connect([this] { trapped("splitTAS_SplitterEndDrag", [&] { layout_->onEndDrag(); }); });
-    c_.Tabs1.Click.connect([this](Tool& t) {
-        if (t.checked()) trapped("Tabs1_Switching", [&] { SetVisibleTab(std::stoi(t.tag())); });
-    });
+    c_.Tabs1.Switching.connect([this](int32_t tab) { trapped("Tabs1_Switching", [&] { SetVisibleTab(tab); }); });
     ckLink_->GotErrExitNow.connect([this] { GotErrExitNow(); });
 }
 
