@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include "kit/ToolCell.h"
+#include "view/AppointmentList.h"
 #include "view/HostApp.h"
 #include "view/HostSession.h"
 #include "view/HostWindow.h"
@@ -103,7 +104,9 @@ void DemoDriver::planAppointment() {
         if (table && table->model()->rowCount() > 0) table->setCurrentIndex(table->model()->index(0, 0));
         w.scheduleAppointment();
     });
-    steps_.then("work the appointment", [this] { app_.window().workAppointment(); });
+    // The schedule's write pumps events: the next step waits for its slot in the list.
+    steps_.when("work the appointment", [this] { return !app_.window().appointments().chosen().empty(); },
+                [this] { app_.window().workAppointment(); });
     shootWhenShown(kAppointment, "appointment-fresh", allSizes_);
     steps_.then("time the work", [] {
         StepRunner::clickTool(kAppointment, "smtTimes.TIMER");
