@@ -7,10 +7,10 @@
 #include "dialogs/appointment/AppointmentTimes.h"
 #include "dialogs/shared/SpellChecking.h"
 #include "dialogs/shared/TaskPrinter.h"
+#include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "values/DateFormats.h"
-#include "values/TextChars.h"
 
 namespace qv {
 
@@ -132,10 +132,7 @@ std::string frmTAS2::getTATimeNeeded() {
 
 void frmTAS2::setCKEditMode(int16_t mode) { ckLink_->setCKEditMode(mode); }
 
-std::string frmTAS2::TrimtoLen(const std::string& text, std::size_t limit) {
-    if (charCount(text) <= limit) return text;
-    return midChars(text, 1, limit) + "...";
-}
+std::string frmTAS2::TrimtoLen(const std::string& text, std::size_t limit) { return qv::TrimtoLen(text, limit); }
 
 void frmTAS2::followChecklist() {
     if (checklist.utilChecklistKey == loadedChecklistKey_) return;
