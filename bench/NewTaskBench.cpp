@@ -12,9 +12,7 @@
 #include <vector>
 
 #include "dialogs/newtask/frmTask3.h"
-#include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
-#include "support/BareReads.h"
 #include "support/BenchStore.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
@@ -29,30 +27,20 @@ namespace {
 
 using namespace qv;
 
-constexpr int kTasks = 100000;
-constexpr int kProjects = 500;
-constexpr int kKeywords = 2000;
-constexpr int kSubjects = 50;
-
-struct LargeStore : bench::BenchStore {
-    LargeStore() : bench::BenchStore("newtask-bench") {
-        fillSampleStore(storePath(), {kTasks, kProjects, kKeywords, kSubjects});
-    }
-};
-
-LargeStore& largeStore() {
-    static LargeStore s;
-    return s;
-}
+using bench::largeStore;
+using bench::walk;
 
 void BM_NewTaskOpenBareReads(benchmark::State& state) {
     auto& s = largeStore();
     for (auto _ : state) {
         sqlite3* db = nullptr;
         sqlite3_open_v2(s.storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
-        int64_t cells = bench::walkSettings(db);
-        cells += bench::walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
-        cells += bench::walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
+        int64_t cells = 0;
+        for (const auto& section : bench::settingsSections())
+            cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +
+                                  "' ORDER BY setSettingDisplayOrd");
+        cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
+        cells += walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
         benchmark::DoNotOptimize(cells);
         sqlite3_close(db);
     }
@@ -69,7 +57,7 @@ void BM_NewTaskOpen(benchmark::State& state) {
         s.ui.queueAction([&task] { task.frm()->hide(); });
         task.SetupTask(0, {}, ustuff, 1, {});
         state.PauseTiming();
-        if (task.frm()->controls().smtKeywords.count() < kKeywords) state.SkipWithError("lists not filled");
+        if (task.frm()->controls().smtKeywords.count() < bench::kLargeKeywords) state.SkipWithError("lists not filled");
         task.frm()->unload();
         releaseDeferred();
         state.ResumeTiming();

@@ -1,5 +1,4 @@
-// The desktop benchmarks run offscreen, inside one QApplication.
-
+// The desktop benchmarks need a QApplication, offscreen.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
