@@ -1,5 +1,6 @@
 #include "StandardViews.h"
 
+#include "HelpView.h"
 #include "NewTaskView.h"
 #include "StackedView.h"
 
@@ -42,6 +43,7 @@ ViewFactory StandardViews::make() {
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);
     addStacked(f, "frmChecklistEditor", checklistEditor);
+    f.add("frmPopHelp", [](Form& form) -> FormView* { return new HelpView(form); });
     return f;
 }
 

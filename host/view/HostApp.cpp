@@ -1,6 +1,8 @@
 #include "view/HostApp.h"
 
 #include "StandardViews.h"
+#include "help/PopHelpViewer.h"
+#include "kit/HtmlPrintEngine.h"
 #include "kit/QtDateTimeFormatter.h"
 #include "kit/QtLocaleInfo.h"
 #include "kit/QtUi.h"
@@ -9,6 +11,7 @@
 #include "toolkit/SystemClock.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
+#include "view/HostTour.h"
 #include "view/HostWindow.h"
 
 namespace qv {
@@ -19,11 +22,15 @@ HostApp::HostApp(const std::string& folder, bool interactive)
       ui_(std::make_unique<QtUi>(*views_)),
       clock_(std::make_unique<SystemClock>()),
       locale_(std::make_unique<QtLocaleInfo>()),
+      printEngine_(std::make_unique<HtmlPrintEngine>()),
+      tour_(std::make_unique<HostTour>(folder)),
+      help_(std::make_unique<PopHelpViewer>(printEngine_.get(), tour_.get())),
       store_(std::make_unique<HostStore>(folder)) {
     g().AppPath = folder;
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().locale = locale_.get();
+    ports().help = help_.get();
     DateTimeFormatter::install(std::make_unique<QtDateTimeFormatter>());
     session_ = std::make_unique<HostSession>(folder, *store_, interactive);
     window_ = std::make_unique<HostWindow>(*store_, *session_);
@@ -36,6 +43,7 @@ HostApp::~HostApp() {
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().locale = nullptr;
+    ports().help = nullptr;
 }
 
 }  // namespace qv

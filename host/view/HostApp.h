@@ -1,6 +1,6 @@
 #pragma once
 // Everything the host sets up before the first SetupTask: the program's
-// folder, the ports (the desktop Ui, the clock, the locale), the locale's
+// folder, the ports (the desktop Ui, the clock, the locale, help), the locale's
 // date formats, the session and the main window.
 
 #include <memory>
@@ -15,6 +15,9 @@ class QtUi;
 class ViewFactory;
 class SystemClock;
 class QtLocaleInfo;
+class HtmlPrintEngine;
+class HostTour;
+class PopHelpViewer;
 
 class HostApp {
 public:
@@ -28,6 +31,8 @@ public:
     [[nodiscard]] HostStore& store() const { return *store_; }
     [[nodiscard]] QtUi& ui() const { return *ui_; }
     [[nodiscard]] const std::string& folder() const { return folder_; }
+    [[nodiscard]] HostTour& tour() const { return *tour_; }
+    [[nodiscard]] PopHelpViewer& help() const { return *help_; }
 
 private:
     std::string folder_;
@@ -35,6 +40,9 @@ private:
     std::unique_ptr<QtUi> ui_;
     std::unique_ptr<SystemClock> clock_;
     std::unique_ptr<QtLocaleInfo> locale_;
+    std::unique_ptr<HtmlPrintEngine> printEngine_;
+    std::unique_ptr<HostTour> tour_;
+    std::unique_ptr<PopHelpViewer> help_;
     std::unique_ptr<HostStore> store_;
     std::unique_ptr<HostSession> session_;
     std::unique_ptr<HostWindow> window_;

@@ -25,6 +25,8 @@ public:
 
 // The folder of the pages inside the program's folder.
 inline constexpr const char* kHelpFolder = "help/";
+// The index of all pages.
+inline constexpr int32_t kHelpIndexTopic = 5000;
 // The getting started tour: the only topic with the "show at start" tool.
 inline constexpr int32_t kTourTopic = 7000;
 

@@ -29,9 +29,11 @@ std::string withSlash(const std::string& folder) {
     return !folder.empty() && folder.back() == '/' ? folder : folder + "/";
 }
 
+// The page's file name, without a place inside the page ("#...").
 std::string fileNameOf(const std::string& location) {
-    const auto slash = location.find_last_of('/');
-    return slash == std::string::npos ? location : location.substr(slash + 1);
+    const std::string page = location.substr(0, location.find('#'));
+    const auto slash = page.find_last_of('/');
+    return slash == std::string::npos ? page : page.substr(slash + 1);
 }
 
 // A number of the settings string; a host that never set the string gets

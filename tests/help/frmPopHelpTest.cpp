@@ -223,7 +223,7 @@ TEST_F(PopHelpTest, PrintFollowsThePaneAndSettlesMetricMarginsAndMissingSettings
     fakeClock().setNow(45306.75);
     pop->setHelpPrinterSettings("TOP=2.54\tFLEFT=Page Number\tFRIGHT=--Page Number--\t");
     pop->Setup(10);
-    pop->browsePWindow.followed(page("strategies.htm"));
+    pop->browsePWindow.followed(page("strategies.htm") + "#goals");
     const HelpPrintJob job = pop->MakeHelpHTML();
     EXPECT_EQ(job.page, page("strategies.htm"));
     EXPECT_EQ(job.marginTop, 1440);
