@@ -7,6 +7,7 @@
 
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
+#include "script/ScriptHelp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FakeClock.h"
@@ -100,11 +101,13 @@ ScriptRunner::ScriptRunner(std::ostream& out) : out_(out) {
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().reporter = reporter_.get();
+    help_ = std::make_unique<ScriptHelp>(out_);
 }
 
 ScriptRunner::~ScriptRunner() {
     task_.reset();
     releaseDeferred();
+    help_.reset();
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().reporter = nullptr;
@@ -287,7 +290,10 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "form") return expectForm(l);
     if (what == "checked") return expectChecked(l);
     if (what == "editor") return expectEditor(l);
-    throw std::invalid_argument("expect event, no-event, message, tool, checked, editor, row, rows or form");
+    if (what == "help") return expectHelp(l, false);
+    if (what == "help-page") return expectHelp(l, true);
+    throw std::invalid_argument(
+        "expect event, no-event, message, tool, checked, editor, row, rows, form, help or help-page");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -371,6 +377,14 @@ void ScriptRunner::expectForm(const ScriptLine& l) {
     }
     if (shown == l.word(2)) return pass();
     fail(l, "the dialog shown is " + shown + ", not " + l.word(2));
+}
+
+// expect help TOPIC TITLE: the help pop-up shows the topic under the title.
+// expect help-page FILE: its pane shows the page ("" for an empty pane).
+void ScriptRunner::expectHelp(const ScriptLine& l, bool page) {
+    const std::string why = page ? help_->checkPage(l.word(2)) : help_->checkTopic(toLong(l.word(2)), l.word(3));
+    if (why.empty()) return pass();
+    fail(l, why);
 }
 
 std::string ScriptRunner::queryOne(const std::string& sql) const {

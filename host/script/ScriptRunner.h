@@ -20,6 +20,7 @@ class Reporter;
 class Form;
 class Sheet;
 class Tool;
+class ScriptHelp;
 
 class ScriptRunner {
 public:
@@ -62,6 +63,7 @@ private:
     void expectForm(const ScriptLine& l);
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
+    void expectHelp(const ScriptLine& l, bool page);
 
     void ensureStore();
     clsTask2& task();
@@ -74,6 +76,7 @@ private:
     std::unique_ptr<ScriptedUi> ui_;
     std::unique_ptr<FakeClock> clock_;
     std::shared_ptr<Reporter> reporter_;
+    std::unique_ptr<ScriptHelp> help_;
     std::unique_ptr<clsTask2> task_;
     std::string folder_;
     bool ownsFolder_ = false;
