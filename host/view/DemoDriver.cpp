@@ -97,22 +97,20 @@ QWidget* DemoDriver::previewWindow() {
     return nullptr;
 }
 
-// The help window drawn where it stands over its dialog, in one picture.
+// The help window drawn where it stands over the windows beneath it (the
+// host, the New Task, the dialog that asked), in one picture.
 void DemoDriver::shootOver(QWidget* top, QWidget* under, const QString& name) {
     if (!top) return;
-    if (!under) {
-        shoot(top, name, false);
-        return;
-    }
+    QList<QWidget*> stack;
+    for (QWidget* w : {static_cast<QWidget*>(&app_.window()), StepRunner::formWindow(kNewTask), under, top})
+        if (w && w->isVisible() && !stack.contains(w)) stack << w;
     QApplication::processEvents();
-    const QRect a = under->frameGeometry();
-    const QRect b = top->frameGeometry();
-    const QRect all = a.united(b);
+    QRect all;
+    for (QWidget* w : stack) all = all.united(w->geometry());
     QPixmap picture(all.size());
     picture.fill(QColor(96, 96, 96));
     QPainter p(&picture);
-    p.drawPixmap(under->geometry().topLeft() - all.topLeft(), under->grab());
-    p.drawPixmap(top->geometry().topLeft() - all.topLeft(), top->grab());
+    for (QWidget* w : stack) p.drawPixmap(w->geometry().topLeft() - all.topLeft(), w->grab());
     p.end();
     const QString path = QDir(dir_).filePath(name + ".png");
     if (picture.save(path)) shots_ << path;
