@@ -57,6 +57,8 @@ void HelpView::showLocation() {
     QUrl url = QUrl::fromLocalFile(hash < 0 ? path : path.left(hash));
     if (hash >= 0) url.setFragment(path.mid(hash + 1));
     browser_->setSource(url);
+    // The way back is the model's: the pane keeps none of its own.
+    browser_->clearHistory();
 }
 
 void HelpView::followLink(const QUrl& link) {
