@@ -168,6 +168,7 @@ void ScriptRunner::ensureStore() {
     ownsFolder_ = true;
     installStore(folder_);
     installSettingsFile(folder_);
+    installReportsFolder(folder_);
     g().AppPath = folder_;
 }
 
