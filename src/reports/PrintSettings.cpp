@@ -42,7 +42,7 @@ std::string PrintSettings::defaults(int32_t dialogNum) {
          {std::pair{"PRINTER", printer.c_str()}, {"PAPER", "Portrait"}, {"COPIES", "1"}, {"PAGESWIDE", "1"},
           {"PRINTCOLOR", "Yes"}, {"TOP", margin}, {"BOTTOM", margin}, {"RIGHT", margin}, {"LEFT", margin},
           {"HCOLOR", "0"}, {"HFONT", "Arial"}, {"HSIZE", "12"}, {"HEADING", "Quorvel Task Report"},
-          {"FCOLOR", "0"}, {"FFONT", "Arial"}, {"FSIZE", "8"}, {"FLEFT", "Quorvel"}, {"FRIGHT", "<#>"}})
+          {"FCOLOR", "0"}, {"FFONT", "Arial"}, {"FSIZE", "8"}, {"FLEFT", kProgramTitle}, {"FRIGHT", "<#>"}})
         bag.WriteItem(key, value);
     for (const char* key : {"PTASK", "PCHECKLIST", "PNOTES"}) bag.WriteItem(key, boolText(true));
     if (dialogNum == kExistingTaskDialog) bag.WriteItem("PSCHEDULE", boolText(true));
