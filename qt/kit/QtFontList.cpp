@@ -1,6 +1,7 @@
 #include "kit/QtFontList.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 namespace qv {
 
