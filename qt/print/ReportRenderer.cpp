@@ -14,6 +14,14 @@ namespace qv {
 
 namespace {
 constexpr double kTwipsPerPoint = 20.0;
+
+// The report gives colours as plain numbers, which the rich-text parser
+// warns of once per cell; they are the report's own and not news.
+QtMessageHandler previousHandler = nullptr;
+void quietColours(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.startsWith("QTextHtmlParser::applyAttributes: Unknown color name")) return;
+    if (previousHandler) previousHandler(type, context, message);
+}
 constexpr int kLinesOfFooter = 3;  // room kept for the usual footer
 }  // namespace
 
@@ -21,7 +29,9 @@ ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_
     QFile file(QString::fromStdString(job.file));
     if (!file.open(QIODevice::ReadOnly))
         throw Failure(err::FileNotFound, "File not found: " + job.file);
+    previousHandler = qInstallMessageHandler(quietColours);
     doc_->setHtml(QString::fromUtf8(file.readAll()));
+    qInstallMessageHandler(previousHandler);
 }
 
 ReportRenderer::~ReportRenderer() = default;
