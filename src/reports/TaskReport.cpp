@@ -35,6 +35,13 @@ std::string currentTitle(const std::string& footer) {
     return footer.rfind(kTitlePrefix, 0) == 0 ? std::string(kProgramTitle) : footer;
 }
 
+// An editor's content with its formatting, a word for an empty one, or
+// the section left out.
+std::string editorSection(bool asked, const TextEditor& editor, const char* empty) {
+    if (!asked) return kNone;
+    return editor.text().empty() ? std::string(empty) : editor.richText();
+}
+
 std::string footerLine(const std::string& left, const std::string& right) {
     return "{newline}{line}{Left}" + left + "{Right}" + right;
 }
@@ -116,20 +123,10 @@ std::string TaskReport::buildHTML() {
     } else {
         html.settheTask(kNone);
     }
-    if (checklist) {
-        html.setReportSubTitle(2, "Checklist:");
-        const TextEditor& ed = source_.checklistEditor();
-        html.setChecklist(ed.text().empty() ? "No Checklist." : ed.richText());
-    } else {
-        html.setChecklist(kNone);
-    }
-    if (notes) {
-        html.setReportSubTitle(3, "Notes:");
-        const TextEditor& ed = source_.notesEditor();
-        html.setNotes(ed.text().empty() ? "No Notes." : ed.richText());
-    } else {
-        html.setNotes(kNone);
-    }
+    if (checklist) html.setReportSubTitle(2, "Checklist:");
+    html.setChecklist(editorSection(checklist, source_.checklistEditor(), "No Checklist."));
+    if (notes) html.setReportSubTitle(3, "Notes:");
+    html.setNotes(editorSection(notes, source_.notesEditor(), "No Notes."));
     if (!source_.hasSchedule()) {
         html.settheSchedule("Skip");
     } else if (schedule) {

@@ -113,12 +113,7 @@ std::string clsHTMLMake::theTask() {
 std::string clsHTMLMake::buildTask() {
     if (task_ == kNone) return {};
     if (headingsMissing(headings1_)) return {};
-    Columns cols;
-    cols.headings = splitCommas(headings1_);
-    cols.hasWidths = !width1_.empty();
-    if (cols.hasWidths) cols.widths = splitCommas(width1_);
-    cols.hasAlignments = !align1_.empty();
-    if (cols.hasAlignments) cols.alignments = splitCommas(align1_);
+    const Columns cols = columns(headings1_, width1_, align1_);
     std::string out = tableOpening(1);
     appendHeader(out, cols);
     out += "</tr>";
@@ -139,12 +134,7 @@ std::string clsHTMLMake::buildSchedule() {
     if (schedule_ == kNoSchedule || schedule_ == kNone) return ReportSubTitle(4) + kNoSchedule;
     if (schedule_ == kSkip) return {};
     if (headingsMissing(headings1_)) return {};
-    Columns cols;
-    cols.headings = splitCommas(headings2_);
-    cols.hasWidths = !width1_.empty();
-    if (cols.hasWidths) cols.widths = splitCommas(width2_);
-    cols.hasAlignments = !align1_.empty();
-    if (cols.hasAlignments) cols.alignments = splitCommas(align2_);
+    const Columns cols = columns(headings2_, width2_, align2_);
     std::string out = tableOpening(4);
     appendHeader(out, cols);
     if (scheduleRows_.isNull()) return out + "</tr></table>";
@@ -155,6 +145,19 @@ std::string clsHTMLMake::buildSchedule() {
     out += "</tr>";
     out += "</table>";
     return out;
+}
+
+// Whether a table has widths and alignments is asked of the first set;
+// the lists themselves come from the table's own set.
+clsHTMLMake::Columns clsHTMLMake::columns(const std::string& headings, const std::string& widths,
+                                          const std::string& alignments) const {
+    Columns cols;
+    cols.headings = splitCommas(headings);
+    cols.hasWidths = !width1_.empty();
+    if (cols.hasWidths) cols.widths = splitCommas(widths);
+    cols.hasAlignments = !align1_.empty();
+    if (cols.hasAlignments) cols.alignments = splitCommas(alignments);
+    return cols;
 }
 
 std::string clsHTMLMake::tableOpening(int subTitle) const {

@@ -105,6 +105,8 @@ private:
     [[nodiscard]] std::string buildSchedule();
     [[nodiscard]] std::string buildSection(int n, const std::string& stored) const;
     [[nodiscard]] bool headingsMissing(const std::string& tested) const;
+    [[nodiscard]] Columns columns(const std::string& headings, const std::string& widths,
+                                  const std::string& alignments) const;
     [[nodiscard]] std::string tableOpening(int subTitle) const;
     void appendHeader(std::string& out, const Columns& cols) const;
     void appendRows(std::string& out, const Columns& cols, const ReportRows& rows, int32_t lastRow);
