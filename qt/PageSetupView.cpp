@@ -28,7 +28,7 @@ PageSetupView::PageSetupView(Form& form, QWidget* parent) : FormView(form, paren
     auto* right = new QVBoxLayout;
     right->addWidget(make.sheet("smtPrinting(1)"), 3);
     right->addWidget(colourButton("smtPrinting(1)", "HCOLOR", tr("Heading &Colour...")));
-    right->addWidget(make.sheet("smtPrinting(2)"), 2);
+    right->addWidget(make.sheet("smtPrinting(2)"), 3);
     right->addWidget(colourButton("smtPrinting(2)", "FCOLOR", tr("Foo&ter Colour...")));
     right->addWidget(make.sheet("smtPrinting(3)"), 2);
     right->addWidget(make.sheet("smtPrinting(4)"), 3);
