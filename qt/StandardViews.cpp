@@ -2,6 +2,7 @@
 
 #include "HelpView.h"
 #include "NewTaskView.h"
+#include "PageSetupView.h"
 #include "StackedView.h"
 
 namespace qv {
@@ -39,6 +40,7 @@ void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*r
 ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);

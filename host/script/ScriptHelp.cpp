@@ -20,11 +20,12 @@ ScriptHelp::~ScriptHelp() {
 
 std::string ScriptHelp::print(const HelpPrintJob& job) {
     out_ << "help printed: " << fileOf(job.page) << " (" << job.heading << ")\n";
-    return {};
+    return engine_.print(job);
 }
 
 void ScriptHelp::preview(const HelpPrintJob& job) {
     out_ << "help previewed: " << fileOf(job.page) << " (" << job.heading << ")\n";
+    engine_.preview(job);
 }
 
 std::string ScriptHelp::checkTopic(int32_t topic, const std::string& title) const {

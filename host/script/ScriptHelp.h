@@ -1,7 +1,8 @@
 #pragma once
 // The help pop-up in a scenario: the driver installs the real help port,
 // whose pop-up takes the lines that follow a help tool like any dialog;
-// printing a help page prints a line instead of paper. It answers
+// printing a help page prints a line, and goes to the print engine when
+// the driver has one (a PDF beside the page). It answers
 // "expect help TOPIC TITLE" and "expect help-page FILE".
 
 #include <cstdint>
@@ -11,6 +12,7 @@
 
 #include "help/HelpPrinter.h"
 #include "help/PopHelpViewer.h"
+#include "help/SurfaceHelpPrinter.h"
 
 namespace qv {
 
@@ -29,6 +31,7 @@ public:
 
 private:
     std::ostream& out_;
+    SurfaceHelpPrinter engine_;
     PopHelpViewer viewer_;
 };
 

@@ -64,6 +64,8 @@ private:
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
+    void expectReport(const ScriptLine& l, bool present);
+    void expectPdfPages(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();
@@ -71,6 +73,7 @@ private:
     Tool& toolOf(Form& form, const std::string& target, Sheet** sheet) const;
     [[nodiscard]] std::string queryOne(const std::string& sql) const;
     [[nodiscard]] std::string storePath() const;
+    [[nodiscard]] std::string reportPath(const std::string& file) const;
 
     std::ostream& out_;
     std::unique_ptr<ScriptedUi> ui_;

@@ -10,6 +10,8 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "help/PopHelpViewer.h"
 #include "help/frmPopHelp.h"
+#include "reports/PrintSettings.h"
+#include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
 
@@ -53,6 +55,11 @@ TEST_F(HelpTools, EachDialogOpensItsTopicWithItsTitle) {
     seed();
     fireTimer();
     help("smtActions");
+    // Page Setup needs a whole print string, as a host gives one.
+    then([] { g().TaskPrintDialog = PrintSettings::defaults(2); });
+    click("smtActions", "PAGESETUP");
+    help("smtActions");
+    then([] { press(top(), "smtActions", "CANCEL"); });
     click("smtProj", ProjectSheet::kNewProjectKey);
     help("smtAction");
     then([] { top().keyDown(vbKeyEscape); });
@@ -64,6 +71,7 @@ TEST_F(HelpTools, EachDialogOpensItsTopicWithItsTitle) {
 
     // The keyword dialog is never handed the print settings.
     EXPECT_EQ(seen, (std::vector<std::string>{"600 Quorvel: Creating New Tasks [Desk] over frmTask3",
+                                              "300 Quorvel: Print and Print Preview [Desk] over frmPageSetup",
                                               "800 Quorvel: Adding a Project [Desk] over frmAddProject",
                                               "8 Quorvel: Keywords [] over frmAddKeyword"}));
     EXPECT_TRUE(scriptedUi().messages().empty());

@@ -136,7 +136,7 @@ TEST_F(HelpWindow, ThePreviewOpensAndNoWritesNothing) {
         "preview shown",
         [] {
             auto* w = QApplication::activeModalWidget();
-            return w && w->objectName() == "helpPreview";
+            return w && w->objectName() == "printPreview";
         },
         [&previewed] {
             previewed = true;
