@@ -27,8 +27,7 @@ constexpr int kLinesOfFooter = 3;  // room kept for the usual footer
 
 ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_unique<QTextDocument>()) {
     QFile file(QString::fromStdString(job.file));
-    if (!file.open(QIODevice::ReadOnly))
-        throw Failure(err::FileNotFound, "File not found: " + job.file);
+    if (!file.open(QIODevice::ReadOnly)) throw Failure(err::FileNotFound, "File not found: " + job.file);
     previousHandler = qInstallMessageHandler(quietColours);
     doc_->setHtml(QString::fromUtf8(file.readAll()));
     qInstallMessageHandler(previousHandler);
@@ -37,9 +36,9 @@ ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_
 ReportRenderer::~ReportRenderer() = default;
 
 void ReportRenderer::applyMargins(QPrinter& printer) const {
-    printer.setPageMargins(QMarginsF(job_.marginLeft, job_.marginTop, job_.marginRight, job_.marginBottom) /
-                               kTwipsPerPoint,
-                           QPageLayout::Point);
+    printer.setPageMargins(
+        QMarginsF(job_.marginLeft, job_.marginTop, job_.marginRight, job_.marginBottom) / kTwipsPerPoint,
+        QPageLayout::Point);
 }
 
 QFont ReportRenderer::footerFont(QPrinter& printer) const {
