@@ -5,7 +5,6 @@
 #include <benchmark/benchmark.h>
 
 #include <QTemporaryDir>
-
 #include <fstream>
 
 #include "print/QtPrintSurface.h"

@@ -1,15 +1,14 @@
 #include "print/PageCuts.h"
 
-#include <algorithm>
-#include <map>
-#include <utility>
-
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTextTable>
+#include <algorithm>
+#include <map>
+#include <utility>
 
 namespace qv {
 
@@ -24,8 +23,9 @@ void addRows(const std::map<RowKey, PageCuts::Span>& rows, std::vector<PageCuts:
     std::vector<PageCuts::Span> spans;
     auto flush = [&] {
         for (std::size_t i = 0; i < spans.size(); ++i) {
-            const double above = i > 0 ? (spans[i - 1].bottom + spans[i].top) / 2
-                                       : spans[i].top - (spans.size() > 1 ? (spans[1].top - spans[0].bottom) / 2 : 0);
+            const double above =
+                i > 0 ? (spans[i - 1].bottom + spans[i].top) / 2
+                      : spans[i].top - (spans.size() > 1 ? (spans[1].top - spans[0].bottom) / 2 : 0);
             const double below = i + 1 < spans.size() ? (spans[i].bottom + spans[i + 1].top) / 2
                                                       : spans[i].bottom + (i > 0 ? spans[i].top - above : 0);
             out.push_back({above, below});
@@ -52,7 +52,9 @@ std::vector<PageCuts::Span> PageCuts::keepTogether(QTextDocument& doc) {
         if (QTextTable* table = at.currentTable()) {
             const RowKey key{table, table->cellAt(at).row()};
             auto [it, fresh] = rows.try_emplace(key, Span{rect.top(), rect.bottom()});
-            if (!fresh) it->second = {std::min(it->second.top, rect.top()), std::max(it->second.bottom, rect.bottom())};
+            if (!fresh)
+                it->second = {std::min(it->second.top, rect.top()),
+                              std::max(it->second.bottom, rect.bottom())};
             continue;
         }
         const QTextLayout* lines = block.layout();

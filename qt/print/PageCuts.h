@@ -18,7 +18,8 @@ public:
     // The spans that must not be cut, from a document laid out without pages.
     [[nodiscard]] static std::vector<Span> keepTogether(QTextDocument& doc);
     // The top of every page and, last, the end of the document.
-    [[nodiscard]] static std::vector<double> cuts(std::vector<Span> spans, double documentHeight, double pageHeight);
+    [[nodiscard]] static std::vector<double> cuts(std::vector<Span> spans, double documentHeight,
+                                                  double pageHeight);
 };
 
 }  // namespace qv

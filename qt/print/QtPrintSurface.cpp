@@ -21,7 +21,8 @@ std::string QtPrintSurface::pdfPathFor(const std::string& reportFile) {
 }
 
 void QtPrintSurface::print(const PrintJob& job) {
-    if (!options_.usePrinters || QPrinterInfo::availablePrinterNames().isEmpty()) return toPdf(job, options_.tellPdf);
+    if (!options_.usePrinters || QPrinterInfo::availablePrinterNames().isEmpty())
+        return toPdf(job, options_.tellPdf);
     ReportRenderer report(job);
     QPrinter printer(QPrinter::HighResolution);
     report.applyMargins(printer);

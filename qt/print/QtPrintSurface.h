@@ -15,9 +15,9 @@ namespace qv {
 class QtPrintSurface : public PrintSurface {
 public:
     struct Options {
-        bool usePrinters = true;     // false: always a PDF
-        bool tellPdf = true;         // tell the user where the PDF went
-        bool showPreview = true;     // false: a preview makes the PDF instead, quietly
+        bool usePrinters = true;  // false: always a PDF
+        bool tellPdf = true;      // tell the user where the PDF went
+        bool showPreview = true;  // false: a preview makes the PDF instead, quietly
     };
     QtPrintSurface() = default;
     explicit QtPrintSurface(Options options) : options_(options) {}

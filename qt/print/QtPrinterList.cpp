@@ -10,6 +10,8 @@ std::vector<std::string> QtPrinterList::deviceNames() const {
     return names;
 }
 
-std::string QtPrinterList::defaultDevice() const { return QPrinterInfo::defaultPrinterName().toStdString(); }
+std::string QtPrinterList::defaultDevice() const {
+    return QPrinterInfo::defaultPrinterName().toStdString();
+}
 
 }  // namespace qv

@@ -28,8 +28,7 @@ constexpr int kLinesOfFooter = 3;  // room kept for the usual footer
 
 ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_unique<QTextDocument>()) {
     QFile file(QString::fromStdString(job.file));
-    if (!file.open(QIODevice::ReadOnly))
-        throw Failure(err::FileNotFound, "File not found: " + job.file);
+    if (!file.open(QIODevice::ReadOnly)) throw Failure(err::FileNotFound, "File not found: " + job.file);
     previousHandler = qInstallMessageHandler(quietColours);
     // Style sheets and pictures named relative to the page (help pages).
     doc_->setBaseUrl(QUrl::fromLocalFile(QString::fromStdString(job.file)));
@@ -40,9 +39,9 @@ ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_
 ReportRenderer::~ReportRenderer() = default;
 
 void ReportRenderer::applyMargins(QPrinter& printer) const {
-    printer.setPageMargins(QMarginsF(job_.marginLeft, job_.marginTop, job_.marginRight, job_.marginBottom) /
-                               kTwipsPerPoint,
-                           QPageLayout::Point);
+    printer.setPageMargins(
+        QMarginsF(job_.marginLeft, job_.marginTop, job_.marginRight, job_.marginBottom) / kTwipsPerPoint,
+        QPageLayout::Point);
 }
 
 QFont ReportRenderer::footerFont(QPrinter& printer) const {

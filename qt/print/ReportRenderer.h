@@ -4,12 +4,11 @@
 // with its page number. Table rows are never cut between pages: a row that
 // does not fit goes to the next page whole.
 
-#include <memory>
-#include <vector>
-
 #include <QFont>
 #include <QRectF>
 #include <QString>
+#include <memory>
+#include <vector>
 
 #include "reports/FooterFormat.h"
 #include "toolkit/PrintSurface.h"

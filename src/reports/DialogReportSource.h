@@ -14,7 +14,8 @@ public:
     using Rows = std::function<ReportRows()>;
     using Schedule = std::function<std::optional<ReportRows>()>;
 
-    DialogReportSource(const TextEditor& checklist, const TextEditor& notes, Rows rows, Schedule schedule = {})
+    DialogReportSource(const TextEditor& checklist, const TextEditor& notes, Rows rows,
+                       Schedule schedule = {})
         : checklist_(checklist), notes_(notes), rows_(std::move(rows)), schedule_(std::move(schedule)) {}
 
     [[nodiscard]] ReportRows taskRows() override { return rows_(); }

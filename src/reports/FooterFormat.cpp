@@ -36,11 +36,21 @@ std::vector<FooterFormat::Line> FooterFormat::lines(const std::string& footer, i
                 out.emplace_back();
                 right = false;
                 break;
-            case Marker::Rule: line.rule = true; break;
-            case Marker::Left: right = false; break;
-            case Marker::Right: right = true; break;
-            case Marker::PageNum: (right ? line.right : line.left) += std::to_string(page); break;
-            case Marker::None: (right ? line.right : line.left) += footer[pos]; break;
+            case Marker::Rule:
+                line.rule = true;
+                break;
+            case Marker::Left:
+                right = false;
+                break;
+            case Marker::Right:
+                right = true;
+                break;
+            case Marker::PageNum:
+                (right ? line.right : line.left) += std::to_string(page);
+                break;
+            case Marker::None:
+                (right ? line.right : line.left) += footer[pos];
+                break;
         }
         pos += length;
     }

@@ -24,7 +24,8 @@ void PageSetupControls::buildPrinter() {
     for (const char* p : {"Portrait", "Landscape"}) paper.addItem(ttOption, std::string("PAPER-") + p, p);
     s.add(ttTextBox, "COPIES", "Copies:");
     Tool& wide = s.add(ttTextBox, "PAGESWIDE", "Pages Wide:");
-    for (const char* w : {"1", "2", "3", "4", "Automatic"}) wide.addItem(ttOption, std::string("WIDE-") + w, w);
+    for (const char* w : {"1", "2", "3", "4", "Automatic"})
+        wide.addItem(ttOption, std::string("WIDE-") + w, w);
     Tool& color = s.add(ttTextBox, "PRINTCOLOR", "Print in Color:");
     for (const char* c : {"Yes", "No"}) color.addItem(ttOption, std::string("COLOR-") + c, c);
     s.add(ttHeading, {}, "Margins:");

@@ -16,7 +16,8 @@ struct PageSetupControls {
     // Sheets by index, as the dialog's control array numbers them.
     enum Index { Printer = 0, Heading = 1, Footer = 2, FooterText = 3, What = 4 };
     std::array<Sheet, 5> smtPrinting{Sheet{"smtPrinting(0)", "Printer"}, Sheet{"smtPrinting(1)", "Heading"},
-                                     Sheet{"smtPrinting(2)", "Footer"}, Sheet{"smtPrinting(3)", "Footer Text"},
+                                     Sheet{"smtPrinting(2)", "Footer"},
+                                     Sheet{"smtPrinting(3)", "Footer Text"},
                                      Sheet{"smtPrinting(4)", "Print"}};
     Sheet smtActions{"smtActions"};
     Label Image1{"Image1"};  // the page picture: "PORTRAIT" or "LANDSCAPE"

@@ -11,7 +11,9 @@
 
 namespace qv {
 
-std::string PrintSettings::boolText(bool value) { return value ? "True" : "False"; }
+std::string PrintSettings::boolText(bool value) {
+    return value ? "True" : "False";
+}
 
 bool PrintSettings::boolOf(const std::string& text) {
     if (text.empty()) return false;
@@ -38,11 +40,24 @@ std::string PrintSettings::defaults(int32_t dialogNum) {
     const char* margin = us ? "1.00" : "2.54";
     const std::string printer = defaultPrinter();
     CStringBag bag;
-    for (const auto& [key, value] :
-         {std::pair{"PRINTER", printer.c_str()}, {"PAPER", "Portrait"}, {"COPIES", "1"}, {"PAGESWIDE", "1"},
-          {"PRINTCOLOR", "Yes"}, {"TOP", margin}, {"BOTTOM", margin}, {"RIGHT", margin}, {"LEFT", margin},
-          {"HCOLOR", "0"}, {"HFONT", "Arial"}, {"HSIZE", "12"}, {"HEADING", "Quorvel Task Report"},
-          {"FCOLOR", "0"}, {"FFONT", "Arial"}, {"FSIZE", "8"}, {"FLEFT", kProgramTitle}, {"FRIGHT", "<#>"}})
+    for (const auto& [key, value] : {std::pair{"PRINTER", printer.c_str()},
+                                     {"PAPER", "Portrait"},
+                                     {"COPIES", "1"},
+                                     {"PAGESWIDE", "1"},
+                                     {"PRINTCOLOR", "Yes"},
+                                     {"TOP", margin},
+                                     {"BOTTOM", margin},
+                                     {"RIGHT", margin},
+                                     {"LEFT", margin},
+                                     {"HCOLOR", "0"},
+                                     {"HFONT", "Arial"},
+                                     {"HSIZE", "12"},
+                                     {"HEADING", "Quorvel Task Report"},
+                                     {"FCOLOR", "0"},
+                                     {"FFONT", "Arial"},
+                                     {"FSIZE", "8"},
+                                     {"FLEFT", kProgramTitle},
+                                     {"FRIGHT", "<#>"}})
         bag.WriteItem(key, value);
     for (const char* key : {"PTASK", "PCHECKLIST", "PNOTES"}) bag.WriteItem(key, boolText(true));
     if (dialogNum == kExistingTaskDialog) bag.WriteItem("PSCHEDULE", boolText(true));

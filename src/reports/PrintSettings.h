@@ -12,8 +12,8 @@ namespace qv {
 class PrintSettings {
 public:
     static constexpr std::array<const char*, 16> kToolKeys{
-        "PRINTER", "PAPER", "COPIES", "PAGESWIDE", "PRINTCOLOR", "TOP",   "BOTTOM", "RIGHT",
-        "LEFT",    "HCOLOR", "HFONT", "HSIZE",     "HEADING",    "FCOLOR", "FFONT", "FSIZE"};
+        "PRINTER", "PAPER",  "COPIES", "PAGESWIDE", "PRINTCOLOR", "TOP",    "BOTTOM", "RIGHT",
+        "LEFT",    "HCOLOR", "HFONT",  "HSIZE",     "HEADING",    "FCOLOR", "FFONT",  "FSIZE"};
     // The dialog whose string also keeps "PSCHEDULE".
     static constexpr int32_t kExistingTaskDialog = 1;
     // The one printer pick where none is installed.

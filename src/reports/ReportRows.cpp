@@ -22,12 +22,17 @@ int32_t ReportRows::upperRow() const {
 std::size_t ReportRows::index(int32_t column, int32_t row) const {
     if (column < 0 || column >= columns_ || row < 0 || row >= rows_)
         throw Failure(err::SubscriptOutOfRange, kOutOfRange);
-    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
+    return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+           static_cast<std::size_t>(column);
 }
 
-const std::string& ReportRows::at(int32_t column, int32_t row) const { return cells_[index(column, row)]; }
+const std::string& ReportRows::at(int32_t column, int32_t row) const {
+    return cells_[index(column, row)];
+}
 
-std::string& ReportRows::at(int32_t column, int32_t row) { return cells_[index(column, row)]; }
+std::string& ReportRows::at(int32_t column, int32_t row) {
+    return cells_[index(column, row)];
+}
 
 void ReportRows::addRow() {
     null_ = false;

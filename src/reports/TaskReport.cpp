@@ -48,8 +48,9 @@ std::string footerLine(const std::string& left, const std::string& right) {
 
 }  // namespace
 
-const TaskReport::Kind TaskReport::kNewTask{"NewTask.htm", "Print this Task? It may take a moment or two to prepare.",
-                                            "Print Preview this Task? It may take a moment or two to prepare."};
+const TaskReport::Kind TaskReport::kNewTask{
+    "NewTask.htm", "Print this Task? It may take a moment or two to prepare.",
+    "Print Preview this Task? It may take a moment or two to prepare."};
 const TaskReport::Kind TaskReport::kExistingTask{
     "ExistingTask.htm", "Print this Task? It may take a moment or two to prepare.",
     "Print Preview this Task? It may take a moment or two to prepare.", true};
@@ -159,7 +160,8 @@ void TaskReport::DoPrintPreview() {
 }
 
 void TaskReport::run(bool preview) {
-    if (ui().msgBox(preview ? kind_.previewQuestion : kind_.printQuestion, vbYesNo, kProgramTitle) != vbYes) return;
+    if (ui().msgBox(preview ? kind_.previewQuestion : kind_.printQuestion, vbYesNo, kProgramTitle) != vbYes)
+        return;
     ui().setWaitCursor(true);
     EventPause::now();
     const auto html = MakeHTML();
@@ -169,8 +171,10 @@ void TaskReport::run(bool preview) {
     const PrintJob j = job(preview);
     EventPause::now();
     if (PrintSurface* surface = ports().print) {
-        if (preview) surface->preview(j);
-        else surface->print(j);
+        if (preview)
+            surface->preview(j);
+        else
+            surface->print(j);
     }
     ui().setWaitCursor(false);
 }

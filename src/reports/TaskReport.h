@@ -31,7 +31,8 @@ public:
     static const Kind kExistingTask;
     static const Kind kTaskAppointment;
 
-    TaskReport(const Kind& kind, ReportSource& source, const char* module) : kind_(kind), source_(source), module_(module) {}
+    TaskReport(const Kind& kind, ReportSource& source, const char* module)
+        : kind_(kind), source_(source), module_(module) {}
 
     // The report's HTML; nothing when it failed (the fault is reported).
     [[nodiscard]] std::optional<std::string> MakeHTML();

@@ -34,7 +34,9 @@ void addAt(Pairs& pairs, const Sheet& sheet, int32_t position) {
     pairs.emplace_back(t.caption(), t.text());
 }
 
-std::string points(const Sheet& smtReady) { return smtReady.tool("POINTS").text(); }
+std::string points(const Sheet& smtReady) {
+    return smtReady.tool("POINTS").text();
+}
 
 // Minutes as the program writes a duration; a text that is no number stays.
 std::string timeWorked(const std::string& cell) {
@@ -44,21 +46,23 @@ std::string timeWorked(const std::string& cell) {
 
 }  // namespace
 
-ReportRows TaskReportRows::existingTask(const TextEditor& spellTask, const Sheet& smtABOUT, const DateBox& ctDeadline,
-                                        const Sheet& smtReady) {
+ReportRows TaskReportRows::existingTask(const TextEditor& spellTask, const Sheet& smtABOUT,
+                                        const DateBox& ctDeadline, const Sheet& smtReady) {
     const bool dated = ctDeadline.hasDate();
     Pairs pairs{{"Task Description:", spellTask.text()}};
     addAt(pairs, smtABOUT, 1);
     addAt(pairs, smtABOUT, 2);
     // The day number itself, in digits, not a formatted date.
-    pairs.emplace_back("Deadline Date:", dated ? std::to_string(static_cast<int64_t>(ctDeadline.value())) : kNoDeadline);
+    pairs.emplace_back("Deadline Date:",
+                       dated ? std::to_string(static_cast<int64_t>(ctDeadline.value())) : kNoDeadline);
     pairs.emplace_back("Deadline Time:", dated ? smtABOUT.at(6).text() : kNoDeadline);
     for (int32_t position = 8; position <= 13; ++position) addAt(pairs, smtABOUT, position);
     pairs.emplace_back("Possible Points:", points(smtReady));
     return table(pairs);
 }
 
-ReportRows TaskReportRows::appointment(const TextEditor& spellTask, const Sheet& smtABOUT, const Sheet& smtReady) {
+ReportRows TaskReportRows::appointment(const TextEditor& spellTask, const Sheet& smtABOUT,
+                                       const Sheet& smtReady) {
     Pairs pairs{{"Task Description:", spellTask.text()}};
     addAt(pairs, smtABOUT, 1);
     addAt(pairs, smtABOUT, 2);

@@ -37,7 +37,9 @@ const std::string& part(const std::vector<std::string>& parts, std::size_t i) {
     return parts[i];
 }
 
-std::string quoted(const std::string& v) { return "\"" + v + "\""; }
+std::string quoted(const std::string& v) {
+    return "\"" + v + "\"";
+}
 
 }  // namespace
 
@@ -45,9 +47,9 @@ clsHTMLMake::clsHTMLMake() : reportPath_(g().AppPath) {}
 
 void clsHTMLMake::setReportTitle(const std::string& title) {
     trap(kModule, "ReportTitle", [&] {
-        reportTitle_ = "<h1><font face=" + fontface_ + " color=" + "4" + "><span style= \"font-size:" +
-                       std::to_string(static_cast<int64_t>(headingSize_) + 4) + "pt\">" + title +
-                       "</span></font></h1>";
+        reportTitle_ = "<h1><font face=" + fontface_ + " color=" + "4" +
+                       "><span style= \"font-size:" + std::to_string(static_cast<int64_t>(headingSize_) + 4) +
+                       "pt\">" + title + "</span></font></h1>";
     });
 }
 
@@ -168,8 +170,10 @@ std::string clsHTMLMake::tableOpening(int subTitle) const {
 
 void clsHTMLMake::appendHeader(std::string& out, const Columns& cols) const {
     for (std::size_t i = 0; i < cols.headings.size(); ++i) {
-        if (cols.hasWidths) out += "<td width=" + quoted(part(cols.widths, i)) + "align=\"center\" >";
-        else out += "<td align=\"center\" >";
+        if (cols.hasWidths)
+            out += "<td width=" + quoted(part(cols.widths, i)) + "align=\"center\" >";
+        else
+            out += "<td align=\"center\" >";
         out += "<font face=" + quoted(fontface_) + " color=" + quoted(tableTextColor_) + "><b>" +
                cols.headings[i] + "</b></font></td>" + kCRLF;
     }
@@ -187,8 +191,10 @@ void clsHTMLMake::appendRows(std::string& out, const Columns& cols, const Report
         out += "<tr>";
         out += kCRLF;
         for (std::size_t c = 0; c < cols.headings.size(); ++c) {
-            if (cols.hasWidths) out += "<td width=" + quoted(part(cols.widths, c));
-            else out += "<td";
+            if (cols.hasWidths)
+                out += "<td width=" + quoted(part(cols.widths, c));
+            else
+                out += "<td";
             if (cols.hasAlignments) out += "align=" + quoted(part(cols.alignments, c));
             out += back;
             out += font;

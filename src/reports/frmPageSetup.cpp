@@ -46,7 +46,9 @@ std::vector<std::string> splitAt(const std::string& text, char sep) {
     }
 }
 
-bool isNumeric(const std::string& text) { return !text.empty() && tryToDouble(text).has_value(); }
+bool isNumeric(const std::string& text) {
+    return !text.empty() && tryToDouble(text).has_value();
+}
 
 }  // namespace
 
@@ -57,10 +59,12 @@ frmPageSetup::frmPageSetup() : Form("frmPageSetup") {
         s.Change.connect([this](Tool& t, const std::string& p) {
             trap(kModule, "smtPrinting_Change", [&] { smtPrinting_Change(t, p); });
         });
-        s.Click.connect([this, i](Tool& t) { trap(kModule, "smtPrinting_Click", [&] { smtPrinting_Click(i, t); }); });
+        s.Click.connect(
+            [this, i](Tool& t) { trap(kModule, "smtPrinting_Click", [&] { smtPrinting_Click(i, t); }); });
     }
     addControl(c_.smtActions.name(), c_.smtActions);
-    c_.smtActions.Click.connect([this](Tool& t) { trap(kModule, "smtActions_Click", [&] { smtActions_Click(t); }); });
+    c_.smtActions.Click.connect(
+        [this](Tool& t) { trap(kModule, "smtActions_Click", [&] { smtActions_Click(t); }); });
     for (Label* l : {&c_.Image1, &c_.lblPrint, &c_.lblStatic}) addControl(l->name(), *l);
     setCaption(std::string(kProgramTitle) + " - Page Setup");
 }
@@ -107,8 +111,8 @@ void frmPageSetup::GetTHEDefaultPrinter() {
 void frmPageSetup::PopulateListControlWithPrinters() {
     trap(kModule, "PopulateListControlWithPrinters", [&] {
         Tool& list = c_.tool("PRINTER");
-        const std::vector<std::string> names = ports().printers ? ports().printers->deviceNames()
-                                                                : std::vector<std::string>{};
+        const std::vector<std::string> names =
+            ports().printers ? ports().printers->deviceNames() : std::vector<std::string>{};
         if (names.empty()) {
             list.addItem(ttOption, "PRN-0", PrintSettings::kNoPrinter);
             return;
@@ -151,8 +155,8 @@ void frmPageSetup::PageSetup() {
         load();
         CStringBag bag;
         bag.setContents(g().TaskPrintDialog);
-        for (const char* key : {"PRINTER", "PAPER", "COPIES", "PAGESWIDE", "PRINTCOLOR", "TOP", "BOTTOM", "RIGHT",
-                                "LEFT"})
+        for (const char* key :
+             {"PRINTER", "PAPER", "COPIES", "PAGESWIDE", "PRINTCOLOR", "TOP", "BOTTOM", "RIGHT", "LEFT"})
             c_.tool(key).setText(bag.ReadItem(key));
         c_.tool("HCOLOR").setText(std::to_string(toLong(bag.ReadItem("HCOLOR"))));
         for (const char* key : {"HFONT", "HSIZE", "HEADING"}) c_.tool(key).setText(bag.ReadItem(key));
@@ -163,8 +167,10 @@ void frmPageSetup::PageSetup() {
         for (const char* key : {"PTASK", "PCHECKLIST", "PNOTES"})
             c_.tool(key).setChecked(PrintSettings::boolOf(bag.ReadItem(key)));
         Tool& schedule = c_.tool("PSCHEDULE");
-        if (g().DialogNum != PrintSettings::kExistingTaskDialog) schedule.setVisible(false);
-        else schedule.setChecked(PrintSettings::boolOf(bag.ReadItem("PSCHEDULE")));
+        if (g().DialogNum != PrintSettings::kExistingTaskDialog)
+            schedule.setVisible(false);
+        else
+            schedule.setChecked(PrintSettings::boolOf(bag.ReadItem("PSCHEDULE")));
     });
 }
 
@@ -207,8 +213,10 @@ void frmPageSetup::smtPrinting_Click(int index, Tool& tool) {
     if (tool.key() != "HCOLOR" && tool.key() != "FCOLOR") return;
     const std::string& text = tool.text();
     int32_t start = 0;
-    if (!text.empty() && text[0] >= '0' && text[0] <= '9') start = toLong(text);
-    else start = roundLong(tryToDouble(text).value_or(0.0));
+    if (!text.empty() && text[0] >= '0' && text[0] <= '9')
+        start = toLong(text);
+    else
+        start = roundLong(tryToDouble(text).value_or(0.0));
     CColorDialog chooser;
     chooser.Init(0, "Select Color:", 0, start);
     if (chooser.Show()) tool.setText(std::to_string(chooser.SelectedColor()));
@@ -274,10 +282,11 @@ bool frmPageSetup::checkFirstStage() const {
 
 // A margin of 0 passes, though the message says positive.
 bool frmPageSetup::checkMargins() const {
-    const std::pair<const char*, const char*> margins[] = {{"TOP", "Top margin should be a positive number."},
-                                                           {"BOTTOM", "Bottom margin should be a positive number."},
-                                                           {"LEFT", "Left margin should be a positive number."},
-                                                           {"RIGHT", "Right margin should be a positive number."}};
+    const std::pair<const char*, const char*> margins[] = {
+        {"TOP", "Top margin should be a positive number."},
+        {"BOTTOM", "Bottom margin should be a positive number."},
+        {"LEFT", "Left margin should be a positive number."},
+        {"RIGHT", "Right margin should be a positive number."}};
     for (const auto& [key, message] : margins) {
         const std::string& text = c_.tool(key).text();
         if (!isNumeric(text) || *tryToDouble(text) < 0) return fail(message);

@@ -1,7 +1,6 @@
-#include "reports/FooterFormat.h"
-
 #include <gtest/gtest.h>
 
+#include "reports/FooterFormat.h"
 #include "reports/FooterText.h"
 
 namespace qv {

@@ -1,9 +1,8 @@
-#include "reports/frmPageSetup.h"
-
 #include <gtest/gtest.h>
 
 #include "reports/PrintSettings.h"
 #include "reports/TaskReport.h"
+#include "reports/frmPageSetup.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/PrintPorts.h"
 #include "support/TestEnv.h"
@@ -70,15 +69,18 @@ protected:
 
 TEST_F(PageSetupTest, AStringGoesThroughTheDialogUnchanged) {
     bool saved = false;
-    run([](frmPageSetup& f) {
-        EXPECT_EQ(f.controls().tool("PRINTER").text(), "Office Laser");
-        EXPECT_EQ(f.controls().Image1.caption(), "PORTRAIT");
-        EXPECT_EQ(f.controls().lblPrint.caption(), "Portrait");
-        EXPECT_EQ(f.controls().tool("FLEFT").text(), "Quorvel - Version 1.14");
-        EXPECT_EQ(f.controls().tool("FRIGHT").text(), "") << "a stored text that is no pick shows nothing";
-        EXPECT_TRUE(f.controls().tool("PSCHEDULE").visible());
-        ok(f);
-    }, &saved);
+    run(
+        [](frmPageSetup& f) {
+            EXPECT_EQ(f.controls().tool("PRINTER").text(), "Office Laser");
+            EXPECT_EQ(f.controls().Image1.caption(), "PORTRAIT");
+            EXPECT_EQ(f.controls().lblPrint.caption(), "Portrait");
+            EXPECT_EQ(f.controls().tool("FLEFT").text(), "Quorvel - Version 1.14");
+            EXPECT_EQ(f.controls().tool("FRIGHT").text(), "")
+                << "a stored text that is no pick shows nothing";
+            EXPECT_TRUE(f.controls().tool("PSCHEDULE").visible());
+            ok(f);
+        },
+        &saved);
     EXPECT_TRUE(saved);
     EXPECT_EQ(g().TaskPrintDialog, kSaved);
     EXPECT_FALSE(g().SettingUp);
@@ -98,7 +100,8 @@ TEST_F(PageSetupTest, FooterPicksStoreTheirTags) {
     CStringBag bag;
     bag.setContents(g().TaskPrintDialog);
     EXPECT_EQ(bag.ReadItem("FLEFT"), "");
-    EXPECT_EQ(bag.ReadItem("FRIGHT"), "--Page Number--") << "the pick's tag, which the print code does not translate";
+    EXPECT_EQ(bag.ReadItem("FRIGHT"), "--Page Number--")
+        << "the pick's tag, which the print code does not translate";
     EXPECT_EQ(g().TaskPrintDialog.find("PSCHEDULE"), std::string::npos);
 
     run([](frmPageSetup& f) {
@@ -125,14 +128,16 @@ TEST_F(PageSetupTest, FooterPicksStoreTheirTags) {
 
 TEST_F(PageSetupTest, ChecksAsTheyStand) {
     const std::string before = g().TaskPrintDialog;
-    auto setText = [](frmPageSetup& f, const char* key, const char* text) { f.controls().tool(key).setText(text); };
+    auto setText = [](frmPageSetup& f, const char* key, const char* text) {
+        f.controls().tool(key).setText(text);
+    };
     for (int i = 0; i < 5; ++i) scriptedUi().queueAnswer(vbOK);
     run([&](frmPageSetup& f) {
         setText(f, "TOP", "abc");
         EXPECT_FALSE(f.ValidatePrintInfo(0));
         setText(f, "TOP", "");
         EXPECT_FALSE(f.ValidatePrintInfo(0));
-        setText(f, "TOP", "0");  // passes although the message says positive
+        setText(f, "TOP", "0");   // passes although the message says positive
         setText(f, "FSIZE", "");  // the footer's size is never tested
         EXPECT_TRUE(f.ValidatePrintInfo(0));
         setText(f, "LEFT", "-1");
@@ -152,11 +157,11 @@ TEST_F(PageSetupTest, ChecksAsTheyStand) {
         texts.push_back(m.text);
         EXPECT_EQ(m.title, "Quorvel - Version 1.14");
     }
-    EXPECT_EQ(texts, (std::vector<std::string>{"Top margin should be a positive number.",
-                                               "Top margin should be a positive number.",
-                                               "Left margin should be a positive number.",
-                                               "Select a Footer font (even if you do not plan to print a footer).",
-                                               "Pages Wide should be set to 1,2,3,4 or Automatic."}));
+    EXPECT_EQ(texts, (std::vector<std::string>{
+                         "Top margin should be a positive number.", "Top margin should be a positive number.",
+                         "Left margin should be a positive number.",
+                         "Select a Footer font (even if you do not plan to print a footer).",
+                         "Pages Wide should be set to 1,2,3,4 or Automatic."}));
     EXPECT_EQ(g().TaskPrintDialog, before) << "cancel and a failed check leave the string";
 }
 

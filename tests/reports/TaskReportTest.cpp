@@ -2,12 +2,11 @@
 // spare row, the sections by the string, and the one ordering difference
 // of the Existing Task dialog.
 
-#include "reports/TaskReport.h"
-
 #include <gtest/gtest.h>
 
 #include "reports/PrintSettings.h"
 #include "reports/ReportSource.h"
+#include "reports/TaskReport.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/PrintPorts.h"
 #include "support/TestEnv.h"
@@ -70,7 +69,8 @@ TEST_F(TaskReportTest, ScheduleRowsAllShownThroughTheSpareRow) {
     settings("PNOTES", "False");
     TaskReport report(TaskReport::kExistingTask, source_, "frmExistingTask");
     const std::string html = *report.MakeHTML();
-    for (int i = 0; i < 3; ++i) EXPECT_NE(html.find(">start" + std::to_string(i) + "<"), std::string::npos) << i;
+    for (int i = 0; i < 3; ++i)
+        EXPECT_NE(html.find(">start" + std::to_string(i) + "<"), std::string::npos) << i;
     EXPECT_NE(html.find("<b>Time Spent</b>"), std::string::npos);
     EXPECT_NE(html.find("No Checklist."), std::string::npos);
     EXPECT_EQ(html.find("Notes:"), std::string::npos);

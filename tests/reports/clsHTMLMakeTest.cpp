@@ -1,7 +1,6 @@
-#include "reports/clsHTMLMake.h"
-
 #include <gtest/gtest.h>
 
+#include "reports/clsHTMLMake.h"
 #include "support/TestEnv.h"
 #include "toolkit/Ui.h"
 
@@ -13,7 +12,8 @@ class HTMLMakeTest : public TestEnv {
 protected:
     HTMLMakeTest() : TestEnv({false, false}) {}
 
-    static ReportRows rows(int32_t columns, std::initializer_list<std::initializer_list<const char*>> values) {
+    static ReportRows rows(int32_t columns,
+                           std::initializer_list<std::initializer_list<const char*>> values) {
         ReportRows r(columns, static_cast<int32_t>(values.size()));
         int32_t row = 0;
         for (const auto& line : values) {
@@ -25,7 +25,8 @@ protected:
     }
 };
 
-const char* const kSub1 = "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Task:</span></font></h2><BR>";
+const char* const kSub1 =
+    "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Task:</span></font></h2><BR>";
 
 }  // namespace
 
@@ -57,8 +58,9 @@ TEST_F(HTMLMakeTest, DefaultsAndTheHeadingBuiltWhenPut) {
     EXPECT_EQ(m.ReportTitle(),
               "<h1><font face=Tahoma color=4><span style= \"font-size:4pt\">Early</span></font></h1>");
     m.setReportTitle("A & <b>B</b>");
-    EXPECT_EQ(m.ReportTitle(),
-              "<h1><font face=Verdana color=4><span style= \"font-size:16pt\">A & <b>B</b></span></font></h1>");
+    EXPECT_EQ(
+        m.ReportTitle(),
+        "<h1><font face=Verdana color=4><span style= \"font-size:16pt\">A & <b>B</b></span></font></h1>");
 
     // Everything asked for nothing: the heading and the closing tags alone.
     m.settheTask("--NONE--");
@@ -79,13 +81,16 @@ TEST_F(HTMLMakeTest, SectionsOfChecklistNotesAndSchedule) {
     m.setChecklist("<b>1. Dig</b>");
     m.setNotes("x < y");
     EXPECT_EQ(m.Checklist(),
-              "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Checklist:</span></font></h2><BR>"
+              "\r\n<BR><h2><font face=Verdana color=4><span style= "
+              "\"font-size:10pt\">Checklist:</span></font></h2><BR>"
               "\r\n<b>1. Dig</b>");
-    EXPECT_EQ(m.Notes(),
-              "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Notes:</span></font></h2><BR>"
-              "\r\nx < y");
+    EXPECT_EQ(
+        m.Notes(),
+        "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Notes:</span></font></h2><BR>"
+        "\r\nx < y");
     const std::string schedHeading =
-        "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Schedule:</span></font></h2><BR>";
+        "\r\n<BR><h2><font face=Verdana color=4><span style= "
+        "\"font-size:10pt\">Schedule:</span></font></h2><BR>";
     // "--NONE--" keeps the schedule's heading, unlike the other sections.
     m.settheSchedule("--NONE--");
     EXPECT_EQ(m.theSchedule(), schedHeading + "No Schedule.");
@@ -111,17 +116,27 @@ TEST_F(HTMLMakeTest, TaskTableExactly) {
     m.setTableTextColor("255");
     m.setGridDetailbackColor("#FFFFFF");
     m.setTaskRows(rows(2, {{"Task Description:", "Dig <b>beds</b>"}, {"Status:", "Not yet saved."}}));
-    const std::string cell = "<td width=\"40%\"align=\"right\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" size=\"2\">";
-    const std::string cell2 = "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" size=\"2\">";
+    const std::string cell =
+        "<td width=\"40%\"align=\"right\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" "
+        "size=\"2\">";
+    const std::string cell2 =
+        "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" "
+        "size=\"2\">";
     EXPECT_EQ(m.theTask(),
               std::string(kSub1) +
                   "<table WIDTH=\"100%\" cellpadding=\"4\"\r\n cellspacing=\"4\"\r\n border=\"1\">\r\n"
                   "<tr BGCOLOR=\"#C0C0C0\">\r\n"
-                  "<td width=\"40%\"align=\"center\" ><font face=\"Verdana\" color=\"255\"><b>What</b></font></td>\r\n"
-                  "<td width=\"60%\"align=\"center\" ><font face=\"Verdana\" color=\"255\"><b>Value</b></font></td>\r\n"
+                  "<td width=\"40%\"align=\"center\" ><font face=\"Verdana\" "
+                  "color=\"255\"><b>What</b></font></td>\r\n"
+                  "<td width=\"60%\"align=\"center\" ><font face=\"Verdana\" "
+                  "color=\"255\"><b>Value</b></font></td>\r\n"
                   "</tr>"
-                  "<tr>\r\n" + cell + "Task Description:</font></td>" + cell2 + "Dig <b>beds</b></font></td>"
-                  "<tr>\r\n" + cell + "Status:</font></td>" + cell2 + "Not yet saved.</font></td>"
+                  "<tr>\r\n" +
+                  cell + "Task Description:</font></td>" + cell2 +
+                  "Dig <b>beds</b></font></td>"
+                  "<tr>\r\n" +
+                  cell + "Status:</font></td>" + cell2 +
+                  "Not yet saved.</font></td>"
                   "</tr></table>");
     EXPECT_EQ(m.RowCount(), 1);
 
@@ -139,7 +154,8 @@ TEST_F(HTMLMakeTest, TaskTableExactly) {
                   "<td align=\"center\" ><font face=\"Verdana\" color=\"\"><b>What</b></font></td>\r\n"
                   "<td align=\"center\" ><font face=\"Verdana\" color=\"\"><b>Value</b></font></td>\r\n"
                   "</tr><tr>\r\n"
-                  "<td<font face=\"Verdana\" size=\"2\">A</font></td><td<font face=\"Verdana\" size=\"2\">B</font></td>"
+                  "<td<font face=\"Verdana\" size=\"2\">A</font></td><td<font face=\"Verdana\" "
+                  "size=\"2\">B</font></td>"
                   "</tr></table>");
     // Alignments without widths: no blank after "<td".
     m.setColumnAlignment1("right,left");

@@ -21,7 +21,9 @@ struct FixedPrinters : PrinterList {
 };
 
 struct FixedFonts : FontList {
-    [[nodiscard]] std::vector<std::string> fontNames() const override { return {"Arial", "Tahoma", "Verdana"}; }
+    [[nodiscard]] std::vector<std::string> fontNames() const override {
+        return {"Arial", "Tahoma", "Verdana"};
+    }
 };
 
 struct FixedLocale : LocaleInfo {

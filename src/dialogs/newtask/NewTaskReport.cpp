@@ -38,8 +38,8 @@ ReportRows NewTaskReport::taskRows() {
         {"Importance:", levelText(g().ImportanceList, fields.utilImp())},
         {"Difficulty:", levelText(g().DifficultyList, fields.utilDiff())},
         {"Time Needed:", needed == kNothingChosen ? std::string(kNotSet) : SetTimeFormat(needed)},
-        {"Possible Points:",
-         fields.utilPossPoints == kNothingChosen ? std::string(kNotSet) : std::to_string(fields.utilPossPoints)},
+        {"Possible Points:", fields.utilPossPoints == kNothingChosen ? std::string(kNotSet)
+                                                                     : std::to_string(fields.utilPossPoints)},
     };
     ReportRows table(2, static_cast<int32_t>(std::size(rows)));
     for (int32_t r = 0; r < table.rows(); ++r) {
@@ -49,8 +49,12 @@ ReportRows NewTaskReport::taskRows() {
     return table;
 }
 
-const TextEditor& NewTaskReport::checklistEditor() const { return f_.controls().spellCK; }
+const TextEditor& NewTaskReport::checklistEditor() const {
+    return f_.controls().spellCK;
+}
 
-const TextEditor& NewTaskReport::notesEditor() const { return f_.controls().SpellNotes; }
+const TextEditor& NewTaskReport::notesEditor() const {
+    return f_.controls().SpellNotes;
+}
 
 }  // namespace qv

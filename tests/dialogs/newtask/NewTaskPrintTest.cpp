@@ -65,19 +65,26 @@ TEST_F(NewTaskPrint, TheReportOfATaskNotYetSaved) {
     then([this] { form().controls().SpellNotes.userEdit("Before the frost"); });
     print(vbYes);
     leave();
-    openWith(with({{"HEADING", "Garden"}, {"HFONT", "Verdana"}, {"HSIZE", "12"}, {"HCOLOR", "255"},
+    openWith(with({{"HEADING", "Garden"},
+                   {"HFONT", "Verdana"},
+                   {"HSIZE", "12"},
+                   {"HCOLOR", "255"},
                    {"PCHECKLIST", "False"}}));
 
     EXPECT_EQ(scriptedUi().messages().at(0).text, "Print this Task? It may take a moment or two to prepare.");
     EXPECT_EQ(scriptedUi().messages().at(0).style, vbYesNo);
     const std::string html = readFile(reportFile());
-    EXPECT_EQ(html.rfind("<h1><font face=Verdana color=4><span style= \"font-size:16pt\">Garden</span></font></h1>", 0),
-              0u)
+    EXPECT_EQ(
+        html.rfind("<h1><font face=Verdana color=4><span style= \"font-size:16pt\">Garden</span></font></h1>",
+                   0),
+        0u)
         << html;
-    const std::string value = "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" size=\"2\">";
-    for (const std::string& v : {std::string("Plant <b>tulips</b>"), std::string("Not yet saved."),
-                                 std::string("False"), std::string("46000"), std::string("Alpha"),
-                                 g().ImportanceList[0], g().DifficultyList[0]})
+    const std::string value =
+        "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" "
+        "size=\"2\">";
+    for (const std::string& v :
+         {std::string("Plant <b>tulips</b>"), std::string("Not yet saved."), std::string("False"),
+          std::string("46000"), std::string("Alpha"), g().ImportanceList[0], g().DifficultyList[0]})
         EXPECT_NE(html.find(value + v + "</font></td>"), std::string::npos) << v << "\n" << html;
     EXPECT_NE(html.find("Task Information:"), std::string::npos);
     EXPECT_NE(html.find("Notes:</span></font></h2><BR>\r\n"), std::string::npos);
@@ -105,9 +112,15 @@ TEST_F(NewTaskPrint, QuestionsFootersAndMargins) {
     print(vbYes, "PRINTPREVIEW");
     leave();
     locale_.system = 1;
-    openWith(with({{"FLEFT", "Quorvel - Version 1.03"}, {"FRIGHT", "Page Number"}, {"LEFT", "0.5"},
-                   {"PTASK", "False"}, {"PCHECKLIST", ""}, {"PNOTES", "False"}, {"HEADING", "Only this"}}));
-    EXPECT_EQ(scriptedUi().messages().at(1).text, "Print Preview this Task? It may take a moment or two to prepare.");
+    openWith(with({{"FLEFT", "Quorvel - Version 1.03"},
+                   {"FRIGHT", "Page Number"},
+                   {"LEFT", "0.5"},
+                   {"PTASK", "False"},
+                   {"PCHECKLIST", ""},
+                   {"PNOTES", "False"},
+                   {"HEADING", "Only this"}}));
+    EXPECT_EQ(scriptedUi().messages().at(1).text,
+              "Print Preview this Task? It may take a moment or two to prepare.");
     EXPECT_TRUE(surface_.printed.empty());
     ASSERT_EQ(surface_.previewed.size(), 1u);
     EXPECT_EQ(surface_.previewed[0].footer, "{newline}{line}{Left}Quorvel - Version 1.14{Right}{PageNum}");

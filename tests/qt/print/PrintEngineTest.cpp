@@ -3,15 +3,14 @@
 // pages with no row cut, and the preview window.
 
 #include <QAbstractTextDocumentLayout>
+#include <QApplication>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QTextDocument>
 #include <QTextFrame>
 #include <QTextTable>
-#include <QApplication>
-#include <QRegularExpression>
-
 #include <filesystem>
 #include <fstream>
 
@@ -137,7 +136,8 @@ TEST_F(PrintEngine, ANewTaskPrintsIntoAPdfWithItsFooter) {
     const std::string pdf = folder() + "/Quorvel Reports/NewTask.pdf";
     EXPECT_EQ(surface_.lastPdf(), pdf);
     EXPECT_EQ(surface_.lastPageCount(), 1);
-    EXPECT_NE(scriptedUi().messages().at(1).text.find(pdf), std::string::npos) << "the user is told where it went";
+    EXPECT_NE(scriptedUi().messages().at(1).text.find(pdf), std::string::npos)
+        << "the user is told where it went";
     ASSERT_TRUE(std::filesystem::exists(pdf));
     EXPECT_EQ(pdfPages(pdf), 1);
     const QString text = poppler("pdftotext", {"-layout", QString::fromStdString(pdf), "-"});
@@ -175,7 +175,8 @@ TEST_F(PrintEngine, ALongScheduleGoesAcrossPagesWithNoRowCut) {
     auto pageOf = [&tops](double y) {
         return static_cast<int>(std::upper_bound(tops.begin(), tops.end(), y) - tops.begin());
     };
-    for (std::size_t i = 1; i < tops.size(); ++i) EXPECT_LE(tops[i] - tops[i - 1], report.body().height() + 0.01);
+    for (std::size_t i = 1; i < tops.size(); ++i)
+        EXPECT_LE(tops[i] - tops[i - 1], report.body().height() + 0.01);
     QTextTable* schedule = nullptr;
     for (QTextFrame* frame : report.document().rootFrame()->childFrames())
         if (auto* t = qobject_cast<QTextTable*>(frame); t && t->columns() == 5) schedule = t;
@@ -186,7 +187,8 @@ TEST_F(PrintEngine, ALongScheduleGoesAcrossPagesWithNoRowCut) {
     for (int r = 0; r < schedule->rows(); ++r) {
         double top = 1e18, bottom = -1;
         for (int c = 0; c < 5; ++c) {
-            const QRectF rect = layout->blockBoundingRect(schedule->cellAt(r, c).firstCursorPosition().block());
+            const QRectF rect =
+                layout->blockBoundingRect(schedule->cellAt(r, c).firstCursorPosition().block());
             top = std::min(top, rect.top());
             bottom = std::max(bottom, rect.bottom());
         }
