@@ -18,9 +18,9 @@ ScriptHelp::~ScriptHelp() {
     if (ports().help == &viewer_) ports().help = nullptr;
 }
 
-std::string ScriptHelp::print(const HelpPrintJob& job) {
+void ScriptHelp::print(const HelpPrintJob& job) {
     out_ << "help printed: " << fileOf(job.page) << " (" << job.heading << ")\n";
-    return engine_.print(job);
+    engine_.print(job);
 }
 
 void ScriptHelp::preview(const HelpPrintJob& job) {

@@ -21,7 +21,7 @@ public:
     explicit ScriptHelp(std::ostream& out);
     ~ScriptHelp() override;
 
-    std::string print(const HelpPrintJob& job) override;
+    void print(const HelpPrintJob& job) override;
     void preview(const HelpPrintJob& job) override;
 
     // "" when the help pop-up shows the topic with the title; else why not.

@@ -1,6 +1,6 @@
 #pragma once
-// Where the help pop-up sends a page to print: the print engine of the
-// desktop, or nothing in a build without one.
+// Where the help pop-up sends a page to print: the program's print engine
+// (SurfaceHelpPrinter), or a test's recorder.
 
 #include <cstdint>
 #include <string>
@@ -30,9 +30,9 @@ struct HelpPrintJob {
 class HelpPrinter {
 public:
     virtual ~HelpPrinter() = default;
-    // Prints the page. With no printer installed the page goes to a PDF
-    // file instead, whose path comes back; "" when it went to a printer.
-    virtual std::string print(const HelpPrintJob& job) = 0;
+    // Prints the page. With no printer installed the engine puts it in a
+    // PDF file instead and tells the user where.
+    virtual void print(const HelpPrintJob& job) = 0;
     // Shows the page as it would print, until the user closes the preview.
     virtual void preview(const HelpPrintJob& job) = 0;
 };

@@ -19,9 +19,8 @@ PrintJob SurfaceHelpPrinter::toPrintJob(const HelpPrintJob& job) {
     return p;
 }
 
-std::string SurfaceHelpPrinter::print(const HelpPrintJob& job) {
+void SurfaceHelpPrinter::print(const HelpPrintJob& job) {
     if (PrintSurface* surface = ports().print) surface->print(toPrintJob(job));
-    return {};
 }
 
 void SurfaceHelpPrinter::preview(const HelpPrintJob& job) {

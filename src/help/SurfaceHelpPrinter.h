@@ -11,7 +11,7 @@ struct PrintJob;
 
 class SurfaceHelpPrinter : public HelpPrinter {
 public:
-    std::string print(const HelpPrintJob& job) override;
+    void print(const HelpPrintJob& job) override;
     void preview(const HelpPrintJob& job) override;
 
     [[nodiscard]] static PrintJob toPrintJob(const HelpPrintJob& job);

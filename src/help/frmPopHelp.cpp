@@ -124,15 +124,11 @@ void frmPopHelp::printTopic(bool preview) {
     if (job.page.empty()) return;
     ui().setWaitCursor(true);
     ui().doEvents();
-    std::string pdf;
     if (preview)
         printer_->preview(job);
     else
-        pdf = printer_->print(job);
+        printer_->print(job);
     ui().setWaitCursor(false);
-    if (!pdf.empty())
-        ui().msgBox("No printer is installed: the help topic was saved as \"" + pdf + "\".", vbOKOnly + vbInformation,
-                    kProgramTitle);
 }
 
 HelpPrintJob frmPopHelp::MakeHelpHTML() const {

@@ -5,26 +5,26 @@
 
 #include "help/HelpTopics.h"
 #include "help/PopHelpViewer.h"
+#include "help/SurfaceHelpPrinter.h"
 #include "help/TourPreference.h"
 #include "help/frmPopHelp.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/TestEnv.h"
 #include "toolkit/LocaleInfo.h"
 #include "toolkit/Ports.h"
+#include "toolkit/PrintSurface.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
 namespace {
 
 struct RecordingPrinter : HelpPrinter {
-    std::string print(const HelpPrintJob& job) override {
+    void print(const HelpPrintJob& job) override {
         if (fail) throw std::runtime_error("printer jammed");
         printed.push_back(job);
-        return pdf;
     }
     void preview(const HelpPrintJob& job) override { previewed.push_back(job); }
     std::vector<HelpPrintJob> printed, previewed;
-    std::string pdf;
     bool fail = false;
 };
 
@@ -201,19 +201,13 @@ TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
     EXPECT_EQ(job.footerSize, 8);
     EXPECT_EQ(job.footerColor, 128);
 
-    // Without a printer the page becomes a PDF, and the user hears where.
-    printer.pdf = folder() + "/help/POP-KEYWORDS.pdf";
-    scriptedUi().queueAnswer(vbYes);
-    scriptedUi().queueAnswer(vbOK);
-    click("PRINT");
-    EXPECT_NE(scriptedUi().lastMessage().text.find("POP-KEYWORDS.pdf"), std::string::npos);
 
     scriptedUi().queueAnswer(vbYes);
     click("PRINTPREVIEW");
     EXPECT_EQ(scriptedUi().lastMessage().text,
               "Print Preview this help topic? It may take a moment or two to prepare.");
     ASSERT_EQ(printer.previewed.size(), 1u);
-    EXPECT_EQ(printer.printed.size(), 2u);
+    EXPECT_EQ(printer.printed.size(), 1u);
     ports().locale = nullptr;
 }
 
@@ -270,6 +264,51 @@ TEST_F(PopHelpTest, TheViewerShowsThePopUpModallyUntilItIsClosed) {
     EXPECT_EQ(viewer.shown(), nullptr);
     EXPECT_EQ(scriptedUi().shown(), std::vector<std::string>{"frmPopHelp"});
     EXPECT_EQ(scriptedUi().pendingActions(), 0u);
+}
+
+}  // namespace
+}  // namespace qv
+
+namespace qv {
+namespace {
+
+struct RecordingSurface : PrintSurface {
+    void print(const PrintJob& job) override { printed.push_back(job); }
+    void preview(const PrintJob& job) override { previewed.push_back(job); }
+    std::vector<PrintJob> printed, previewed;
+};
+
+// A help page reaches the one print engine with its file, heading, footer
+// and margins; with no engine installed nothing happens.
+TEST(SurfaceHelpPrinterTest, HandsThePageToThePrintEngine) {
+    SurfaceHelpPrinter printer;
+    HelpPrintJob job;
+    job.page = "/home/u/help/POP-KEYWORDS.htm";
+    job.heading = "Quorvel: Keywords";
+    job.footer = "{newline}{line}{Left}x{Right}{PageNum}";
+    job.footerFont = "Sans";
+    job.footerSize = 8;
+    job.marginLeft = 1;
+    job.marginRight = 2;
+    job.marginTop = 3;
+    job.marginBottom = 4;
+    printer.print(job);  // no engine: nothing, no fault
+
+    RecordingSurface surface;
+    ports().print = &surface;
+    printer.print(job);
+    printer.preview(job);
+    ports().print = nullptr;
+    ASSERT_EQ(surface.printed.size(), 1u);
+    ASSERT_EQ(surface.previewed.size(), 1u);
+    const PrintJob& p = surface.printed[0];
+    EXPECT_EQ(p.file, job.page);
+    EXPECT_EQ(p.header, job.heading);
+    EXPECT_EQ(p.footer, job.footer);
+    EXPECT_EQ(p.footerFont, "Sans");
+    EXPECT_EQ(p.footerSize, 8);
+    EXPECT_EQ(std::vector<int32_t>({p.marginLeft, p.marginRight, p.marginTop, p.marginBottom}),
+              std::vector<int32_t>({1, 2, 3, 4}));
 }
 
 }  // namespace
