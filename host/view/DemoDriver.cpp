@@ -149,6 +149,7 @@ void DemoDriver::planPrinting() {
     steps_.when("open page setup", [] { return StepRunner::formWindow(kNewTask) != nullptr; },
                 [] { QTimer::singleShot(0, [] { chooseMenuEntry("PAGESETUP"); }); });
     shootWhenShown("frmPageSetup", "page-setup", allSizes_);
+    planHelp("frmPageSetup", "smtActions.HELP", "help-page-setup", false);
     steps_.then("save page setup", [] { StepRunner::clickTool("frmPageSetup", "smtActions.OK"); });
     steps_.when("open the preview", [] { return closed("frmPageSetup"); },
                 [] { QTimer::singleShot(0, [] { chooseMenuEntry("PRINTPREVIEW"); }); });
