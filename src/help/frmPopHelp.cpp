@@ -1,8 +1,8 @@
 #include "help/frmPopHelp.h"
 
-#include "help/FooterPart.h"
 #include "help/HelpTopics.h"
 #include "help/TourPreference.h"
+#include "reports/FooterText.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "toolkit/Clock.h"
@@ -151,8 +151,8 @@ HelpPrintJob frmPopHelp::MakeHelpHTML() const {
     job.footerFont = bag.ReadItem("FFONT");
     job.footerSize = wholeOr(bag.ReadItem("FSIZE"), 9);
     const double now = clock().now();
-    const std::string left = footerPart(bag.ReadItem("FLEFT"), now);
-    const std::string right = footerPart(bag.ReadItem("FRIGHT"), now);
+    const std::string left = FooterText::forPrint(bag.ReadItem("FLEFT"), now);
+    const std::string right = FooterText::forPrint(bag.ReadItem("FRIGHT"), now);
     job.footer = "{newline}{line}{Left}" + left + "{Right}" + right;
     job.heading = caption().rfind(kTitlePrefix, 0) == 0 ? caption().substr(std::string(kTitlePrefix).size()) : caption();
     job.baseFolder = helpFolder();
