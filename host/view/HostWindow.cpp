@@ -17,8 +17,11 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "help/HelpTopics.h"
 #include "session/globals/SessionGlobals.h"
 #include "view/AppointmentList.h"
+#include "toolkit/HelpViewer.h"
+#include "toolkit/Ports.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
 #include "view/TaskTableModel.h"
@@ -63,6 +66,13 @@ void HostWindow::buildActions() {
     schedule_ = add("actSchedule", "Schedule Appointmen&t", false);
     connect(schedule_, &QAction::triggered, this, &HostWindow::scheduleAppointment);
     add("actSaveToCatalog", "&Save to Catalog", false);
+    bar->addSeparator();
+    connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
+    connect(add("actTour", "Getting Started &Tour", true), &QAction::triggered, this, [this] { openHelp(kTourTopic); });
+}
+
+void HostWindow::openHelp(int32_t topic) {
+    if (HelpViewer* help = ports().help) help->openHelpPop(topic, session_.printInfo(0));
 }
 
 QWidget* HostWindow::buildTaskPage() {

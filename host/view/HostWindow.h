@@ -3,6 +3,8 @@
 // filter and project choice, the Task Catalog, the commands that open the
 // component, and a log of the component's events.
 
+#include <cstdint>
+
 #include <QMainWindow>
 
 class QAction;
@@ -37,6 +39,8 @@ public:
     [[nodiscard]] AppointmentList& appointments() const { return *appointments_; }
     // The key of the task chosen in the list, or empty.
     [[nodiscard]] std::string chosenTask() const;
+    // Opens a help topic in the component's help pop-up.
+    void openHelp(int32_t topic);
 
 private:
     void buildActions();

@@ -3,10 +3,11 @@
 #include "dialogs/appointment/AppointmentActions.h"
 #include "dialogs/appointment/AppointmentLayout.h"
 #include "dialogs/appointment/AppointmentLoader.h"
+#include "dialogs/appointment/AppointmentReport.h"
 #include "dialogs/appointment/AppointmentSaver.h"
 #include "dialogs/appointment/AppointmentTimes.h"
 #include "dialogs/shared/SpellChecking.h"
-#include "dialogs/shared/TaskPrinter.h"
+#include "dialogs/shared/ReportPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
@@ -34,7 +35,8 @@ frmTAS2::frmTAS2()
       actions_(std::make_unique<AppointmentActions>(*this)),
       layout_(std::make_unique<AppointmentLayout>(*this)),
       ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk, checklist)),
-      printer_(std::make_shared<TaskPrinter>()) {
+      printer_(std::make_shared<ReportPrinter>(*this, TaskReport::kTaskAppointment,
+                                               std::make_unique<AppointmentReport>(*this), kModule)) {
     g().SettingUp = true;
     c_.smtTimes.tool("DATE").setHostedControl("ctTADate");
     registerControls();
