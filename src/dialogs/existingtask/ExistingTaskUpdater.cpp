@@ -28,6 +28,7 @@ bool ExistingTaskUpdater::UpdateTask() {
     const double now = clock().now();
     if (!f_.ValidateTask()) return false;
     auto& fields = f_.fields();
+    if (!takeTimeSpent()) return false;
     if (!fields.TaskRow && !fields.openTaskRow()) return false;
     Recordset& row = *fields.TaskRow;
     writeColumns(row, now);
@@ -50,7 +51,7 @@ void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {
     row.Fields("tskProjectKey") = Value(r.ProjectKey);
     row.Fields("tskStatus") = Value(r.Status);
     if (r.DateDone > kNoDate) row.Fields("tskDoneDate") = Value(Date{r.DateDone});
-    writeTimeSpent(row);
+    row.Fields("tskTimeSpent") = Value(r.TimeSpent);
     shiftCatalogHistory(row);
     row.Fields("tskImp") = Value(r.Imp);
     row.Fields("tskDifficulty") = Value(r.Diff);
@@ -68,17 +69,23 @@ void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {
     if (row.Fields("tskStatus").value().toInt32() == 0) row.Fields("tskWasImported") = Value(false);
 }
 
-// "0:00" on the times sheet leaves the stored Time Spent as it was loaded.
-void ExistingTaskUpdater::writeTimeSpent(Recordset& row) {
+// "0:00" on the times sheet leaves the stored Time Spent as it was loaded,
+// and so does the loaded text itself: a time of days or weeks does not read
+// back to its minutes, and an untouched time must not lose them. A changed
+// time the dialog can't read back is refused as the check refuses it,
+// rather than written over the stored time as -86.
+bool ExistingTaskUpdater::takeTimeSpent() {
     auto& c = f_.controls();
     auto& fields = f_.fields();
     const std::string timer = c.smtTimes.tool("TIMESPENT").text();
-    if (timer != "0:00") {
-        c.smtABOUT.tool("SPENT").setText(timer);
-        fields.setUtilTimeSpent(FormatCTasTime(c.smtABOUT.tool("SPENT").text()));
-        fields.record().TimeSpent = fields.utilTimeSpent();
-    }
-    row.Fields("tskTimeSpent") = Value(fields.record().TimeSpent);
+    if (timer == "0:00" || timer == c.smtABOUT.tool("SPENT").tag()) return true;
+    c.smtABOUT.tool("SPENT").setText(timer);
+    fields.setUtilTimeSpent(FormatCTasTime(c.smtABOUT.tool("SPENT").text()));
+    fields.record().TimeSpent = fields.utilTimeSpent();
+    if (fields.record().TimeSpent != kNothingChosen) return true;
+    c.smtActions.tool("UPDATE").setEnabled(false);
+    fields.IsDirty = false;
+    return false;
 }
 
 // A key is written only when the link was made or picked in this dialog.

@@ -17,7 +17,7 @@ public:
 
 private:
     void writeColumns(Recordset& row, double now);
-    void writeTimeSpent(Recordset& row);
+    [[nodiscard]] bool takeTimeSpent();
     void writeChecklist(Recordset& row);
     // tskTimeN0..N4 of the catalog item move one place on.
     static void shiftCatalogHistory(Recordset& row);

@@ -30,6 +30,9 @@ protected:
     // Chooses the entry of a drop-down list tool by its caption.
     void choose(const std::string& listKey, const std::string& caption);
     void etype(const std::string& sheetName, const std::string& key, const std::string& text);
+    void edesc(const std::string& text) {
+        then([this, text] { eform().editor("spellTask")->userEdit(text); });
+    }
     void ekey(int32_t code) { then([this, code] { eform().keyDown(code); }); }
     void answer(int32_t a) { then([this, a] { scriptedUi().queueAnswer(a); }); }
 };
