@@ -39,6 +39,12 @@ void Grid::setCaption(const std::string& caption) {
     Changed();
 }
 
+void Grid::userResized(int32_t twips) {
+    if (twips == extentWidth_) return;
+    extentWidth_ = twips;
+    Resized();
+}
+
 int32_t Grid::addColumn(const std::string& caption, const std::string& field, int32_t width) {
     columns_.push_back({caption, field, width, true, columnCount(), CellStyle::Edit});
     for (auto& r : rows_) r.cells.emplace_back();

@@ -47,6 +47,8 @@ public:
     // The grid's width in twips as its view last laid it out; 0 before.
     [[nodiscard]] int32_t extentWidth() const { return extentWidth_; }
     void setExtentWidth(int32_t twips) { extentWidth_ = twips; }
+    // The view's width changed, as the user resized: raises Resized.
+    void userResized(int32_t twips);
 
     // Columns, counted from 0. Adding one gives every row an empty cell;
     // it takes the next place among the shown columns.
@@ -107,6 +109,7 @@ public:
     Event<int32_t, int32_t, const std::string&, bool&> BeforeCellUpdate;
     Event<int32_t, int32_t> AfterCellUpdate;
     Event<int32_t, int32_t> ClickCellButton;
+    Event<> Resized;  // the view was resized; extentWidth() holds its width
 
 private:
     void checkRow(int32_t row) const;

@@ -31,6 +31,13 @@ ExistingTaskLayout::ExistingTaskLayout(Form& form, Splitter& splitTask, TabStrip
     : form_(form), split_(splitTask), tabs_(Tabs1), timer2_(Timer2), sked_(sked),
       geometry_(WindowGeometry::forExistingTask(form)) {}
 
+// The grid's first width lays its columns out; each later one is the
+// schedule panel's resize.
+void ExistingTaskLayout::gridSked_Resized() {
+    if (sked_.layoutPending()) sked_.applyLayoutWidths();
+    else SSResizer1_ResizeComplete(4);
+}
+
 std::string ExistingTaskLayout::layoutFile() { return WindowGeometry::layoutPath("QuorvelETask.slf"); }
 
 void ExistingTaskLayout::load() {

@@ -48,6 +48,7 @@ public:
     void splitTask_SplitterEndDrag();
     void Tabs1_Switching(int32_t tab);
     void SSResizer1_ResizeComplete(int32_t index);
+    void gridSked_Resized();
     void Form_Resize();
     void Timer2_Timer();
     // Form_QueryUnload: a normal window keeps its geometry, then SaveSettings.

@@ -156,6 +156,7 @@ void ScheduleGrid::InitializeLayout() {
 
 void ScheduleGrid::applyLayoutWidths() {
     const double w = grid_.extentWidth();
+    laidOut_ = grid_.columnCount() > 0 && w > 0;
     for (const Shown& s : kShown)
         if (int32_t c = col(s.key); c >= 0) grid_.setColumnWidth(c, roundLong(s.layoutFactor * w));
 }

@@ -54,6 +54,8 @@ public:
     // schedule panel's resize sets them (they differ for Start, End and ">>").
     void applyLayoutWidths();
     void applyResizeWidths();
+    // Whether the widths of layout still wait for the grid's first width.
+    [[nodiscard]] bool layoutPending() const { return !laidOut_; }
 
     // The source query for a task key.
     [[nodiscard]] static std::string skedQuery(const std::string& taskKey);
@@ -81,6 +83,7 @@ private:
     RecordsetPtr rs_;
     int32_t skedRowCount_ = 0;
     int32_t boundColumns_ = 0;
+    bool laidOut_ = false;
 };
 
 }  // namespace qv
