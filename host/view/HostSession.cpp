@@ -79,6 +79,8 @@ void HostSession::newTask(const std::string& projectKey) { open(0, {}, projectKe
 
 void HostSession::taskFromCatalog(const std::string& catalogKey) { open(6, catalogKey, {}); }
 
+void HostSession::openTask(const std::string& taskKey) { open(1, taskKey, {}); }
+
 std::string HostSession::printInfo(int32_t slot) const {
     QSettings s(QString::fromStdString(folder_ + "/QuorvelHost.ini"), QSettings::IniFormat);
     return s.value(QStringLiteral("print/%1").arg(slot)).toString().toStdString();

@@ -23,6 +23,8 @@ public:
 
     void newTask(const std::string& projectKey);
     void taskFromCatalog(const std::string& catalogKey);
+    // A stored task in the Existing Task dialog (mode 1).
+    void openTask(const std::string& taskKey);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.

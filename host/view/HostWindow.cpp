@@ -55,8 +55,9 @@ void HostWindow::buildActions() {
     fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
     bar->addSeparator();
+    openTask_ = add("actOpenTask", "&Open Task", false);
+    connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
     // Commands of the other dialogs: present, not yet offered.
-    add("actOpenTask", "&Open Task", false);
     add("actWorkAppointment", "&Work Appointment", false);
     add("actSaveToCatalog", "&Save to Catalog", false);
 }
@@ -90,6 +91,9 @@ QWidget* HostWindow::buildTaskPage() {
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
     table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
     column->addWidget(table_, 1);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& at) { openTask_->setEnabled(at.isValid()); });
+    connect(table_, &QTableView::activated, this, &HostWindow::openTask);
     connect(project_, &QComboBox::currentIndexChanged, this, &HostWindow::refresh);
     connect(currentOnly_, &QCheckBox::toggled, this, &HostWindow::refresh);
     return page;
@@ -141,6 +145,7 @@ void HostWindow::refresh() {
             if (item->data(Qt::UserRole).toString() == chosen) catalog_->setCurrentItem(item);
         }
         fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
+        openTask_->setEnabled(table_->currentIndex().isValid());
     } catch (const std::exception& e) {
         log(QStringLiteral("Could not read the store: %1").arg(e.what()));
     }
@@ -151,6 +156,10 @@ void HostWindow::newTask() { session_.newTask(chosenProject()); }
 void HostWindow::taskFromCatalog() {
     if (QListWidgetItem* item = catalog_->currentItem())
         session_.taskFromCatalog(item->data(Qt::UserRole).toString().toStdString());
+}
+
+void HostWindow::openTask() {
+    if (const TaskRow* row = tasks_->rowAt(table_->currentIndex().row())) session_.openTask(row->guid);
 }
 
 void HostWindow::log(const QString& line) {

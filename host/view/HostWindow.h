@@ -29,6 +29,8 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Opens the task selected in the list.
+    void openTask();
 
 private:
     void buildActions();
@@ -47,6 +49,7 @@ private:
     QListWidget* catalog_ = nullptr;
     QPlainTextEdit* log_ = nullptr;
     QAction* fromCatalog_ = nullptr;
+    QAction* openTask_ = nullptr;
 };
 
 }  // namespace qv
