@@ -53,6 +53,8 @@ private:
     void cmdClose(const ScriptLine& l);
     void cmdAnswer(const ScriptLine& l);
     void cmdAdvance(const ScriptLine& l);
+    void cmdClock(const ScriptLine& l);
+    void cmdSettingsFile(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
 
     void expectEvent(const ScriptLine& l, bool present);
@@ -62,6 +64,10 @@ private:
     void expectForm(const ScriptLine& l);
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
+    void expectNoMessage(const ScriptLine& l);
+    void expectAbsent(const ScriptLine& l);
+    void expectCaption(const ScriptLine& l);
+    void expectDate(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();

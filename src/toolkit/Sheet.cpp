@@ -100,6 +100,7 @@ void Sheet::doubleClick(Tool& t) {
 void Sheet::userEdit(Tool& t, const std::string& text) {
     if (!enabled_ || !t.enabled()) return;
     t.setText(text);
+    AfterEdit(t);
 }
 
 }  // namespace qv

@@ -110,12 +110,8 @@ bool NewTaskSaver::writeKeywords() {
     const std::string guid = f_.fields().utilNewTaskGUID();
     links.SetSQLKey("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(guid));
     if (!links.GetDataKEY(rs)) return false;
-    const auto ticked = KeywordSheet::tickedIn(f_.fields().record().KeywordList);
-    const std::string taskText = f_.controls().spellTask.text();
-    for (const auto& t : f_.controls().smtKeywords.tools()) {
-        if (!KeywordSheet::isKeyword(*t) || !ticked.count(TextCase::upper(t->key()))) continue;
-        KeywordSheet::addLink(*rs, *t, taskText, guid);
-    }
+    KeywordSheet::addLinksFromBag(*rs, f_.controls().smtKeywords, f_.fields().record().KeywordList,
+                                  f_.controls().spellTask.text(), guid);
     rs->Close();
     return true;
 }

@@ -12,6 +12,7 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/TaskPrinter.h"
+#include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "values/DateFormats.h"
@@ -168,10 +169,7 @@ void frmTask3::setCKEditMode(int16_t mode) { ckLink_->setCKEditMode(mode); }
 
 int16_t frmTask3::CheckListMode() const { return static_cast<int16_t>(fields_->checklist.CheckListMode); }
 
-std::string frmTask3::TrimtoLen(const std::string& text, std::size_t limit) {
-    if (charCount(text) <= limit) return text;
-    return midChars(text, 1, limit) + "...";
-}
+std::string frmTask3::TrimtoLen(const std::string& text, std::size_t limit) { return qv::TrimtoLen(text, limit); }
 
 void frmTask3::setPrinter(std::shared_ptr<TaskPrinter> printer) {
     if (printer) printer_ = std::move(printer);

@@ -94,4 +94,11 @@ void KeywordSheet::addLink(Recordset& rs, const Tool& keyword, const std::string
     rs.UpdateBatch(adAffectAllChapters);
 }
 
+void KeywordSheet::addLinksFromBag(Recordset& rs, const Sheet& sheet, const std::string& bag,
+                                   const std::string& taskText, const std::string& taskGUID) {
+    const auto ticked = tickedIn(bag);
+    for (const auto& t : sheet.tools())
+        if (isKeyword(*t) && ticked.count(TextCase::upper(t->key()))) addLink(rs, *t, taskText, taskGUID);
+}
+
 }  // namespace qv

@@ -1,0 +1,70 @@
+#include "dialogs/existingtask/ExistingTaskCatalogSave.h"
+
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/ExistingTaskKeywords.h"
+#include "dialogs/existingtask/frmExistingTask.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsNewTask.h"
+
+namespace qv {
+
+bool ExistingTaskCatalogSave::SaveToTaskCat() {
+    if (!f_.ValidateTask()) return false;
+    clsNewTask source;
+    RecordsetPtr rs;
+    // No importance is 6: an empty set to add to.
+    source.SetSQL("SELECT * from TASKSCAT WHERE tskImp= 6");
+    if (!source.GetData(rs) || !rs) return false;
+    rs->AddNew();
+    writeColumns(*rs);
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    rs->Close();
+    f_.keywords().addCatalogLinks(f_.fields().utilNewTaskGUID());
+    reset();
+    return true;
+}
+
+// The time history and the spent and scheduled times are not copied.
+void ExistingTaskCatalogSave::writeColumns(Recordset& rs) {
+    auto& fields = f_.fields();
+    const TaskRecord& r = fields.record();
+    rs.Fields("tskStatus") = Value(r.Status);
+    rs.Fields("tskDoneDate") = Value(Date{r.DateDone});
+    rs.Fields("tskDesc") = Value(r.Desc);
+    rs.Fields("tskProject") = Value(r.Project);
+    rs.Fields("tskProjectKey") = Value(r.ProjectKey);
+    rs.Fields("tskDifficulty") = Value(r.Diff);
+    rs.Fields("tskImp") = Value(r.Imp);
+    rs.Fields("tskTimeNeeded") = Value(r.TimeNeeded);
+    rs.Fields("tskCurrent") = Value(r.IsCurrent);
+    rs.Fields("tskHasSchedule") = Value(false);
+    rs.Fields("tskNotes") = Value(r.Notes);
+    rs.Fields("tskHasNotes") = Value(r.HasNotes);
+    rs.Fields("tskCreatedDate") = Value(Date{r.CreatedDate});
+    rs.Fields("tskLastMod") = Value(Date{r.LastMod});
+    rs.Fields("tskGUIDID") = Value(r.TaskGUID);
+    rs.Fields("tskPossPoints") = Value(fields.utilPossPoints);
+    if (r.Deadline > kNoDate) rs.Fields("tskDeadline") = Value(Date{r.Deadline});
+    rs.Fields("tskCustSortQV") = Value(r.CustSortQV);
+    if (r.IsCurrent) rs.Fields("tskCustSortCUR") = Value(r.CustCur);
+    rs.Fields("tskCustSortProj") = Value(r.CustProj);
+    rs.Fields("tskHasChecklist") = Value(r.HasChecklist);
+    // The catalog's column lacks the second T of the task's.
+    const int32_t mode = fields.checklist.CheckListMode;
+    if (mode == 1) rs.Fields("tskCheckListGUID") = Value(std::string());
+    else if (mode == 2) rs.Fields("tskCheckListGUID") = Value(fields.checklist.utilChecklistKey);
+}
+
+void ExistingTaskCatalogSave::reset() {
+    auto& c = f_.controls();
+    g().SettingUp = true;
+    f_.fields().setUtilNewTaskGUID("");
+    c.spellTask.setText("");
+    c.SpellNotes.setText("");
+    f_.setCKEditMode(0);
+    g().SettingUp = false;
+}
+
+}  // namespace qv
