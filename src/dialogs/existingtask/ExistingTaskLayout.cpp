@@ -5,7 +5,7 @@
 #include "toolkit/Form.h"
 #include "toolkit/Splitter.h"
 #include "toolkit/TabStrip.h"
-#include "toolkit/Timer.h"
+#include "values/WindowGeometry.h"
 
 namespace qv {
 
@@ -26,10 +26,9 @@ int32_t share(int64_t length, double factor) {
 }
 }  // namespace
 
-ExistingTaskLayout::ExistingTaskLayout(Form& form, Splitter& splitTask, TabStrip& Tabs1, Timer& Timer2,
-                                       ScheduleGrid& sked)
-    : form_(form), split_(splitTask), tabs_(Tabs1), timer2_(Timer2), sked_(sked),
-      geometry_(WindowGeometry::forExistingTask(form)) {}
+ExistingTaskLayout::ExistingTaskLayout(Form& form, Splitter& splitTask, TabStrip& Tabs1, ScheduleGrid& sked,
+                                       int16_t& visibleTab)
+    : form_(form), split_(splitTask), tabs_(Tabs1), sked_(sked), visibleTab_(visibleTab) {}
 
 // The grid's first width lays its columns out; each later one is the
 // schedule panel's resize.
@@ -110,17 +109,6 @@ void ExistingTaskLayout::Tabs1_Switching(int32_t tab) { SetVisibleTab(static_cas
 // grid's column widths, by the resize factors.
 void ExistingTaskLayout::SSResizer1_ResizeComplete(int32_t index) {
     if (index == 4) sked_.applyResizeWidths();
-}
-
-void ExistingTaskLayout::Form_Resize() {
-    geometry_.onResize();
-    timer2_.setEnabled(true);
-}
-
-void ExistingTaskLayout::Timer2_Timer() {
-    SetVisibleTab(visibleTab_);
-    timer2_.setInterval(200);
-    timer2_.setEnabled(false);
 }
 
 }  // namespace qv

@@ -1,20 +1,16 @@
 #pragma once
 // The Existing Task dialog's layout: the eight panes of splitTask and their
 // limits, the reset, the layout file QuorvelETask.slf, which tab's panel is
-// shown, the schedule's column widths on resize, and the window's minimum
-// size with the short timer that lets the panes settle after a resize.
+// shown, and the schedule's column widths on resize.
 
 #include <cstdint>
 #include <string>
-
-#include "values/WindowGeometry.h"
 
 namespace qv {
 
 class Form;
 class Splitter;
 class TabStrip;
-class Timer;
 class ScheduleGrid;
 
 // Panes of the splitter, by index.
@@ -26,13 +22,12 @@ enum ExistingTaskTab : int16_t { tabChecklist = 0, tabSchedule = 1 };
 
 class ExistingTaskLayout {
 public:
-    ExistingTaskLayout(Form& form, Splitter& splitTask, TabStrip& Tabs1, Timer& Timer2, ScheduleGrid& sked);
+    // visibleTab: the dialog's VisibleTab.
+    ExistingTaskLayout(Form& form, Splitter& splitTask, TabStrip& Tabs1, ScheduleGrid& sked, int16_t& visibleTab);
 
     // Setup: the stored layout when there may be one, then the pane limits.
     void load();
     void setPaneLimits();
-    // SetSize: the window's place from ETaskWindow.
-    void place() { geometry_.restore(); }
     // "RESETL". A window under 2680 twips high overflows.
     void resetLayout();
     bool SaveSplit();
@@ -49,19 +44,13 @@ public:
     void Tabs1_Switching(int32_t tab);
     void SSResizer1_ResizeComplete(int32_t index);
     void gridSked_Resized();
-    void Form_Resize();
-    void Timer2_Timer();
-    // Form_QueryUnload: a normal window keeps its geometry, then SaveSettings.
-    void onClose() { geometry_.onClose(); }
 
 private:
     Form& form_;
     Splitter& split_;
     TabStrip& tabs_;
-    Timer& timer2_;
     ScheduleGrid& sked_;
-    WindowGeometry geometry_;
-    int16_t visibleTab_ = tabChecklist;
+    int16_t& visibleTab_;
     bool resetting_ = false;
 };
 

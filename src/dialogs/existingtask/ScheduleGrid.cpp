@@ -118,7 +118,12 @@ void ScheduleGrid::initSked() {
     if (grid_.columnCount() == 0) InitializeLayout();
     loadRows();
     grid_.setCaption("Task Appointments: " + std::to_string(count));
+    setCount(count);
+}
+
+void ScheduleGrid::setCount(int32_t count) {
     skedRowCount_ = count;
+    if (hooks_.countChanged) hooks_.countChanged(count);
 }
 
 void ScheduleGrid::killSked() {
@@ -208,7 +213,7 @@ void ScheduleGrid::CountUpSked() {
         if (sum > INT32_MAX || sum < INT32_MIN || count == INT32_MAX) throw Failure(err::Overflow, "Overflow");
         ++count;
     }
-    skedRowCount_ = count;
+    setCount(count);
     smtABOUT_.tool("SCHEDULED").setText(SetTimeFormat(static_cast<double>(sum)));
 }
 

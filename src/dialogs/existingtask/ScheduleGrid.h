@@ -27,6 +27,8 @@ public:
     struct Hooks {
         std::function<const TaskRecord&()> record;  // the dialog's packed task
         std::function<void()> ValidateTask;
+        // SkedRowCount changed (the dialog keeps its own copy).
+        std::function<void(int32_t)> countChanged;
         // A failure in a grid handler goes down the dialog's error path.
         std::function<void(const char* procedure, const std::function<void()>& body)> trapped;
     };
@@ -73,6 +75,7 @@ private:
     void addAppointment();
     void deleteAppointment();
     void trapped(const char* procedure, const std::function<void()>& body);
+    void setCount(int32_t count);
 
     Sheet& smtABOUT_;
     Sheet& smtSkedTimes_;

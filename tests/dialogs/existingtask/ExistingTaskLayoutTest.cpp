@@ -24,7 +24,6 @@ protected:
         g().AppVersion = 14.0f;
         for (const char* name : {"About", "Notes", "Task", "Tabs", "Spare", "Times", "Keywords", "Actions"})
             split.addPane(name);
-        timer2.setInterval(200);
     }
     // Heights of the panes of a column, added up.
     int32_t column(std::initializer_list<int32_t> panes) const {
@@ -36,11 +35,11 @@ protected:
     Form form{"frmExistingTask"};
     Splitter split{"splitTask"};
     TabStrip tabs{"Tabs1", {"&Checklist", "&Task Schedule"}};
-    Timer timer2{"Timer2"};
+    int16_t visibleTab = 0;
     Sheet about{"smtABOUT"}, skedTimes{"smtSkedTimes"}, times{"smtTimes"};
     TaskRecord record;
-    ScheduleGrid sked{about, skedTimes, times, {[this]() -> const TaskRecord& { return record; }, {}, {}}};
-    ExistingTaskLayout layout{form, split, tabs, timer2, sked};
+    ScheduleGrid sked{about, skedTimes, times, {[this]() -> const TaskRecord& { return record; }, {}, {}, {}}};
+    ExistingTaskLayout layout{form, split, tabs, sked, visibleTab};
 };
 
 TEST_F(LayoutTest, LimitsAndTheResetWithItsSums) {
@@ -89,12 +88,12 @@ TEST_F(LayoutTest, TheLayoutFileComesBackOnlyForALaterVersion) {
     EXPECT_TRUE(split.pane(paneActions).lockHeight) << "limits also after a loaded layout";
 }
 
-TEST_F(LayoutTest, TabsResizeAndTheSettleTimer) {
+TEST_F(LayoutTest, TabsAndTheScheduleWidths) {
     layout.Form_Load();
     EXPECT_EQ(tabs.current(), tabChecklist);
     tabs.Switching.connect([&](int32_t t) { layout.Tabs1_Switching(t); });
     tabs.userSwitch(tabSchedule);
-    EXPECT_EQ(layout.VisibleTab(), tabSchedule);
+    EXPECT_EQ(visibleTab, tabSchedule);
     EXPECT_EQ(tabs.current(), tabSchedule);
 
     // Dragging a bar keeps the tab and rewrites the file.
@@ -102,23 +101,14 @@ TEST_F(LayoutTest, TabsResizeAndTheSettleTimer) {
     EXPECT_EQ(tabs.current(), tabSchedule);
     EXPECT_TRUE(std::filesystem::exists(ExistingTaskLayout::layoutFile()));
 
-    // Too small a window snaps back; the settle timer runs once.
-    form.move(100, 200, 5000, 3000);
-    layout.Form_Resize();
-    EXPECT_EQ(form.geometry().width, 8400);
-    EXPECT_EQ(form.geometry().height, 6710);
-    EXPECT_EQ(g().ETaskWindow[2], 8400);
-    EXPECT_TRUE(timer2.enabled());
-    timer2.setInterval(50);
-    layout.Timer2_Timer();
-    EXPECT_FALSE(timer2.enabled());
-    EXPECT_EQ(timer2.interval(), 200);
-
     // The schedule panel's resize sets the grid's widths by its factors.
     g().CurrentTaskGUID = "T1";
-    sked.gridSked().setExtentWidth(8000);
     sked.initSked();
-    const Grid& grid = sked.gridSked();
+    Grid& grid = sked.gridSked();
+    EXPECT_EQ(grid.column(grid.columnOf("taStartTime")).width, 0) << "no width before the view has one";
+    // The grid's first width lays it out; each later one is a resize.
+    grid.Resized.connect([&] { layout.gridSked_Resized(); });
+    grid.userResized(8000);
     EXPECT_EQ(grid.column(grid.columnOf("taStartTime")).width, 2200);
     layout.SSResizer1_ResizeComplete(3);
     EXPECT_EQ(grid.column(grid.columnOf("taStartTime")).width, 2200);

@@ -32,6 +32,7 @@ protected:
         sked = std::make_unique<ScheduleGrid>(about, skedTimes, times,
                                               ScheduleGrid::Hooks{[this]() -> const TaskRecord& { return record; },
                                                                   [this] { ++validations; },
+                                                                  [this](int32_t n) { counted = n; },
                                                                   {}});
         sked->gridSked().setExtentWidth(10000);
     }
@@ -49,6 +50,7 @@ protected:
     Sheet about{"smtABOUT"}, skedTimes{"smtSkedTimes"}, times{"smtTimes"};
     TaskRecord record;
     int validations = 0;
+    int32_t counted = -1;
     std::unique_ptr<ScheduleGrid> sked;
 };
 
@@ -173,6 +175,7 @@ TEST_F(ScheduleGridTest, AddDeleteAndTheSumButton) {
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKAPPTS"), 1);
     EXPECT_EQ(grid().caption(), "Task Appointments: 1");
     EXPECT_EQ(sked->SkedRowCount(), 1);
+    EXPECT_EQ(counted, 1) << "the dialog hears the count";
     EXPECT_EQ(validations, 2);
 
     // "COPYTA" does nothing on the strip as designed, and copies once the
