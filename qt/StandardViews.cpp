@@ -1,5 +1,6 @@
 #include "StandardViews.h"
 
+#include "ExistingTaskView.h"
 #include "NewTaskView.h"
 #include "StackedView.h"
 
@@ -38,6 +39,7 @@ void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*r
 ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    f.add("frmExistingTask", [](Form& form) -> FormView* { return new ExistingTaskView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);

@@ -7,6 +7,7 @@
 #include "toolkit/Label.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Splitter.h"
+#include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
 
@@ -31,6 +32,7 @@ struct ExistingTaskControls {
     Timer Timer1{"Timer1"};
     Timer Timer2{"Timer2"};
     Splitter splitTask{"splitTask"};
+    TabStrip Tabs1{"Tabs1", {"&Checklist", "&Task Schedule"}};
     Label lblTask{"lblTask", "Task Description"};
     Label lblNotes{"lblNotes", "Notes"};
     Label lblCk{"lblCk", "Checklist"};

@@ -1,23 +1,20 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 
-#include <cmath>
-
 #include "dialogs/checklists/ChecklistLink.h"
 #include "dialogs/existingtask/ExistingTaskActions.h"
 #include "dialogs/existingtask/ExistingTaskCatalogSave.h"
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
+#include "dialogs/existingtask/ExistingTaskLayout.h"
 #include "dialogs/existingtask/ExistingTaskLoader.h"
 #include "dialogs/existingtask/ExistingTaskUpdater.h"
 #include "dialogs/existingtask/ExistingTaskValidation.h"
+#include "dialogs/existingtask/ScheduleGrid.h"
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/TaskPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
-#include "store/Recordset.h"
-#include "store/clsTaskSchedule.h"
-#include "values/TimeValues.h"
 #include "values/WindowGeometry.h"
 
 namespace qv {
@@ -46,6 +43,12 @@ frmExistingTask::frmExistingTask()
       ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk, fields_->checklist,
                                               ChecklistLink::Options{&c_.smtActions, {}})),
       printer_(std::make_shared<TaskPrinter>()) {
+    sked_ = std::make_unique<ScheduleGrid>(
+        c_.smtABOUT, c_.smtSkedTimes, c_.smtTimes,
+        ScheduleGrid::Hooks{[this]() -> const TaskRecord& { return fields_->record(); }, [this] { ValidateTask(); },
+                            [this](int32_t n) { fields_->SkedRowCount = n; },
+                            [this](const char* procedure, const std::function<void()>& body) { trapped(procedure, body); }});
+    layout_ = std::make_unique<ExistingTaskLayout>(*this, c_.splitTask, c_.Tabs1, *sked_, fields_->VisibleTab);
     g().SettingUp = true;
     c_.smtABOUT.tool("DEADLINE").setHostedControl("ctDeadline");
     registerControls();
@@ -65,6 +68,8 @@ void frmExistingTask::registerControls() {
     addControl("Timer1", c_.Timer1);
     addControl("Timer2", c_.Timer2);
     addControl("splitTask", c_.splitTask);
+    addControl("Tabs1", c_.Tabs1);
+    addControl("gridSked", sked_->gridSked());
     for (Label* l : {&c_.lblTask, &c_.lblNotes, &c_.lblCk}) addControl(l->name(), *l);
 }
 
@@ -76,6 +81,17 @@ void frmExistingTask::wireControls() {
     c_.ctDeadline.Change.connect([this, &v] { trapped("ctDeadline_Change", [&] { v.ctDeadline_Change(); }); });
     c_.Timer2.Tick.connect([this] { trapped("Timer2_Timer", [&] { actions_->Timer2_Timer(); }); });
     ckLink_->GotErrExitNow.connect([this] { GotErrExitNow(); });
+    wireLayout();
+}
+
+void frmExistingTask::wireLayout() {
+    auto& l = *layout_;
+    auto& k = *sked_;
+    c_.splitTask.EndDrag.connect([this, &l] { trapped("splitTask_SplitterEndDrag", [&] { l.splitTask_SplitterEndDrag(); }); });
+    c_.Tabs1.Switching.connect([this, &l](int32_t tab) { trapped("Tabs1_Switching", [&] { l.Tabs1_Switching(tab); }); });
+    k.gridSked().Resized.connect([this, &l] { trapped("SSResizer1_ResizeComplete", [&] { l.gridSked_Resized(); }); });
+    c_.smtSkedBtns.Click.connect([this, &k](Tool& t) { trapped("smtSkedBtns_Click", [&] { k.smtSkedBtns_Click(t); }); });
+    c_.smtSkedTimes.Click.connect([this, &k](Tool& t) { trapped("smtSkedTimes_Click", [&] { k.smtSkedTimes_Click(t); }); });
 }
 
 void frmExistingTask::wireSheets() {
@@ -179,48 +195,26 @@ std::string frmExistingTask::TrimtoLen(const std::string& text, std::size_t limi
     return qv::TrimtoLen(text, limit);
 }
 
-// Until the schedule grid is bound, the same query counts the rows and
-// sums their planned minutes.
 void frmExistingTask::initSked() {
-    clsTaskSchedule source;
-    source.SetSQL(
-        "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, TASKAPPTS.taTimeWorked, "
-        "TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, "
-        "TASKAPPTS.taProject, TASKAPPTS.taImp, TASKAPPTS.taDifficulty From TASKAPPTS Where (((TASKAPPTS.taTaskGUIDID) = " +
-        sqlLiteral(g().CurrentTaskGUID, '"') + ")) ORDER BY TASKAPPTS.taStartTime DESC;");
-    RecordsetPtr rs;
-    if (!source.GetDataKEY(rs) || !rs) return;
-    fields_->SkedRowCount = rs->RecordCount();
-    rs->Close();
+    trapped("initSked", [&] { sked_->initSked(); });
 }
 
+// Only at load: later adds, deletes and edits leave "SCHEDULED" as it is.
 void frmExistingTask::CountUpSked() {
-    clsTaskSchedule source;
-    source.SetSQL("SELECT taStartTime, taEndTime FROM TASKAPPTS WHERE taTaskGUIDID = " +
-                  sqlLiteral(g().CurrentTaskGUID));
-    RecordsetPtr rs;
-    if (!source.GetDataKEY(rs) || !rs || rs->EOF_()) return;
-    int64_t sum = 0;
-    int32_t rows = 0;
-    for (; !rs->EOF_(); rs->MoveNext(), ++rows) {
-        const double span = rs->Fields("taEndTime").value().toDate().serial - rs->Fields("taStartTime").value().toDate().serial;
-        sum += static_cast<int64_t>(std::nearbyint(span * 1440.0));
-    }
-    rs->Close();
-    fields_->SkedRowCount = rows;
-    c_.smtABOUT.tool("SCHEDULED").setText(SetTimeFormat(static_cast<double>(sum)));
+    trapped("CountUpSked", [&] { sked_->CountUpSked(); });
 }
 
-// The window's place until the layout takes the panes over.
+// The window's place, then the stored layout and the pane limits.
 void frmExistingTask::placeLayout() {
     const auto& w = g().ETaskWindow;
     if (w[4] == vbMinimized) setWindowState(vbMaximized);
     else if (w[4] == vbNormal || w[4] == vbMaximized) move(w[1], w[0], w[2], w[3]);
+    layout_->load();
 }
 
-void frmExistingTask::resetLayout() {}
+void frmExistingTask::resetLayout() { layout_->resetLayout(); }
 
-void frmExistingTask::SetVisibleTab(int16_t tab) { fields_->VisibleTab = tab; }
+void frmExistingTask::SetVisibleTab(int16_t tab) { layout_->SetVisibleTab(tab); }
 
 void frmExistingTask::setPrinter(std::shared_ptr<TaskPrinter> printer) {
     if (printer) printer_ = std::move(printer);

@@ -23,6 +23,8 @@ class ExistingTaskKeywords;
 class ExistingTaskCatalogSave;
 class ExistingTaskActions;
 class ChecklistLink;
+class ScheduleGrid;
+class ExistingTaskLayout;
 class TaskPrinter;
 
 class frmExistingTask : public Form {
@@ -55,6 +57,8 @@ public:
     [[nodiscard]] ExistingTaskKeywords& keywords() { return *keywords_; }
     [[nodiscard]] ExistingTaskActions& actions() { return *actions_; }
     [[nodiscard]] ChecklistLink& checklistLink() { return *ckLink_; }
+    [[nodiscard]] ScheduleGrid& schedule() { return *sked_; }
+    [[nodiscard]] ExistingTaskLayout& layout() { return *layout_; }
     void setPrinter(std::shared_ptr<TaskPrinter> printer);
     [[nodiscard]] TaskPrinter& printer() { return *printer_; }
 
@@ -81,6 +85,7 @@ private:
     void registerControls();
     void wireControls();
     void wireSheets();
+    void wireLayout();
     void smtABOUT_Change(Tool& tool, const std::string& property);
     // Runs body under this dialog's trap, with the procedure's name.
     template <class F>
@@ -95,6 +100,8 @@ private:
     std::unique_ptr<ExistingTaskCatalogSave> catalog_;
     std::unique_ptr<ExistingTaskActions> actions_;
     std::unique_ptr<ChecklistLink> ckLink_;
+    std::unique_ptr<ScheduleGrid> sked_;
+    std::unique_ptr<ExistingTaskLayout> layout_;
     std::shared_ptr<TaskPrinter> printer_;
 };
 
