@@ -36,8 +36,10 @@ void BM_ExistingTaskOpenBareReads(benchmark::State& state) {
         cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
         cells += walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
         cells += walk(db, "SELECT * from TASKS WHERE tskGUIDID='" + key + "'");
-        cells += walk(db, "SELECT COUNT(*) FROM TASKAPPTS WHERE taTaskGUIDID='" + key + "'");
-        cells += walk(db, "SELECT taStartTime, taEndTime FROM TASKAPPTS WHERE taTaskGUIDID='" + key + "'");
+        // The schedule: every column the grid shows, newest first.
+        cells += walk(db, "SELECT taStartTime, taEndTime, taWasWorked, taTimeWorked, taTaskGUIDID, taGUIDID, "
+                          "taTaskDesc, taProjectGUIDID, taProject, taImp, taDifficulty FROM TASKAPPTS WHERE "
+                          "taTaskGUIDID='" + key + "' ORDER BY taStartTime DESC");
         cells += walk(db, "SELECT * from TaskKeywords WHERE ktTASKGUID='" + key + "'");
         benchmark::DoNotOptimize(cells);
         sqlite3_close(db);
