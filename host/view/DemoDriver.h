@@ -1,7 +1,8 @@
 #pragma once
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
-// Project, Add Keyword, the checklist picker and editor, creates a task from the
+// Project, Add Keyword, the checklist picker and editor, Page Setup, the
+// print preview and a print, creates a task from the
 // catalog item (its past deadline red) and adds it. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
@@ -31,6 +32,8 @@ public:
 private:
     void planNewTask();
     void planSubDialogs();
+    void planPrinting();
+    void planFiling();
     void planFromCatalog();
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
