@@ -1,6 +1,7 @@
 #include "StandardViews.h"
 
 #include "ExistingTaskView.h"
+#include "HelpView.h"
 #include "NewTaskView.h"
 #include "PageSetupView.h"
 #include "StackedView.h"
@@ -46,6 +47,7 @@ ViewFactory StandardViews::make() {
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);
     addStacked(f, "frmChecklistEditor", checklistEditor);
+    f.add("frmPopHelp", [](Form& form) -> FormView* { return new HelpView(form); });
     return f;
 }
 

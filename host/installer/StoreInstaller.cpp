@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "installer/DefaultSettings.h"
+#include "installer/HelpPages.h"
 #include "installer/StoreSchema.h"
 #include "store/ADOCode.h"
 #include "toolkit/Failure.h"
@@ -112,6 +113,7 @@ bool installApplicationFolder(const std::string& folder) {
     installReportsFolder(folder);
     const bool made = installStore(folder);
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
+    installHelpPages(folder, helpPagesSource());
     return made;
 }
 

@@ -8,9 +8,11 @@
 #include <stdexcept>
 
 #include "installer/StoreFile.h"
+#include "installer/HelpPages.h"
 #include "installer/StoreInstaller.h"
 #include "reports/PrintSettings.h"
 #include "script/PdfPages.h"
+#include "script/ScriptHelp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FakeClock.h"
@@ -118,11 +120,13 @@ ScriptRunner::ScriptRunner(std::ostream& out) : out_(out) {
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().reporter = reporter_.get();
+    help_ = std::make_unique<ScriptHelp>(out_);
 }
 
 ScriptRunner::~ScriptRunner() {
     task_.reset();
     releaseDeferred();
+    help_.reset();
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().reporter = nullptr;
@@ -188,6 +192,7 @@ void ScriptRunner::ensureStore() {
     installStore(folder_);
     installSettingsFile(folder_);
     installReportsFolder(folder_);
+    installHelpPages(folder_, helpPagesSource());
     g().AppPath = folder_;
 }
 
@@ -328,12 +333,14 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "absent") return expectAbsent(l);
     if (what == "caption") return expectCaption(l);
     if (what == "date") return expectDate(l);
+    if (what == "help") return expectHelp(l, false);
+    if (what == "help-page") return expectHelp(l, true);
     if (what == "report") return expectReport(l, true);
     if (what == "no-report") return expectReport(l, false);
     if (what == "pdfpages") return expectPdfPages(l);
     throw std::invalid_argument(
         "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, row, rows, form, "
-        "report, no-report or pdfpages");
+        "help, help-page, report, no-report or pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -468,6 +475,14 @@ void ScriptRunner::expectForm(const ScriptLine& l) {
     }
     if (shown == l.word(2)) return pass();
     fail(l, "the dialog shown is " + shown + ", not " + l.word(2));
+}
+
+// expect help TOPIC TITLE: the help pop-up shows the topic under the title.
+// expect help-page FILE: its pane shows the page ("" for an empty pane).
+void ScriptRunner::expectHelp(const ScriptLine& l, bool page) {
+    const std::string why = page ? help_->checkPage(l.word(2)) : help_->checkTopic(toLong(l.word(2)), l.word(3));
+    if (why.empty()) return pass();
+    fail(l, why);
 }
 
 // expect report FILE TEXT: the report file written under "Quorvel Reports/" holds TEXT.

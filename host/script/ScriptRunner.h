@@ -20,6 +20,7 @@ class Reporter;
 class Form;
 class Sheet;
 class Tool;
+class ScriptHelp;
 
 class ScriptRunner {
 public:
@@ -68,6 +69,7 @@ private:
     void expectAbsent(const ScriptLine& l);
     void expectCaption(const ScriptLine& l);
     void expectDate(const ScriptLine& l);
+    void expectHelp(const ScriptLine& l, bool page);
     void expectReport(const ScriptLine& l, bool present);
     void expectPdfPages(const ScriptLine& l);
 
@@ -83,6 +85,7 @@ private:
     std::unique_ptr<ScriptedUi> ui_;
     std::unique_ptr<FakeClock> clock_;
     std::shared_ptr<Reporter> reporter_;
+    std::unique_ptr<ScriptHelp> help_;
     std::unique_ptr<clsTask2> task_;
     std::string folder_;
     bool ownsFolder_ = false;

@@ -1,6 +1,8 @@
 #include "view/HostApp.h"
 
 #include "StandardViews.h"
+#include "help/PopHelpViewer.h"
+#include "help/SurfaceHelpPrinter.h"
 #include "kit/QtColorChooser.h"
 #include "kit/QtDateTimeFormatter.h"
 #include "kit/QtFontList.h"
@@ -13,6 +15,7 @@
 #include "toolkit/SystemClock.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
+#include "view/HostTour.h"
 #include "view/HostWindow.h"
 
 namespace qv {
@@ -23,6 +26,9 @@ HostApp::HostApp(const std::string& folder, bool interactive)
       ui_(std::make_unique<QtUi>(*views_)),
       clock_(std::make_unique<SystemClock>()),
       locale_(std::make_unique<QtLocaleInfo>()),
+      helpPrinter_(std::make_unique<SurfaceHelpPrinter>()),
+      tour_(std::make_unique<HostTour>(folder)),
+      help_(std::make_unique<PopHelpViewer>(helpPrinter_.get(), tour_.get())),
       printers_(std::make_unique<QtPrinterList>()),
       fonts_(std::make_unique<QtFontList>()),
       colors_(std::make_unique<QtColorChooser>()),
@@ -32,6 +38,7 @@ HostApp::HostApp(const std::string& folder, bool interactive)
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().locale = locale_.get();
+    ports().help = help_.get();
     ports().printers = printers_.get();
     ports().fonts = fonts_.get();
     ports().colorChooser = colors_.get();
@@ -48,6 +55,7 @@ HostApp::~HostApp() {
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().locale = nullptr;
+    ports().help = nullptr;
     ports().printers = nullptr;
     ports().fonts = nullptr;
     ports().colorChooser = nullptr;

@@ -1,7 +1,7 @@
 #pragma once
 // Everything the host sets up before the first SetupTask: the program's
 // folder, the ports (the desktop Ui, the clock, the locale, printers, fonts,
-// the colour chooser and the print engine), the locale's
+// the colour chooser, the print engine and help), the locale's
 // date formats, the session and the main window.
 
 #include <memory>
@@ -16,6 +16,9 @@ class QtUi;
 class ViewFactory;
 class SystemClock;
 class QtLocaleInfo;
+class SurfaceHelpPrinter;
+class HostTour;
+class PopHelpViewer;
 class QtPrinterList;
 class QtFontList;
 class QtColorChooser;
@@ -33,6 +36,8 @@ public:
     [[nodiscard]] HostStore& store() const { return *store_; }
     [[nodiscard]] QtUi& ui() const { return *ui_; }
     [[nodiscard]] const std::string& folder() const { return folder_; }
+    [[nodiscard]] HostTour& tour() const { return *tour_; }
+    [[nodiscard]] PopHelpViewer& help() const { return *help_; }
     [[nodiscard]] QtPrintSurface& printSurface() const { return *print_; }
 
 private:
@@ -41,6 +46,9 @@ private:
     std::unique_ptr<QtUi> ui_;
     std::unique_ptr<SystemClock> clock_;
     std::unique_ptr<QtLocaleInfo> locale_;
+    std::unique_ptr<SurfaceHelpPrinter> helpPrinter_;
+    std::unique_ptr<HostTour> tour_;
+    std::unique_ptr<PopHelpViewer> help_;
     std::unique_ptr<QtPrinterList> printers_;
     std::unique_ptr<QtFontList> fonts_;
     std::unique_ptr<QtColorChooser> colors_;

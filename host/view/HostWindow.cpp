@@ -20,7 +20,10 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "help/HelpTopics.h"
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/HelpViewer.h"
+#include "toolkit/Ports.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
 #include "view/TaskTableModel.h"
@@ -66,6 +69,9 @@ void HostWindow::buildActions() {
     add("actWorkAppointment", "&Work Appointment", false);
     saveToCatalog_ = add("actSaveToCatalog", "&Save to Catalog", false);
     connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
+    bar->addSeparator();
+    connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
+    connect(add("actTour", "Getting Started &Tour", true), &QAction::triggered, this, [this] { openHelp(kTourTopic); });
     delete_ = new QAction("&Delete Task", this);
     delete_->setObjectName("actDelete");
     delete_->setShortcut(QKeySequence::Delete);
@@ -87,13 +93,13 @@ void HostWindow::buildMenus() {
     quit->setObjectName("actQuit");
     quit->setShortcut(QKeySequence::Quit);
     QMenu* help = menuBar()->addMenu("&Help");
-    QAction* about = help->addAction("&Help", this, [this] {
-        QMessageBox::information(this, windowTitle(),
-                                 "Open a task with Enter or a double click; Ctrl+N makes a new one; Delete removes "
-                                 "the selected task with its appointments and keyword links.");
-    });
-    about->setObjectName("actHelp");
-    about->setShortcut(QKeySequence::HelpContents);
+    QAction* index = help->addAction("&Help Index", this, [this] { openHelp(kHelpIndexTopic); });
+    index->setObjectName("actHelp");
+    index->setShortcut(QKeySequence::HelpContents);
+}
+
+void HostWindow::openHelp(int32_t topic) {
+    if (HelpViewer* help = ports().help) help->openHelpPop(topic, session_.printInfo(0));
 }
 
 QWidget* HostWindow::buildTaskPage() {

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QTextDocument>
+#include <QUrl>
 
 #include "print/PageCuts.h"
 #include "toolkit/Failure.h"
@@ -29,6 +30,8 @@ ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_
     QFile file(QString::fromStdString(job.file));
     if (!file.open(QIODevice::ReadOnly)) throw Failure(err::FileNotFound, "File not found: " + job.file);
     previousHandler = qInstallMessageHandler(quietColours);
+    // Style sheets and pictures named relative to the page (help pages).
+    doc_->setBaseUrl(QUrl::fromLocalFile(QString::fromStdString(job.file)));
     doc_->setHtml(QString::fromUtf8(file.readAll()));
     qInstallMessageHandler(previousHandler);
 }

@@ -95,6 +95,26 @@ TEST(ScriptRunner, AnUnansweredMessageIsAFailureNotAHang) {
     EXPECT_GE(runner.failed(), 1);
 }
 
+TEST(ScriptRunner, HelpExpectationsSayWhatTheHelpShows) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    const int failed = runner.run(linesOf(R"(expect help 600 "Quorvel: Creating New Tasks"
+setup 0
+click smtActions.HELP
+expect help 601 "Quorvel: Creating New Tasks"
+expect help-page POP-KEYWORDS.htm
+key escape
+answer yes
+key escape
+)"));
+    EXPECT_EQ(failed, 3);
+    const auto text = out.str();
+    EXPECT_NE(text.find("FAILED line 1: no help is shown"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 4: the help shows topic 600 \"Quorvel: Creating New Tasks\""), std::string::npos)
+        << text;
+    EXPECT_NE(text.find("FAILED line 5: the help pane shows \"POP-TASKDIALOG.htm\""), std::string::npos) << text;
+}
+
 TEST(ScriptRunner, AScriptThatEndsWhileADialogIsShownFails) {
     std::ostringstream out;
     ScriptRunner runner(out);
