@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "installer/StoreFile.h"
+#include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
@@ -165,6 +166,7 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
         {"expect", &ScriptRunner::cmdExpect}, {"clock", &ScriptRunner::cmdClock},
         {"settings-file", &ScriptRunner::cmdSettingsFile}};
+    if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -322,6 +324,7 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "absent") return expectAbsent(l);
     if (what == "caption") return expectCaption(l);
     if (what == "date") return expectDate(l);
+    if (what == "cell" || what == "gridrows") return expectGrid(l);
     throw std::invalid_argument(
         "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, row, rows or form");
 }
@@ -396,6 +399,13 @@ void ScriptRunner::expectDate(const ScriptLine& l) {
     const std::string text = box->hasDate() ? box->text() : std::string();
     if (text == l.word(3)) return pass();
     fail(l, l.word(2) + " shows \"" + text + "\", not \"" + l.word(3) + "\"");
+}
+
+// expect cell ROW COLUMN VALUE / expect gridrows N
+void ScriptRunner::expectGrid(const ScriptLine& l) {
+    const std::string why = GridCommands::check(activeForm(), l);
+    if (why.empty()) return pass();
+    fail(l, why);
 }
 
 // expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|tip|bold|forecolor VALUE

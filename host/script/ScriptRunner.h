@@ -68,6 +68,7 @@ private:
     void expectAbsent(const ScriptLine& l);
     void expectCaption(const ScriptLine& l);
     void expectDate(const ScriptLine& l);
+    void expectGrid(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();
