@@ -2,7 +2,8 @@
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
 // Project, Add Keyword, the checklist picker and editor, creates a task from the
-// catalog item (its past deadline red) and adds it. Every window it meets
+// catalog item (its past deadline red) and adds it, then opens that task
+// with twenty appointments in the Existing Task dialog. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
 
@@ -32,6 +33,9 @@ private:
     void planNewTask();
     void planSubDialogs();
     void planFromCatalog();
+    void planExistingTask();
+    // Gives the task twenty appointments, the last days' and the next.
+    void scheduleTwenty(const std::string& taskKey) const;
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
     void openAndShoot(const QString& cell, const QString& form, const QString& name,
