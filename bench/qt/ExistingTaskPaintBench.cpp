@@ -15,7 +15,6 @@
 #include "store/ADOCode.h"
 #include "view/HostApp.h"
 #include "view/HostSession.h"
-#include "view/StepRunner.h"
 
 namespace {
 
@@ -46,22 +45,7 @@ void BM_ExistingTaskFirstPaint(benchmark::State& state) {
     fillSampleStore(store, {1000, 500, 2000, 50});
     addScheduledTask(store, static_cast<int>(state.range(0)));
     HostApp host(folder, false);
-    double complete = 0, growth = 0;
-    for (auto _ : state) {
-        const PaintTimes t = PaintProbe::measure(host, "frmExistingTask", "smtActions.DONE",
-                                                 [&host] { host.session().openTask(kTask); });
-        if (t.firstPaintMs < 0 || t.completeMs < 0) {
-            state.SkipWithError("the Existing Task window was never painted whole");
-            break;
-        }
-        state.SetIterationTime(t.firstPaintMs / 1e3);
-        complete += t.completeMs;
-        growth += t.memoryGrowthMb;
-    }
-    const double n = static_cast<double>(state.iterations());
-    state.counters["complete_ms"] = n > 0 ? complete / n : 0;
-    state.counters["rss_growth_MB"] = n > 0 ? growth / n : 0;
-    StepRunner::closeAll();
+    PaintProbe::run(state, host, "frmExistingTask", [&host] { host.session().openTask(kTask); });
 }
 BENCHMARK(BM_ExistingTaskFirstPaint)->Arg(5000)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 

@@ -14,7 +14,6 @@
 #include "store/ADOCode.h"
 #include "view/HostApp.h"
 #include "view/HostWindow.h"
-#include "view/StepRunner.h"
 
 namespace {
 
@@ -28,21 +27,7 @@ void BM_NewTaskFirstPaint(benchmark::State& state) {
     installSettingsFile(folder);
     fillSampleStore(pathInFolder(folder, kStoreFileName));
     HostApp host(folder, false);
-    double complete = 0, growth = 0;
-    for (auto _ : state) {
-        const PaintTimes t = PaintProbe::measure(host, "frmTask3", "smtActions.DONE", [&host] { host.window().newTask(); });
-        if (t.firstPaintMs < 0 || t.completeMs < 0) {
-            state.SkipWithError("the New Task window was never painted whole");
-            break;
-        }
-        state.SetIterationTime(t.firstPaintMs / 1e3);
-        complete += t.completeMs;
-        growth += t.memoryGrowthMb;
-    }
-    const double n = static_cast<double>(state.iterations());
-    state.counters["complete_ms"] = n > 0 ? complete / n : 0;
-    state.counters["rss_growth_MB"] = n > 0 ? growth / n : 0;
-    StepRunner::closeAll();
+    PaintProbe::run(state, host, "frmTask3", [&host] { host.window().newTask(); });
 }
 BENCHMARK(BM_NewTaskFirstPaint)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 

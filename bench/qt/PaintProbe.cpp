@@ -2,6 +2,8 @@
 
 #include <fstream>
 
+#include <benchmark/benchmark.h>
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -85,6 +87,24 @@ PaintTimes PaintProbe::measure(HostApp& host, const QString& form, const QString
     host.ui().setWindowBuilt(nullptr);
     if (paint.at >= 0) t.firstPaintMs = static_cast<double>(paint.at) / 1e6;
     return t;
+}
+
+void PaintProbe::run(benchmark::State& state, HostApp& host, const QString& form, const std::function<void()>& open) {
+    double complete = 0, growth = 0;
+    for (auto _ : state) {
+        const PaintTimes t = measure(host, form, "smtActions.DONE", open);
+        if (t.firstPaintMs < 0 || t.completeMs < 0) {
+            state.SkipWithError("the window was never painted whole");
+            break;
+        }
+        state.SetIterationTime(t.firstPaintMs / 1e3);
+        complete += t.completeMs;
+        growth += t.memoryGrowthMb;
+    }
+    const double n = static_cast<double>(state.iterations());
+    state.counters["complete_ms"] = n > 0 ? complete / n : 0;
+    state.counters["rss_growth_MB"] = n > 0 ? growth / n : 0;
+    StepRunner::closeAll();
 }
 
 }  // namespace qv

@@ -10,6 +10,10 @@
 
 #include <QString>
 
+namespace benchmark {
+class State;
+}
+
 namespace qv {
 
 class HostApp;
@@ -25,6 +29,9 @@ public:
     // open: the host call that shows the window; closeTool: "smtActions.DONE".
     static PaintTimes measure(HostApp& host, const QString& form, const QString& closeTool,
                               const std::function<void()>& open);
+    // A benchmark's iterations: manual time the first paint; the counters
+    // complete_ms and rss_growth_MB the means of the rest.
+    static void run(benchmark::State& state, HostApp& host, const QString& form, const std::function<void()>& open);
     // Resident memory of this process, in megabytes.
     [[nodiscard]] static double residentMb();
 };
