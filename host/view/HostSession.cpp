@@ -44,7 +44,13 @@ HostSession::~HostSession() {
 
 void HostSession::wire() {
     task_->Raised.connect([this](const HostEvent& e) { onRaised(e); });
-    task_->TaskDeleted.connect([this](const std::string& key) { store_.deleteTask(key); });
+    task_->TaskDeleted.connect([this](const std::string& key) {
+        try {
+            store_.deleteTask(key);
+        } catch (const std::exception& e) {
+            emit logged(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+        }
+    });
     task_->updateMainPrintInfo.connect([this](const std::string& info, int32_t slot) { savePrintInfo(info, slot); });
     task_->GotErrExitNow.connect([this] { ended_ = true; });
 }
@@ -80,6 +86,8 @@ void HostSession::newTask(const std::string& projectKey) { open(0, {}, projectKe
 void HostSession::taskFromCatalog(const std::string& catalogKey) { open(6, catalogKey, {}); }
 
 void HostSession::openTask(const std::string& taskKey) { open(1, taskKey, {}); }
+
+void HostSession::saveToCatalog(const std::string& taskKey) { open(5, taskKey, {}); }
 
 std::string HostSession::printInfo(int32_t slot) const {
     QSettings s(QString::fromStdString(folder_ + "/QuorvelHost.ini"), QSettings::IniFormat);

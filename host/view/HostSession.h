@@ -23,8 +23,10 @@ public:
 
     void newTask(const std::string& projectKey);
     void taskFromCatalog(const std::string& catalogKey);
-    // A stored task in the Existing Task dialog (mode 1).
+    // Mode 1: the Existing Task dialog on a stored task.
     void openTask(const std::string& taskKey);
+    // Mode 5: the stored task filed in the Task Catalog.
+    void saveToCatalog(const std::string& taskKey);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.

@@ -9,6 +9,9 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTabWidget>
@@ -51,7 +54,9 @@ void HostWindow::buildActions() {
         a->setEnabled(enabled);
         return a;
     };
-    connect(add("actNewTask", "&New Task", true), &QAction::triggered, this, &HostWindow::newTask);
+    newTask_ = add("actNewTask", "&New Task", true);
+    newTask_->setShortcut(QKeySequence::New);
+    connect(newTask_, &QAction::triggered, this, &HostWindow::newTask);
     fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
     bar->addSeparator();
@@ -59,7 +64,36 @@ void HostWindow::buildActions() {
     connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
     // Commands of the other dialogs: present, not yet offered.
     add("actWorkAppointment", "&Work Appointment", false);
-    add("actSaveToCatalog", "&Save to Catalog", false);
+    saveToCatalog_ = add("actSaveToCatalog", "&Save to Catalog", false);
+    connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
+    delete_ = new QAction("&Delete Task", this);
+    delete_->setObjectName("actDelete");
+    delete_->setShortcut(QKeySequence::Delete);
+    delete_->setEnabled(false);
+    connect(delete_, &QAction::triggered, this, &HostWindow::deleteTask);
+    buildMenus();
+}
+
+void HostWindow::buildMenus() {
+    QMenu* tasks = menuBar()->addMenu("&Task");
+    tasks->addAction(newTask_);
+    tasks->addAction(openTask_);
+    tasks->addAction(saveToCatalog_);
+    tasks->addAction(fromCatalog_);
+    tasks->addSeparator();
+    tasks->addAction(delete_);
+    tasks->addSeparator();
+    QAction* quit = tasks->addAction("&Quit", this, &QWidget::close);
+    quit->setObjectName("actQuit");
+    quit->setShortcut(QKeySequence::Quit);
+    QMenu* help = menuBar()->addMenu("&Help");
+    QAction* about = help->addAction("&Help", this, [this] {
+        QMessageBox::information(this, windowTitle(),
+                                 "Open a task with Enter or a double click; Ctrl+N makes a new one; Delete removes "
+                                 "the selected task with its appointments and keyword links.");
+    });
+    about->setObjectName("actHelp");
+    about->setShortcut(QKeySequence::HelpContents);
 }
 
 QWidget* HostWindow::buildTaskPage() {
@@ -91,9 +125,10 @@ QWidget* HostWindow::buildTaskPage() {
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
     table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
     column->addWidget(table_, 1);
+    // Enter or a double click opens the task.
+    connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex& at) { openTask_->setEnabled(at.isValid()); });
-    connect(table_, &QTableView::activated, this, &HostWindow::openTask);
+            &HostWindow::taskSelectionChanged);
     connect(project_, &QComboBox::currentIndexChanged, this, &HostWindow::refresh);
     connect(currentOnly_, &QCheckBox::toggled, this, &HostWindow::refresh);
     return page;
@@ -136,7 +171,10 @@ void HostWindow::refresh() {
         refreshProjects();
         QStringList words;
         for (const auto& w : store_.statusList()) words << QString::fromStdString(w);
+        const std::string selected = selectedTask();
         tasks_->setRows(store_.tasks(currentOnly_->isChecked(), chosenProject()), words);
+        selectTask(selected);
+        taskSelectionChanged();
         const QString chosen = catalog_->currentItem() ? catalog_->currentItem()->data(Qt::UserRole).toString() : "";
         catalog_->clear();
         for (const auto& c : store_.catalog()) {
@@ -145,7 +183,6 @@ void HostWindow::refresh() {
             if (item->data(Qt::UserRole).toString() == chosen) catalog_->setCurrentItem(item);
         }
         fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
-        openTask_->setEnabled(table_->currentIndex().isValid());
     } catch (const std::exception& e) {
         log(QStringLiteral("Could not read the store: %1").arg(e.what()));
     }
@@ -158,8 +195,44 @@ void HostWindow::taskFromCatalog() {
         session_.taskFromCatalog(item->data(Qt::UserRole).toString().toStdString());
 }
 
+std::string HostWindow::selectedTask() const {
+    const QModelIndex current = table_->currentIndex();
+    return current.isValid() ? tasks_->data(current, Qt::UserRole).toString().toStdString() : std::string();
+}
+
+void HostWindow::selectTask(const std::string& key) {
+    for (int row = 0; row < tasks_->rowCount(); ++row)
+        if (tasks_->rowAt(row)->guid == key) return table_->setCurrentIndex(tasks_->index(row, 0));
+}
+
+void HostWindow::taskSelectionChanged() {
+    const bool any = !selectedTask().empty();
+    for (QAction* a : {openTask_, saveToCatalog_, delete_}) a->setEnabled(any);
+}
+
 void HostWindow::openTask() {
-    if (const TaskRow* row = tasks_->rowAt(table_->currentIndex().row())) session_.openTask(row->guid);
+    const std::string key = selectedTask();
+    if (!key.empty()) session_.openTask(key);
+}
+
+void HostWindow::saveToCatalog() {
+    const std::string key = selectedTask();
+    if (!key.empty()) session_.saveToCatalog(key);
+}
+
+void HostWindow::deleteTask() {
+    const std::string key = selectedTask();
+    if (key.empty()) return;
+    const auto answer = QMessageBox::question(this, windowTitle(),
+                                              "Delete the selected task with its appointments and keyword links?");
+    if (answer != QMessageBox::Yes) return;
+    try {
+        store_.deleteTask(key);
+        log(QStringLiteral("Deleted task %1").arg(QString::fromStdString(key)));
+    } catch (const std::exception& e) {
+        log(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+    }
+    refresh();
 }
 
 void HostWindow::log(const QString& line) {

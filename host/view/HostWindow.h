@@ -29,11 +29,17 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
-    // Opens the task selected in the list.
+    // Commands on the task selected in the list.
     void openTask();
+    void saveToCatalog();
+    void deleteTask();
+    [[nodiscard]] std::string selectedTask() const;
+    void selectTask(const std::string& key);
 
 private:
     void buildActions();
+    void buildMenus();
+    void taskSelectionChanged();
     QWidget* buildTaskPage();
     QWidget* buildCatalogPage();
     void buildLog();
@@ -50,6 +56,9 @@ private:
     QPlainTextEdit* log_ = nullptr;
     QAction* fromCatalog_ = nullptr;
     QAction* openTask_ = nullptr;
+    QAction* saveToCatalog_ = nullptr;
+    QAction* delete_ = nullptr;
+    QAction* newTask_ = nullptr;
 };
 
 }  // namespace qv

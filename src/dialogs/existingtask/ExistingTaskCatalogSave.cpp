@@ -5,23 +5,30 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewTask.h"
 
 namespace qv {
 
 bool ExistingTaskCatalogSave::SaveToTaskCat() {
     if (!f_.ValidateTask()) return false;
-    clsNewTask source;
-    RecordsetPtr rs;
-    // No importance is 6: an empty set to add to.
-    source.SetSQL("SELECT * from TASKSCAT WHERE tskImp= 6");
-    if (!source.GetData(rs) || !rs) return false;
-    rs->AddNew();
-    writeColumns(*rs);
-    rs->Update();
-    rs->UpdateBatch(adAffectAllChapters);
-    rs->Close();
-    f_.keywords().addCatalogLinks(f_.fields().utilNewTaskGUID());
+    {
+        // The item stands even when its links fail; the host hears after.
+        SaveTransaction save;
+        clsNewTask source;
+        RecordsetPtr rs;
+        // No importance is 6: an empty set to add to.
+        source.SetSQL("SELECT * from TASKSCAT WHERE tskImp= 6");
+        if (!source.GetData(rs) || !rs) return false;
+        rs->AddNew();
+        writeColumns(*rs);
+        rs->Update();
+        rs->UpdateBatch(adAffectAllChapters);
+        rs->Close();
+        save.keepSoFar();
+        f_.keywords().addCatalogLinks(f_.fields().utilNewTaskGUID());
+        save.commit();
+    }
     reset();
     return true;
 }

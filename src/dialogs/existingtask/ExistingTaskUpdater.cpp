@@ -5,6 +5,7 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
@@ -24,21 +25,33 @@ const char* const kHistory[] = {"tskTimeN0", "tskTimeN1", "tskTimeN2", "tskTimeN
 
 // Only the columns below are assigned, so a change another process made to
 // any other column of the row (the scheduled time, the sort numbers) stays.
+// The row and its keyword links are one save, committed before the host
+// hears of it: the Outlook task too is told once the save stands. Links
+// that fail leave the row saved and the old links whole.
 bool ExistingTaskUpdater::UpdateTask() {
     const double now = clock().now();
     if (!f_.ValidateTask()) return false;
     auto& fields = f_.fields();
     if (!takeTimeSpent()) return false;
-    if (!fields.TaskRow && !fields.openTaskRow()) return false;
-    Recordset& row = *fields.TaskRow;
-    writeColumns(row, now);
-    row.Update();
-    row.UpdateBatch(adAffectAllChapters);
-    row.UpdateBatch(adAffectAllChapters);
-    tellOutlook();
-    fields.closeTaskRow();
+    std::string outlookEntry;
+    std::string taskKey;
+    {
+        SaveTransaction save;
+        if (!fields.TaskRow && !fields.openTaskRow()) return false;
+        Recordset& row = *fields.TaskRow;
+        writeColumns(row, now);
+        row.Update();
+        row.UpdateBatch(adAffectAllChapters);
+        row.UpdateBatch(adAffectAllChapters);
+        readOutlookEntry(outlookEntry, taskKey);
+        fields.closeTaskRow();
+        save.keepSoFar();
+        f_.keywords().rewriteLinks();
+        save.commit();
+    }
     ui().doEvents();
-    f_.keywords().rewriteLinks();
+    if (!outlookEntry.empty()) f_.FireOneOutlookTaskUpdate(outlookEntry, taskKey);
+    ui().doEvents();
     fields.IsDirty = false;
     return true;
 }
@@ -122,14 +135,14 @@ void ExistingTaskUpdater::shiftCatalogHistory(Recordset& row) {
     item->Close();
 }
 
-void ExistingTaskUpdater::tellOutlook() {
+// The row read again after the write: its Outlook entry, with integration on.
+void ExistingTaskUpdater::readOutlookEntry(std::string& entry, std::string& taskKey) {
     auto& fields = f_.fields();
     if (!fields.openTaskRow()) return;
-    ui().doEvents();
     Recordset& row = *fields.TaskRow;
     if (!g().OutlookIntegrationOn || row.EOF_()) return;
-    const std::string entry = CNull::NVLStr(row.Fields("tskOUTEntityID").value());
-    if (!entry.empty()) f_.FireOneOutlookTaskUpdate(entry, row.Fields("tskGUIDID").value().toText());
+    entry = CNull::NVLStr(row.Fields("tskOUTEntityID").value());
+    taskKey = row.Fields("tskGUIDID").value().toText();
 }
 
 }  // namespace qv

@@ -4,6 +4,8 @@
 // history on, a task linked to Outlook is told to the host, and the
 // keyword links are rewritten.
 
+#include <string>
+
 namespace qv {
 
 class frmExistingTask;
@@ -21,7 +23,7 @@ private:
     void writeChecklist(Recordset& row);
     // tskTimeN0..N4 of the catalog item move one place on.
     static void shiftCatalogHistory(Recordset& row);
-    void tellOutlook();
+    void readOutlookEntry(std::string& entry, std::string& taskKey);
 
     frmExistingTask& f_;
 };

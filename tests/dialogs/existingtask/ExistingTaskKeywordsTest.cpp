@@ -45,6 +45,23 @@ TEST_F(ExistingTaskKeywordsTest, LinksAreRewrittenWholeOnUpdate) {
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords"), 0);
 }
 
+TEST_F(ExistingTaskKeywordsTest, FailedLinksLeaveTheRowSavedAndTheOldLinksWhole) {
+    seed();
+    addTask();
+    linkKeyword(kKeyBlue);
+    exec("CREATE TRIGGER refuse BEFORE INSERT ON TaskKeywords BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    eclick("smtKeywords", kKeyRed);
+    edesc("Paint the barn");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(reporter().faults()[0].procedure, "UpdateTask");
+    EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS"), "Paint the barn");
+    EXPECT_EQ(readOne(links), kKeyBlue);
+    EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords"), 1);
+    EXPECT_EQ(count("TaskUpdated"), 0) << "the host hears nothing of a failed save";
+}
+
 TEST_F(ExistingTaskKeywordsTest, AddKeywordRebuildsTheSheetFromTheStoredLinks) {
     seed();
     addTask();
