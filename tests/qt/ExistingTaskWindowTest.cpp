@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
+#include <QTextEdit>
 
 #include "HostFixture.h"
 #include "kit/GridModel.h"
@@ -64,7 +66,11 @@ protected:
 
 TEST_F(ExistingTaskWindow, ScheduleAddEditButtonAndStopwatch) {
     StepRunner steps(10000);
-    steps.when("schedule tab", [] { return grid() != nullptr; }, [] { scheduleTab(); }, 300);
+    steps.when("schedule tab", [] { return grid() != nullptr; }, [] {
+        EXPECT_EQ(QApplication::focusWidget(), window()->findChild<QTextEdit*>("spellTask"))
+            << "typing starts in the task, not in " << QApplication::focusWidget()->objectName().toStdString();
+        scheduleTab();
+    }, 300);
     steps.then("add", [] { QTest::mouseClick(button("smtSkedBtns.ADD"), Qt::LeftButton); });
     // The new appointment is first, with its Duration.
     steps.when("added", [] { return grid()->model()->rowCount() == 1; }, [] {
