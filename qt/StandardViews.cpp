@@ -2,6 +2,7 @@
 
 #include "ExistingTaskView.h"
 #include "NewTaskView.h"
+#include "PageSetupView.h"
 #include "StackedView.h"
 
 namespace qv {
@@ -40,6 +41,7 @@ ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
     f.add("frmExistingTask", [](Form& form) -> FormView* { return new ExistingTaskView(form); });
+    f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);

@@ -103,8 +103,13 @@ void installSettingsFile(const std::string& folder) {
     writeSettingsFile(folder, pathInFolder(folder, kStoreFileName));
 }
 
+void installReportsFolder(const std::string& folder) {
+    std::filesystem::create_directories(std::filesystem::path(folder) / "Quorvel Reports");
+}
+
 bool installApplicationFolder(const std::string& folder) {
     std::filesystem::create_directories(folder);
+    installReportsFolder(folder);
     const bool made = installStore(folder);
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
     return made;

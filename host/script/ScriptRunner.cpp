@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <stdexcept>
@@ -9,6 +10,8 @@
 #include "installer/StoreFile.h"
 #include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
+#include "reports/PrintSettings.h"
+#include "script/PdfPages.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FakeClock.h"
@@ -186,6 +189,7 @@ void ScriptRunner::ensureStore() {
     ownsFolder_ = true;
     installStore(folder_);
     installSettingsFile(folder_);
+    installReportsFolder(folder_);
     g().AppPath = folder_;
 }
 
@@ -230,9 +234,11 @@ void ScriptRunner::cmdSetup(const ScriptLine& l) {
         args[lower(w.substr(0, eq))] = w.substr(eq + 1);
     }
     const std::vector<std::string> ustuff{"1", "Script User", "", "", "", ""};
-    task().SetupTask(static_cast<int32_t>(toLong(l.word(1))), args["task"], ustuff,
-                     args.count("dialog") ? static_cast<int32_t>(toLong(args["dialog"])) : 0,
-                     args["print"], args["ta"], args["project"]);
+    const int32_t dialog = args.count("dialog") ? static_cast<int32_t>(toLong(args["dialog"])) : 0;
+    // Without print= the dialog gets the whole default string a host would give.
+    const std::string print = args.count("print") ? args["print"] : PrintSettings::defaults(dialog);
+    task().SetupTask(static_cast<int32_t>(toLong(l.word(1))), args["task"], ustuff, dialog, print, args["ta"],
+                     args["project"]);
 }
 
 Form& ScriptRunner::activeForm() const {
@@ -325,8 +331,12 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "caption") return expectCaption(l);
     if (what == "date") return expectDate(l);
     if (what == "cell" || what == "gridrows") return expectGrid(l);
+    if (what == "report") return expectReport(l, true);
+    if (what == "no-report") return expectReport(l, false);
+    if (what == "pdfpages") return expectPdfPages(l);
     throw std::invalid_argument(
-        "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, row, rows or form");
+        "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, row, rows, form, "
+        "cell, gridrows, report, no-report or pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -468,6 +478,32 @@ void ScriptRunner::expectForm(const ScriptLine& l) {
     }
     if (shown == l.word(2)) return pass();
     fail(l, "the dialog shown is " + shown + ", not " + l.word(2));
+}
+
+// expect report FILE TEXT: the report file written under "Quorvel Reports/" holds TEXT.
+// expect no-report FILE: no such report file was written.
+void ScriptRunner::expectReport(const ScriptLine& l, bool present) {
+    std::ifstream in(reportPath(l.word(2)), std::ios::binary);
+    if (!present) {
+        if (!in) return pass();
+        return fail(l, "the report " + l.word(2) + " was written");
+    }
+    if (!in) return fail(l, "no report " + l.word(2));
+    const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (text.find(l.word(3)) != std::string::npos) return pass();
+    fail(l, "the report " + l.word(2) + " does not hold \"" + l.word(3) + "\"");
+}
+
+// expect pdfpages FILE N: the PDF printed beside the report has N pages.
+void ScriptRunner::expectPdfPages(const ScriptLine& l) {
+    const int pages = pdfPageCount(reportPath(l.word(2)));
+    if (pages < 0) return fail(l, "no PDF " + l.word(2));
+    if (std::to_string(pages) == l.word(3)) return pass();
+    fail(l, l.word(2) + " has " + std::to_string(pages) + " pages, not " + l.word(3));
+}
+
+std::string ScriptRunner::reportPath(const std::string& file) const {
+    return (std::filesystem::path(folder_) / "Quorvel Reports" / file).string();
 }
 
 std::string ScriptRunner::queryOne(const std::string& sql) const {

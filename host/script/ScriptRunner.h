@@ -69,6 +69,8 @@ private:
     void expectCaption(const ScriptLine& l);
     void expectDate(const ScriptLine& l);
     void expectGrid(const ScriptLine& l);
+    void expectReport(const ScriptLine& l, bool present);
+    void expectPdfPages(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();
@@ -76,6 +78,7 @@ private:
     Tool& toolOf(Form& form, const std::string& target, Sheet** sheet) const;
     [[nodiscard]] std::string queryOne(const std::string& sql) const;
     [[nodiscard]] std::string storePath() const;
+    [[nodiscard]] std::string reportPath(const std::string& file) const;
 
     std::ostream& out_;
     std::unique_ptr<ScriptedUi> ui_;

@@ -5,8 +5,10 @@
 #include <QDateEdit>
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QAction>
 #include <QMessageBox>
 #include <QTabBar>
 #include <QTableView>
@@ -35,6 +37,15 @@ bool saved() {
     auto* b = done ? qobject_cast<QAbstractButton*>(done->control()) : nullptr;
     return b && b->text() == "D&one";
 }
+// Chooses an entry of a tool-bar menu of the New Task window ("PRINT").
+void chooseMenuEntry(const QString& key) {
+    if (QWidget* w = StepRunner::formWindow(kNewTask))
+        if (auto* action = w->findChild<QAction*>(key)) action->trigger();
+}
+QWidget* preview() {
+    QWidget* w = QApplication::activeModalWidget();
+    return w && w->objectName() == "printPreview" ? w : nullptr;
+}
 }  // namespace
 
 DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
@@ -48,6 +59,8 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
     steps_.then("host", [this] { shoot(&app_.window(), "host", allSizes_); });
     planNewTask();
     planSubDialogs();
+    planPrinting();
+    planFiling();
     planFromCatalog();
     steps_.when("host after", [] { return closed(kNewTask); }, [this] { shoot(&app_.window(), "host-after", false); });
     planExistingTask();
@@ -83,6 +96,32 @@ void DemoDriver::planSubDialogs() {
     openAndShoot("smtKeywords.kNEWKEYWORD", "frmAddKeyword", "add-keyword");
     openAndShoot("smtCKActions.PICK", "frmCkPicker", "checklist-picker");
     openAndShoot("smtCKActions.NEW", "frmChecklistEditor", "checklist-editor");
+}
+
+// Page Setup, then a preview and a print of the report (a PDF where no
+// printer is installed); the questions are answered Yes.
+void DemoDriver::planPrinting() {
+    steps_.when("open page setup", [] { return StepRunner::formWindow(kNewTask) != nullptr; },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PAGESETUP"); }); });
+    shootWhenShown("frmPageSetup", "page-setup", allSizes_);
+    steps_.then("save page setup", [] { StepRunner::clickTool("frmPageSetup", "smtActions.OK"); });
+    steps_.when("open the preview", [] { return closed("frmPageSetup"); },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PRINTPREVIEW"); }); });
+    steps_.when("print-preview", [] { return preview() != nullptr; },
+                [this] {
+                    QWidget* w = preview();
+                    w->resize(1000, 760);
+                    shoot(w, "print-preview", false);
+                    w->close();
+                },
+                800);
+    steps_.when("print", [] { return !preview() && StepRunner::formWindow(kNewTask) != nullptr; },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PRINT"); }); });
+    steps_.when("printed", [this] { return QFile::exists(QString::fromStdString(app_.folder()) + "/Quorvel Reports/NewTask.pdf"); },
+                [] {});
+}
+
+void DemoDriver::planFiling() {
     shootWhenShown(kNewTask, "new-task-before-filing", false, 100);
     steps_.then("file in the Task Catalog", [] { StepRunner::clickTool(kNewTask, "smtActions.TC"); });
     steps_.when("close New Task", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });

@@ -1,7 +1,8 @@
 #pragma once
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
-// Project, Add Keyword, the checklist picker and editor, creates a task from the
+// Project, Add Keyword, the checklist picker and editor, Page Setup, the
+// print preview and a print, creates a task from the
 // catalog item (its past deadline red) and adds it, then opens that task
 // with twenty appointments in the Existing Task dialog. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
@@ -32,6 +33,8 @@ public:
 private:
     void planNewTask();
     void planSubDialogs();
+    void planPrinting();
+    void planFiling();
     void planFromCatalog();
     void planExistingTask();
     // Gives the task twenty appointments, the last days' and the next.

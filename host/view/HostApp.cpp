@@ -1,9 +1,13 @@
 #include "view/HostApp.h"
 
 #include "StandardViews.h"
+#include "kit/QtColorChooser.h"
 #include "kit/QtDateTimeFormatter.h"
+#include "kit/QtFontList.h"
 #include "kit/QtLocaleInfo.h"
 #include "kit/QtUi.h"
+#include "print/QtPrintSurface.h"
+#include "print/QtPrinterList.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
 #include "toolkit/SystemClock.h"
@@ -19,11 +23,19 @@ HostApp::HostApp(const std::string& folder, bool interactive)
       ui_(std::make_unique<QtUi>(*views_)),
       clock_(std::make_unique<SystemClock>()),
       locale_(std::make_unique<QtLocaleInfo>()),
+      printers_(std::make_unique<QtPrinterList>()),
+      fonts_(std::make_unique<QtFontList>()),
+      colors_(std::make_unique<QtColorChooser>()),
+      print_(std::make_unique<QtPrintSurface>()),
       store_(std::make_unique<HostStore>(folder)) {
     g().AppPath = folder;
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().locale = locale_.get();
+    ports().printers = printers_.get();
+    ports().fonts = fonts_.get();
+    ports().colorChooser = colors_.get();
+    ports().print = print_.get();
     DateTimeFormatter::install(std::make_unique<QtDateTimeFormatter>());
     session_ = std::make_unique<HostSession>(folder, *store_, interactive);
     window_ = std::make_unique<HostWindow>(*store_, *session_);
@@ -36,6 +48,10 @@ HostApp::~HostApp() {
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().locale = nullptr;
+    ports().printers = nullptr;
+    ports().fonts = nullptr;
+    ports().colorChooser = nullptr;
+    ports().print = nullptr;
 }
 
 }  // namespace qv

@@ -16,6 +16,7 @@ void HostFixture::SetUp() {
     resetGlobals();
     installStore(folder());
     installSettingsFile(folder());
+    installReportsFolder(folder());
     host_ = std::make_unique<HostApp>(folder(), false);
 }
 
