@@ -99,6 +99,12 @@ void Sheet::doubleClick(Tool& t) {
 
 void Sheet::userEdit(Tool& t, const std::string& text) {
     if (!enabled_ || !t.enabled()) return;
+    bool cancel = false;
+    BeforeEdit(t, cancel);
+    if (cancel) {
+        notify();  // a view shows the text it had again
+        return;
+    }
     t.setText(text);
     AfterEdit(t);
 }

@@ -52,6 +52,7 @@ public:
     Event<Tool&> Click;
     Event<Tool&> DblClick;
     Event<Tool&, const std::string&> Change;  // tool, property name ("Value")
+    Event<Tool&, bool&> BeforeEdit;            // the user is about to edit a tool's text; true cancels
     Event<Tool&> AfterEdit;                    // the user's edit of a tool's text has ended
     Event<> Changed;                           // anything a view shows changed
 

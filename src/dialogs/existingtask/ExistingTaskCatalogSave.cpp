@@ -3,6 +3,7 @@
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 #include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/shared/TaskColumns.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
@@ -33,31 +34,14 @@ bool ExistingTaskCatalogSave::SaveToTaskCat() {
     return true;
 }
 
-// The time history and the spent and scheduled times are not copied.
+// The time history and the spent and scheduled times are not copied;
+// Date Done goes in even as 1.0.
 void ExistingTaskCatalogSave::writeColumns(Recordset& rs) {
     auto& fields = f_.fields();
     const TaskRecord& r = fields.record();
     rs.Fields("tskStatus") = Value(r.Status);
     rs.Fields("tskDoneDate") = Value(Date{r.DateDone});
-    rs.Fields("tskDesc") = Value(r.Desc);
-    rs.Fields("tskProject") = Value(r.Project);
-    rs.Fields("tskProjectKey") = Value(r.ProjectKey);
-    rs.Fields("tskDifficulty") = Value(r.Diff);
-    rs.Fields("tskImp") = Value(r.Imp);
-    rs.Fields("tskTimeNeeded") = Value(r.TimeNeeded);
-    rs.Fields("tskCurrent") = Value(r.IsCurrent);
-    rs.Fields("tskHasSchedule") = Value(false);
-    rs.Fields("tskNotes") = Value(r.Notes);
-    rs.Fields("tskHasNotes") = Value(r.HasNotes);
-    rs.Fields("tskCreatedDate") = Value(Date{r.CreatedDate});
-    rs.Fields("tskLastMod") = Value(Date{r.LastMod});
-    rs.Fields("tskGUIDID") = Value(r.TaskGUID);
-    rs.Fields("tskPossPoints") = Value(fields.utilPossPoints);
-    if (r.Deadline > kNoDate) rs.Fields("tskDeadline") = Value(Date{r.Deadline});
-    rs.Fields("tskCustSortQV") = Value(r.CustSortQV);
-    if (r.IsCurrent) rs.Fields("tskCustSortCUR") = Value(r.CustCur);
-    rs.Fields("tskCustSortProj") = Value(r.CustProj);
-    rs.Fields("tskHasChecklist") = Value(r.HasChecklist);
+    TaskColumns::writeNew(rs, r, fields.utilPossPoints);
     // The catalog's column lacks the second T of the task's.
     const int32_t mode = fields.checklist.CheckListMode;
     if (mode == 1) rs.Fields("tskCheckListGUID") = Value(std::string());

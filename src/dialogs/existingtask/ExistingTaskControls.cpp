@@ -1,5 +1,7 @@
 #include "dialogs/existingtask/ExistingTaskControls.h"
 
+#include "dialogs/checklists/ChecklistLink.h"
+
 namespace qv {
 
 ExistingTaskControls::ExistingTaskControls() {
@@ -8,7 +10,7 @@ ExistingTaskControls::ExistingTaskControls() {
     buildTimes();
     buildActions();
     buildSchedule();
-    buildChecklistActions();
+    ChecklistLink::buildTools(smtCKActions);
     buildPanes();
     spellCK.setReadOnly(true);
     Timer1.setInterval(1000);
@@ -74,14 +76,6 @@ void ExistingTaskControls::buildSchedule() {
     smtSkedTimes.add(ttTextBox, "SPENT");
 }
 
-void ExistingTaskControls::buildChecklistActions() {
-    auto& s = smtCKActions;
-    s.add(ttButton, "NEW", "New");
-    s.add(ttSeparator, "S1");
-    s.add(ttButton, "PICK", "Pick...");
-    s.add(ttSeparator, "S2").setVisible(false);
-    s.add(ttButton, "EDIT", "Edit...").setVisible(false);
-}
 
 // Left column About and Notes, middle the task and the tabs, right the
 // times and keywords, the actions along the bottom.

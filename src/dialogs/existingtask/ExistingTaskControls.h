@@ -43,7 +43,6 @@ private:
     void buildTimes();
     void buildActions();
     void buildSchedule();
-    void buildChecklistActions();
     void buildPanes();
 };
 

@@ -128,36 +128,30 @@ void ExistingTaskFields::packTimes() {
     }
 }
 
-int32_t ExistingTaskFields::utilStatus() {
-    status_ = tagNumber(c_.smtABOUT.tool("STATUS"));
-    return status_;
+// The numeric picks read their list's tag into their slot and write by
+// choosing the entry of that tag, keeping the number even when none has it.
+int32_t ExistingTaskFields::readPick(const char* key, int32_t& slot) {
+    slot = kNothingChosen;
+    slot = tagNumber(c_.smtABOUT.tool(key));
+    return slot;
 }
 
-void ExistingTaskFields::setUtilStatus(int32_t value) {
-    chooseByTag(c_.smtABOUT.tool("STATUS"), value);
-    status_ = value;
+void ExistingTaskFields::writePick(const char* key, int32_t& slot, int32_t value) {
+    chooseByTag(c_.smtABOUT.tool(key), value);
+    slot = value;
 }
 
-int32_t ExistingTaskFields::utilImp() {
-    imp_ = kNothingChosen;
-    imp_ = tagNumber(c_.smtABOUT.tool("IMP"));
-    return imp_;
-}
+int32_t ExistingTaskFields::utilStatus() { return readPick("STATUS", status_); }
 
-void ExistingTaskFields::setUtilImp(int32_t value) {
-    chooseByTag(c_.smtABOUT.tool("IMP"), value);
-    imp_ = value;
-}
+void ExistingTaskFields::setUtilStatus(int32_t value) { writePick("STATUS", status_, value); }
 
-int32_t ExistingTaskFields::utilDiff() {
-    diff_ = tagNumber(c_.smtABOUT.tool("DIFF"));
-    return diff_;
-}
+int32_t ExistingTaskFields::utilImp() { return readPick("IMP", imp_); }
 
-void ExistingTaskFields::setUtilDiff(int32_t value) {
-    chooseByTag(c_.smtABOUT.tool("DIFF"), value);
-    diff_ = value;
-}
+void ExistingTaskFields::setUtilImp(int32_t value) { writePick("IMP", imp_, value); }
+
+int32_t ExistingTaskFields::utilDiff() { return readPick("DIFF", diff_); }
+
+void ExistingTaskFields::setUtilDiff(int32_t value) { writePick("DIFF", diff_, value); }
 
 std::string ExistingTaskFields::utilProjectName() const { return c_.smtABOUT.tool("PROJECT").text(); }
 

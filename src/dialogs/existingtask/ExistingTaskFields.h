@@ -75,6 +75,8 @@ public:
 
 private:
     void packTimes();
+    int32_t readPick(const char* key, int32_t& slot);
+    void writePick(const char* key, int32_t& slot, int32_t value);
 
     ExistingTaskControls& c_;
     TaskRecord rec_;

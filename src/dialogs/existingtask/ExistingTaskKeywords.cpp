@@ -1,7 +1,5 @@
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 
-#include "dialogs/add/frmAddKeyword.h"
-#include "dialogs/add/frmAddProject.h"
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/shared/KeywordSheet.h"
@@ -26,7 +24,7 @@ RecordsetPtr openLinks(clsNewTask& source, const std::string& taskGUID) {
 
 }  // namespace
 
-ExistingTaskKeywords::ExistingTaskKeywords(frmExistingTask& f) : f_(f) {}
+ExistingTaskKeywords::ExistingTaskKeywords(frmExistingTask& f) : f_(f), add_(f) {}
 
 ExistingTaskKeywords::~ExistingTaskKeywords() = default;
 
@@ -76,24 +74,12 @@ void ExistingTaskKeywords::fNewProject_ProjectAdded(const std::string& name) {
 }
 
 void ExistingTaskKeywords::openAddKeyword() {
-    fNewKeyword = std::make_shared<frmAddKeyword>();
-    fNewKeyword->KeywordAdded.connect([this] { fNewKeyword_KeywordAdded(); });
-    fNewKeyword->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
-    fNewKeyword->LoadCategories();
-    fNewKeyword->showModal(&f_);
-    fNewKeyword->unload();
-    fNewKeyword.reset();
-    g().SettingUp = false;
+    add_.openAddKeyword([this] { fNewKeyword_KeywordAdded(); }, [this] { f_.GotErrExitNow(); });
 }
 
 void ExistingTaskKeywords::openAddProject() {
-    fNewProject = std::make_shared<frmAddProject>();
-    fNewProject->ProjectAdded.connect([this](const std::string& name) { fNewProject_ProjectAdded(name); });
-    fNewProject->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
-    fNewProject->SetTaskPrintSetting(g().TaskPrintSetting);
-    fNewProject->showModal(&f_);
-    fNewProject->unload();
-    fNewProject.reset();
+    add_.openAddProject([this](const std::string& name) { fNewProject_ProjectAdded(name); },
+                        [this] { f_.GotErrExitNow(); });
 }
 
 void ExistingTaskKeywords::rewriteLinks() {

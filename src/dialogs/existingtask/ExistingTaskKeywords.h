@@ -5,14 +5,13 @@
 // Unlike the New Task dialog, the project is a drop-down entry of
 // "PROJECT", and an added keyword ticks from the stored links again.
 
-#include <memory>
 #include <string>
+
+#include "dialogs/shared/AddPickers.h"
 
 namespace qv {
 
 class frmExistingTask;
-class frmAddKeyword;
-class frmAddProject;
 class Tool;
 
 class ExistingTaskKeywords {
@@ -34,14 +33,15 @@ public:
     // with no link deleted first.
     void addCatalogLinks(const std::string& taskGUID);
 
-    std::shared_ptr<frmAddKeyword> fNewKeyword;
-    std::shared_ptr<frmAddProject> fNewProject;
+    // Add Project and Add Keyword while they are shown.
+    [[nodiscard]] AddPickers& adders() { return add_; }
 
 private:
     void openAddKeyword();
     void openAddProject();
 
     frmExistingTask& f_;
+    AddPickers add_;
 };
 
 }  // namespace qv

@@ -58,8 +58,7 @@ bool ExistingTaskValidation::checkDeadTime() const {
 // the save reads the slot.
 int32_t ExistingTaskValidation::PossTallyPoints() {
     const TaskRecord& r = f_.fields().record();
-    const int32_t points =
-        PointsTally::tally(g().PointsTable, r.Imp, r.Diff, r.TimeNeeded, r.HasChecklist, r.HasSchedule);
+    const int32_t points = PointsTally::tally(r);
     f_.controls().smtReady.tool("POINTS").setCaption(std::to_string(points));
     f_.fields().utilPossPoints = points;
     return points;

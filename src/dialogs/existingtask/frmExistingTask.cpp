@@ -126,6 +126,8 @@ void frmExistingTask::wireSheets() {
     c_.smtTimes.Change.connect([this, &a](Tool&, const std::string&) {
         trapped("smtTimes_Change", [&] { a.smtTimes_Change(); });
     });
+    // The stopwatch's clock is the program's to write.
+    c_.smtTimes.BeforeEdit.connect([](Tool& t, bool& cancel) { cancel = cancel || t.key() == "TIMER"; });
     c_.smtTimes.AfterEdit.connect([this, &a](Tool& t) { trapped("smtTimes_AfterEdit", [&] { a.smtTimes_AfterEdit(t); }); });
 }
 

@@ -147,6 +147,8 @@ TEST_F(ExistingTaskActionsTest, TimeToolsAndTheStopwatch) {
         esheet("smtTimes").userEdit(etool("smtTimes", "TIMESPENT"), "soon");
         EXPECT_EQ(scriptedUi().lastMessage().text, "That value was not recognized as a time period like 1:00.");
         EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "0:00");
+        esheet("smtTimes").userEdit(etool("smtTimes", "TIMER"), "99:00:00");
+        EXPECT_EQ(etool("smtTimes", "TIMER").text(), "00:01:05") << "the clock can't be typed over";
         esheet("smtTimes").userEdit(etool("smtTimes", "TIMESPENT"), "2:15");
         EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "2:15");
     });

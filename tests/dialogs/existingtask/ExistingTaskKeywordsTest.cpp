@@ -69,18 +69,18 @@ TEST_F(ExistingTaskKeywordsTest, AddKeywordRebuildsTheSheetFromTheStoredLinks) {
     eclick("smtKeywords", kKeyRed);
     eclick("smtKeywords", "kNEWKEYWORD");
     then([this] {
-        auto* add = eform().keywords().fNewKeyword.get();
+        auto* add = eform().keywords().adders().fNewKeyword.get();
         ASSERT_NE(add, nullptr);
         scriptedUi().queueAnswer(vbOK);
         add->sheet("smtKeywords")->find("CATEGORY")->setText("Colour");
         add->sheet("smtKeywords")->find("KEYWORD")->setText("Green");
     });
     then([this] {
-        Form* add = eform().keywords().fNewKeyword.get();
+        Form* add = eform().keywords().adders().fNewKeyword.get();
         add->sheet("smtAction")->click(*add->sheet("smtAction")->find("ADD"));
     });
     then([this] {
-        if (auto add = eform().keywords().fNewKeyword) add->hide();
+        if (auto add = eform().keywords().adders().fNewKeyword) add->hide();
     });
     then([this] {
         EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
@@ -99,18 +99,18 @@ TEST_F(ExistingTaskKeywordsTest, NewProjectFromTheListIsChosenAndSaved) {
     addTask();
     choose("PROJECT", "New Project");
     then([this] {
-        auto* add = eform().keywords().fNewProject.get();
+        auto* add = eform().keywords().adders().fNewProject.get();
         ASSERT_NE(add, nullptr);
         scriptedUi().queueAnswer(vbOK);
         add->sheet("smtProject")->find("txName")->setText("Gamma");
         add->sheet("smtProject")->find("txSummary")->setText("Third");
     });
     then([this] {
-        Form* add = eform().keywords().fNewProject.get();
+        Form* add = eform().keywords().adders().fNewProject.get();
         add->sheet("smtAction")->click(*add->sheet("smtAction")->find("OK"));
     });
     then([this] {
-        if (auto add = eform().keywords().fNewProject) add->hide();
+        if (auto add = eform().keywords().adders().fNewProject) add->hide();
     });
     then([this] {
         EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Gamma");
