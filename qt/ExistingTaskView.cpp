@@ -1,5 +1,6 @@
 #include "ExistingTaskView.h"
 
+#include <QTextEdit>
 #include <QVBoxLayout>
 
 #include "kit/GridView.h"
@@ -28,6 +29,14 @@ ExistingTaskView::ExistingTaskView(Form& form, QWidget* parent) : FormView(form,
     if (auto* columns = qobject_cast<QSplitter*>(splitter_->widget(0)))
         for (int c = 0; c < columns->count(); ++c) columns->setStretchFactor(c, kColumnStretch[static_cast<size_t>(c)]);
     column->addWidget(splitter_, 1);
+}
+
+// Typing goes to the task's text first.
+void ExistingTaskView::showEvent(QShowEvent* e) {
+    FormView::showEvent(e);
+    if (focused_) return;
+    focused_ = true;
+    if (auto* task = findChild<QTextEdit*>("spellTask")) task->setFocus(Qt::OtherFocusReason);
 }
 
 QWidget* ExistingTaskView::buildPane(int index) {

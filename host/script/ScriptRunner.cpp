@@ -9,6 +9,7 @@
 
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
+#include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
 #include "reports/PrintSettings.h"
 #include "script/PdfPages.h"
@@ -173,8 +174,9 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"key", &ScriptRunner::cmdKey},       {"close", &ScriptRunner::cmdClose},
         {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
         {"expect", &ScriptRunner::cmdExpect}, {"resize", &ScriptRunner::cmdResize},
-        {"drag", &ScriptRunner::cmdDrag},     {"tab", &ScriptRunner::cmdTab},
-        {"clock", &ScriptRunner::cmdClock},   {"settings-file", &ScriptRunner::cmdSettingsFile}};
+        {"drag", &ScriptRunner::cmdDrag},     {"clock", &ScriptRunner::cmdClock},
+        {"settings-file", &ScriptRunner::cmdSettingsFile}};
+    if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -380,12 +382,13 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "tab") return expectTab(l);
     if (what == "help") return expectHelp(l, false);
     if (what == "help-page") return expectHelp(l, true);
+    if (what == "cell" || what == "gridrows") return expectGrid(l);
     if (what == "report") return expectReport(l, true);
     if (what == "no-report") return expectReport(l, false);
     if (what == "pdfpages") return expectPdfPages(l);
     throw std::invalid_argument(
         "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, window, tab, row, "
-        "rows, form, help, help-page, report, no-report or pdfpages");
+        "rows, form, cell, gridrows, help, help-page, report, no-report or pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -460,6 +463,13 @@ void ScriptRunner::expectDate(const ScriptLine& l) {
     fail(l, l.word(2) + " shows \"" + text + "\", not \"" + l.word(3) + "\"");
 }
 
+// expect cell ROW COLUMN VALUE / expect gridrows N
+void ScriptRunner::expectGrid(const ScriptLine& l) {
+    const std::string why = GridCommands::check(activeForm(), l);
+    if (why.empty()) return pass();
+    fail(l, why);
+}
+
 // expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|tip|bold|forecolor VALUE
 void ScriptRunner::expectTool(const ScriptLine& l) {
     const Tool& t = toolOf(activeForm(), l.word(2), nullptr);
@@ -502,12 +512,6 @@ void ScriptRunner::expectEditor(const ScriptLine& l) {
     fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
 }
 
-// tab NAME INDEX: the user picks a tab (counted from 0) of a tab strip.
-void ScriptRunner::cmdTab(const ScriptLine& l) {
-    TabStrip* tabs = activeForm().tabStrip(l.word(1));
-    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(1));
-    tabs->userSwitch(static_cast<int32_t>(toLong(l.word(2))));
-}
 
 // expect tab NAME INDEX: the tab shown.
 void ScriptRunner::expectTab(const ScriptLine& l) {

@@ -56,7 +56,6 @@ private:
     void cmdAdvance(const ScriptLine& l);
     void cmdResize(const ScriptLine& l);
     void cmdDrag(const ScriptLine& l);
-    void cmdTab(const ScriptLine& l);
     void cmdClock(const ScriptLine& l);
     void cmdSettingsFile(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
@@ -75,6 +74,7 @@ private:
     void expectCaption(const ScriptLine& l);
     void expectDate(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
+    void expectGrid(const ScriptLine& l);
     void expectReport(const ScriptLine& l, bool present);
     void expectPdfPages(const ScriptLine& l);
 

@@ -13,6 +13,22 @@
 
 namespace qv {
 
+namespace {
+// Enter commits the cell (the delegate sees it first) and goes no further:
+// the dialog's own Enter is not meant for a cell being typed in.
+class CellEnter : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* e) override {
+        if (e->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent*>(e)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter) return true;
+        }
+        return QObject::eventFilter(watched, e);
+    }
+};
+}  // namespace
+
 GridDelegate::GridDelegate(GridModel& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
 
 bool GridDelegate::isButton(const QModelIndex& index) const {
@@ -47,6 +63,7 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
     auto* editor = new QLineEdit(parent);
     editor->setObjectName("cellEditor");
     editor->setFrame(false);
+    editor->installEventFilter(new CellEnter(editor));
     return editor;
 }
 

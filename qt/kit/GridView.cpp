@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -89,8 +90,19 @@ void GridView::followLayout() {
     QHeaderView* header = table_->horizontalHeader();
     for (int v = 0; v < model_->columnCount(); ++v) {
         const int width = grid_.column(model_->gridColumn(v)).width;
-        if (width > 0) header->resizeSection(v, std::max(Twips::toPixels(width, this), header->minimumSectionSize()));
+        if (width > 0) header->resizeSection(v, std::max(Twips::toPixels(width, this), readableWidth(v)));
     }
+}
+
+// Never narrower than its header or its first row: a narrow window
+// scrolls sideways rather than cut the text.
+int GridView::readableWidth(int viewColumn) const {
+    const QFontMetrics fm = table_->fontMetrics();
+    const QString caption = model_->headerData(viewColumn, Qt::Horizontal, Qt::DisplayRole).toString();
+    int w = fm.horizontalAdvance(caption) + 3 * fm.averageCharWidth() + 8;
+    if (model_->rowCount() > 0)
+        w = std::max(w, fm.horizontalAdvance(model_->index(0, viewColumn).data().toString()) + 2 * fm.averageCharWidth() + 8);
+    return w;
 }
 
 // The rows in the order the user picked them: rows still selected keep

@@ -34,6 +34,7 @@ protected:
 
 private:
     void followLayout();
+    [[nodiscard]] int readableWidth(int viewColumn) const;
     void reportSelection();
     void reportWidth();
 

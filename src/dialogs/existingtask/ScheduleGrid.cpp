@@ -177,30 +177,47 @@ void ScheduleGrid::applyResizeWidths() {
 void ScheduleGrid::loadRows() {
     std::vector<Grid::Row> rows;
     const auto columns = static_cast<std::size_t>(grid_.columnCount());
+    const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
     auto& rs = *rs_;
     if (!rs.EOF_()) rs.MoveFirst();
     while (!rs.EOF_()) {
         Grid::Row& row = rows.emplace_back();
         row.cells.resize(columns);
-        for (int32_t i = 0; i < boundColumns_; ++i) row.cells[static_cast<std::size_t>(i)] = cellText(rs.FieldAt(i).value());
+        std::optional<double> from, to, worked = 0.0;
+        for (int32_t i = 0; i < boundColumns_; ++i) {
+            const Value v = rs.FieldAt(i).value();
+            row.cells[static_cast<std::size_t>(i)] = cellText(v);
+            if (v.isNull()) continue;
+            if (i == start) from = v.toDate().serial;
+            else if (i == end) to = v.toDate().serial;
+            else if (i == minutes) worked = v.toDouble();
+        }
+        fillUnbound(row.cells, from, to, worked);
         rs.MoveNext();
     }
     grid_.setRows(std::move(rows));
-    for (int32_t r = 0; r < grid_.rowCount(); ++r) InitializeRow(r);
 }
 
-// The planned minutes, rounded half to even, as time text; the button's
-// text; the time spent as time text.
-void ScheduleGrid::InitializeRow(int32_t row) {
-    const auto start = tryToDate(grid_.cell(row, col(kStart)));
-    const auto end = tryToDate(grid_.cell(row, col(kEnd)));
+// InitializeRow: the planned minutes, rounded half to even, as time text;
+// the button's text; the time spent as time text.
+void ScheduleGrid::fillUnbound(std::vector<std::string>& cells, std::optional<double> start,
+                               std::optional<double> end, std::optional<double> minutes) const {
     std::string duration;
     if (start && end) duration = SetTimeFormat(roundLong((*end - *start) * 1440.0));
-    const std::string& worked = grid_.cell(row, col(kMinutes));
-    const auto minutes = worked.empty() ? std::optional<double>(0.0) : tryToDouble(worked);
-    grid_.setCell(row, col(kCalc), duration);
-    grid_.setCell(row, col(kBtn), kButtonText);
-    grid_.setCell(row, col(kFake), SetTimeFormat(minutes.value_or(0.0)));
+    cells[static_cast<std::size_t>(col(kCalc))] = std::move(duration);
+    cells[static_cast<std::size_t>(col(kBtn))] = kButtonText;
+    cells[static_cast<std::size_t>(col(kFake))] = SetTimeFormat(minutes.value_or(0.0));
+}
+
+void ScheduleGrid::InitializeRow(int32_t row) {
+    std::vector<std::string> cells = grid_.row(row).cells;
+    const std::string& worked = cells[static_cast<std::size_t>(col(kMinutes))];
+    fillUnbound(cells, tryToDate(grid_.cell(row, col(kStart))), tryToDate(grid_.cell(row, col(kEnd))),
+                worked.empty() ? std::optional<double>(0.0) : tryToDouble(worked));
+    for (const char* key : {kCalc, kBtn, kFake}) {
+        const int32_t c = col(key);
+        grid_.setCell(row, c, cells[static_cast<std::size_t>(c)]);
+    }
 }
 
 void ScheduleGrid::CountUpSked() {

@@ -10,7 +10,9 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "store/Recordset.h"
 #include "toolkit/Grid.h"
@@ -65,6 +67,8 @@ public:
 private:
     void InitializeLayout();
     void InitializeRow(int32_t row);
+    void fillUnbound(std::vector<std::string>& cells, std::optional<double> start, std::optional<double> end,
+                     std::optional<double> minutes) const;
     void loadRows();
     void BeforeCellUpdate(int32_t row, int32_t column, const std::string& text, bool& cancel);
     void AfterCellUpdate(int32_t row, int32_t column);

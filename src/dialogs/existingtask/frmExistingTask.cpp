@@ -45,7 +45,10 @@ frmExistingTask::frmExistingTask()
       printer_(std::make_shared<TaskPrinter>()) {
     sked_ = std::make_unique<ScheduleGrid>(
         c_.smtABOUT, c_.smtSkedTimes, c_.smtTimes,
-        ScheduleGrid::Hooks{[this]() -> const TaskRecord& { return fields_->record(); }, [this] { ValidateTask(); },
+        ScheduleGrid::Hooks{[this]() -> const TaskRecord& {
+                                PackATask();
+                                return fields_->record();
+                            }, [this] { ValidateTask(); },
                             [this](int32_t n) { fields_->SkedRowCount = n; },
                             [this](const char* procedure, const std::function<void()>& body) { trapped(procedure, body); }});
     layout_ = std::make_unique<ExistingTaskLayout>(*this, c_.splitTask, c_.Tabs1, *sked_, fields_->VisibleTab);
