@@ -4,8 +4,10 @@
 
 #include <QSettings>
 
+#include "installer/StoreInstaller.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/Connection.h"
 #include "toolkit/Ports.h"
 #include "view/HostReporter.h"
 #include "view/HostStore.h"
@@ -72,6 +74,25 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
     } catch (const std::exception& e) {
         emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
     }
+    emit listsChanged();
+}
+
+void HostSession::useFolder(const std::string& folder) {
+    try {
+        installApplicationFolder(folder);
+    } catch (const std::exception& e) {
+        emit logged(QStringLiteral("Could not prepare %1: %2").arg(QString::fromStdString(folder), e.what()));
+        return;
+    }
+    folder_ = folder;
+    store_.setFolder(folder);
+    // The component finds its store again from the new folder's settings file.
+    g().AppPath = folder;
+    g().ConnString.clear();
+    g().DBLocation.clear();
+    Connection::releaseAll();
+    start();
+    emit logged(QStringLiteral("Using the folder %1").arg(QString::fromStdString(folder)));
     emit listsChanged();
 }
 

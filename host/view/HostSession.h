@@ -23,6 +23,9 @@ public:
 
     void newTask(const std::string& projectKey);
     void taskFromCatalog(const std::string& catalogKey);
+    // Points the host and the component at another program's folder (a
+    // store is installed there when it has none) and starts a fresh session.
+    void useFolder(const std::string& folder);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.

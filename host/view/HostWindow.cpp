@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -54,6 +55,7 @@ void HostWindow::buildActions() {
     connect(add("actNewTask", "&New Task", true), &QAction::triggered, this, &HostWindow::newTask);
     fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
+    connect(add("actFolder", "Store &Folder...", true), &QAction::triggered, this, &HostWindow::chooseFolder);
     bar->addSeparator();
     // Commands of the other dialogs: present, not yet offered.
     add("actOpenTask", "&Open Task", false);
@@ -151,6 +153,12 @@ void HostWindow::newTask() { session_.newTask(chosenProject()); }
 void HostWindow::taskFromCatalog() {
     if (QListWidgetItem* item = catalog_->currentItem())
         session_.taskFromCatalog(item->data(Qt::UserRole).toString().toStdString());
+}
+
+void HostWindow::chooseFolder() {
+    const QString dir = QFileDialog::getExistingDirectory(this, QStringLiteral("Folder of the Quorvel store"),
+                                                          QString::fromStdString(store_.folder()));
+    if (!dir.isEmpty()) session_.useFolder(dir.toStdString());
 }
 
 void HostWindow::log(const QString& line) {

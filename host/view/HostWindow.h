@@ -29,6 +29,8 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Asks for another program's folder and uses it.
+    void chooseFolder();
 
 private:
     void buildActions();
