@@ -4,24 +4,15 @@
 #include <cstdlib>
 
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/CountingReporter.h"
 #include "toolkit/FakeClock.h"
 #include "toolkit/Ports.h"
-#include "toolkit/Reporter.h"
 #include "toolkit/ScriptedUi.h"
 #include "toolkit/Ui.h"
 
 namespace qv::fuzz {
 
 namespace {
-
-class CountingReporter : public Reporter {
-public:
-    bool report(const FaultReport&) override {
-        ++faults;
-        return true;
-    }
-    int faults = 0;
-};
 
 struct Installed {
     ScriptedUi ui;
