@@ -39,7 +39,9 @@ void readyPorts() {
     if (p.ui.pendingAnswers() == 0) p.ui.queueAnswer(vbOK);
 }
 
-int faultsTold() { return installed().reporter.faults; }
+int faultsTold() {
+    return installed().reporter.faults;
+}
 
 void broken(const char* what, const std::string& input) {
     std::fprintf(stderr, "broken: %s for an input of %zu bytes\n", what, input.size());

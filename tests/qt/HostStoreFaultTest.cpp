@@ -3,7 +3,6 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTemporaryDir>
-
 #include <fstream>
 
 #include "HostFixture.h"
@@ -20,7 +19,8 @@ TEST_F(HostFixture, ABrokenStoreIsToldOnceAndTheHostCanMoveToAnotherFolder) {
         junk << std::string(4096, 'x');
     }
     StepRunner steps(3000);
-    steps.when("no dialog comes", [] { return true; }, [] {});
+    steps.when(
+        "no dialog comes", [] { return true; }, [] {});
     openNewTask(steps);
     EXPECT_TRUE(host().session().ended());
     EXPECT_FALSE(shown("frmTask3"));
@@ -34,8 +34,9 @@ TEST_F(HostFixture, ABrokenStoreIsToldOnceAndTheHostCanMoveToAnotherFolder) {
     EXPECT_EQ(host().store().folder(), other.path().toStdString());
     EXPECT_FALSE(host().session().ended());
     StepRunner again;
-    again.when("New Task is shown", [] { return shown("frmTask3"); },
-               [] { StepRunner::clickTool("frmTask3", "smtActions.DONE"); }, kStartTimerSettleMs);
+    again.when(
+        "New Task is shown", [] { return shown("frmTask3"); },
+        [] { StepRunner::clickTool("frmTask3", "smtActions.DONE"); }, kStartTimerSettleMs);
     openNewTask(again);
     EXPECT_TRUE(again.skipped().isEmpty()) << again.skipped().join(", ").toStdString();
     EXPECT_FALSE(host().session().ended());
