@@ -26,6 +26,11 @@ public:
     // Points the host and the component at another program's folder (a
     // store is installed there when it has none) and starts a fresh session.
     void useFolder(const std::string& folder);
+    // Works one appointment (mode 2): the dialog reads the slot by its key.
+    void workAppointment(const std::string& appointmentKey);
+    // Adds an hour's appointment to a task through the component's
+    // schedule class, starting at the next full hour; its key, or empty.
+    std::string scheduleAppointment(const std::string& taskKey);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.
@@ -41,7 +46,8 @@ private:
     void onRaised(const HostEvent& e);
     void savePrintInfo(const std::string& info, int32_t slot);
     [[nodiscard]] std::vector<std::string> userStuff() const;
-    void open(int32_t mode, const std::string& key, const std::string& projectKey);
+    void open(int32_t mode, const std::string& key, const std::string& projectKey,
+              const std::string& appointmentKey = {});
 
     std::string folder_;
     HostStore& store_;

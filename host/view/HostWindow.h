@@ -3,6 +3,8 @@
 // filter and project choice, the Task Catalog, the commands that open the
 // component, and a log of the component's events.
 
+#include <cstdint>
+
 #include <QMainWindow>
 
 class QAction;
@@ -14,6 +16,7 @@ class QTableView;
 
 namespace qv {
 
+class AppointmentList;
 class HostSession;
 class HostStore;
 class TaskTableModel;
@@ -31,6 +34,15 @@ public:
     void taskFromCatalog();
     // Asks for another program's folder and uses it.
     void chooseFolder();
+    // Mode 2 on the chosen appointment of the chosen task.
+    void workAppointment();
+    // A new hour's appointment for the chosen task.
+    void scheduleAppointment();
+    [[nodiscard]] AppointmentList& appointments() const { return *appointments_; }
+    // The key of the task chosen in the list, or empty.
+    [[nodiscard]] std::string chosenTask() const;
+    // Opens a help topic in the component's help pop-up.
+    void openHelp(int32_t topic);
 
 private:
     void buildActions();
@@ -38,6 +50,7 @@ private:
     QWidget* buildCatalogPage();
     void buildLog();
     void refreshProjects();
+    void refreshAppointments();
     void log(const QString& line);
 
     HostStore& store_;
@@ -49,6 +62,9 @@ private:
     QListWidget* catalog_ = nullptr;
     QPlainTextEdit* log_ = nullptr;
     QAction* fromCatalog_ = nullptr;
+    AppointmentList* appointments_ = nullptr;
+    QAction* workAppointment_ = nullptr;
+    QAction* schedule_ = nullptr;
 };
 
 }  // namespace qv

@@ -15,6 +15,8 @@ class HelpViewer;
 class PrintSurface;
 class SpellChecker;
 class LocaleInfo;
+class PrinterList;
+class FontList;
 
 struct Ports {
     Ui* ui = nullptr;
@@ -25,6 +27,8 @@ struct Ports {
     PrintSurface* print = nullptr;
     SpellChecker* spell = nullptr;
     LocaleInfo* locale = nullptr;
+    PrinterList* printers = nullptr;  // none installed: no printers
+    FontList* fonts = nullptr;        // none installed: no fonts
 };
 
 Ports& ports();

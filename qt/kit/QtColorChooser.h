@@ -1,0 +1,13 @@
+#pragma once
+// The colour chooser port over the platform's colour dialog.
+
+#include "toolkit/ColorChooser.h"
+
+namespace qv {
+
+class QtColorChooser : public ColorChooser {
+public:
+    bool choose(int32_t initial, const std::string& title, bool center, int32_t& chosen) override;
+};
+
+}  // namespace qv

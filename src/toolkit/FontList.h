@@ -1,0 +1,15 @@
+#pragma once
+// The fonts port: the names of the screen fonts.
+
+#include <string>
+#include <vector>
+
+namespace qv {
+
+class FontList {
+public:
+    virtual ~FontList() = default;
+    [[nodiscard]] virtual std::vector<std::string> fontNames() const = 0;
+};
+
+}  // namespace qv
