@@ -8,16 +8,18 @@
 #include <string>
 #include <type_traits>
 
+#include "Export.h"
+
 namespace qv {
 
 // Tells the reporter of the fault, then unloads every open form.
-void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
+QV_EXPORT void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
                  const std::string& description, int32_t number, int32_t line,
                  const std::array<std::string, 6>& UStuff);
 
 // Reports the exception in flight as a fault of module.procedure. Call it
 // only from a catch block.
-void reportCurrentFailure(const char* module, const char* procedure) noexcept;
+QV_EXPORT void reportCurrentFailure(const char* module, const char* procedure) noexcept;
 
 // Runs body under the trap. A failure is reported and the procedure's
 // default result comes back: false, 0, empty. A body without a result

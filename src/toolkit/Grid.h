@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class Grid {
+class QV_EXPORT Grid {
 public:
     struct Column {
         std::string caption;

@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
 class Ui;
@@ -16,7 +18,7 @@ class PrintSurface;
 class SpellChecker;
 class LocaleInfo;
 
-struct Ports {
+struct QV_EXPORT Ports {
     Ui* ui = nullptr;
     Clock* clock = nullptr;
     Reporter* reporter = nullptr;  // the default reporter of the error path
@@ -27,10 +29,10 @@ struct Ports {
     LocaleInfo* locale = nullptr;
 };
 
-Ports& ports();
+QV_EXPORT Ports& ports();
 
 // Shorthands that fail loudly when a port is missing.
-Ui& ui();
-Clock& clock();
+QV_EXPORT Ui& ui();
+QV_EXPORT Clock& clock();
 
 }  // namespace qv
