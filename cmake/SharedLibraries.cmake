@@ -3,27 +3,40 @@
 # are linked from the objects the layers' static libraries compiled already,
 # so nothing compiles twice, and the tests keep linking the static layers.
 
-# Adds the objects of a layer's static library to a shared library.
-function(qv_shared_part shared layer)
-  set_property(GLOBAL APPEND PROPERTY QV_PARTS_${shared} ${layer})
-endfunction()
-
-# Links the shared library from every part added so far. Symbols stay
-# hidden unless their declaration carries QV_EXPORT (src/Export.h).
+# Links a shared library from the objects of every static library that
+# the calling CMakeLists.txt defines, so a layer added there joins it
+# without further ado; call it last. The libraries those layers link from
+# outside (SQLite, Qt, Hunspell) it links privately. Symbols stay hidden
+# unless their declaration carries QV_EXPORT (src/Export.h).
 function(qv_shared_library name)
-  cmake_parse_arguments(arg "" "" "PUBLIC;PRIVATE" ${ARGN})
-  get_property(parts GLOBAL PROPERTY QV_PARTS_${name})
+  cmake_parse_arguments(arg "" "" "PUBLIC" ${ARGN})
+  get_property(targets DIRECTORY PROPERTY BUILDSYSTEM_TARGETS)
   set(objects)
-  foreach(part IN LISTS parts)
-    list(APPEND objects $<TARGET_OBJECTS:${part}>)
+  set(outside)
+  foreach(target IN LISTS targets)
+    get_target_property(type ${target} TYPE)
+    if(type STREQUAL "STATIC_LIBRARY")
+      list(APPEND objects $<TARGET_OBJECTS:${target}>)
+      get_target_property(links ${target} LINK_LIBRARIES)
+      list(FILTER links EXCLUDE REGEX "^qv_|-NOTFOUND$")
+      list(APPEND outside ${links})
+    endif()
   endforeach()
+  list(REMOVE_DUPLICATES outside)
   add_library(${name} SHARED ${objects})
   set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION})
-  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+  target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${outside})
+  # Installed, the headers of src/ sit in include/quorvel/, those of qt/ in
+  # include/quorvel/qt/.
+  file(RELATIVE_PATH folder ${CMAKE_SOURCE_DIR}/src ${CMAKE_CURRENT_SOURCE_DIR})
+  if(folder STREQUAL "")
+    set(installed ${CMAKE_INSTALL_INCLUDEDIR} ${CMAKE_INSTALL_INCLUDEDIR}/quorvel)
+  else()
+    file(RELATIVE_PATH folder ${CMAKE_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+    set(installed ${CMAKE_INSTALL_INCLUDEDIR}/quorvel/${folder})
+  endif()
   target_include_directories(${name} INTERFACE
-    $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/src>
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>
-    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/quorvel>)
+    $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}> "$<INSTALL_INTERFACE:${installed}>")
   target_compile_features(${name} INTERFACE cxx_std_20)
   # A hidden symbol that another part needs fails here, not in a host.
   # (Sanitized builds leave the runtime's symbols to the executable.)

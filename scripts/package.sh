@@ -10,6 +10,11 @@ out=build/deb
 rm -rf "$out"
 mkdir -p "$out/src"
 git archive HEAD | tar -x -C "$out/src"
-(cd "$out/src" && DEB_BUILD_OPTIONS="noautodbgsym ${DEB_BUILD_OPTIONS:-}" dpkg-buildpackage -b -us -uc -Jauto)
+echo "Building the packages (log: $out/build.log)"
+if ! (cd "$out/src" && DEB_BUILD_OPTIONS="noautodbgsym ${DEB_BUILD_OPTIONS:-}" dpkg-buildpackage -b -us -uc -Jauto) \
+    >"$out/build.log" 2>&1; then
+    tail -n 40 "$out/build.log"
+    exit 1
+fi
 rm -rf "$out/src"
 ls "$out"/*.deb

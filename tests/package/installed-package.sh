@@ -59,6 +59,15 @@ check "$tmp/out1" "the host built through find_package"
     -o "$tmp/host2" || fail "the host does not build through pkg-config"
 "$tmp/host2" "$tmp/home" $key "Repot the fern" >"$tmp/out2"
 check "$tmp/out2" "the host built through pkg-config"
+# The views library links and loads for a host that wants the real windows.
+if pkg-config --exists Qt6Widgets; then
+    printf '%s\n' '#include <quorvel/StandardViews.h>' \
+        'int main() { return qv::StandardViews::make().has("frmTask3") ? 0 : 1; }' >"$tmp/views.cpp"
+    # shellcheck disable=SC2046
+    "$cxx" -fPIC "$tmp/views.cpp" $(pkg-config --cflags --libs quorveltask2-qt) -Wl,-rpath,"$libdir" \
+        -o "$tmp/views" || fail "a host does not build against the views library"
+    LD_LIBRARY_PATH="$libdir" "$tmp/views" || fail "the views library has no New Task view"
+fi
 cat "$tmp/out1" "$tmp/out2"
 # Both tasks are in the store, in the project.
 printf '%s\n' "home $tmp/home" 'expect rows "SELECT * FROM TASKS WHERE tskProject = '"'Garden'"'" 2' |
