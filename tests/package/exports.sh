@@ -1,7 +1,7 @@
 #!/bin/sh
-# The logic library shows its public interface and hides the rest: the
-# dialogs, the store's connection and dialect, the data classes that only
-# the dialogs use.
+# A library of the component shows its public interface and hides the rest:
+# the dialogs, the store's connection and dialect, the data classes that
+# only the dialogs use.
 # Usage: exports.sh LIBRARY
 set -eu
 syms=$(nm -D --defined-only -C "$1")
