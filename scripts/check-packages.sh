@@ -49,6 +49,11 @@ dpkg --root="$root" --force-depends --force-script-chrootless -i "$deb"/*.deb >"
     { cat "$root/dpkg.log"; fail "dpkg could not install the packages"; }
 "$root/usr/bin/quorvel" --home "$root/home" --install-store
 [ -f "$root/home/QuorvelData.mdb" ] || fail "the installed program made no store"
+# The help pages come from beside the installed program, not from the sources.
+if [ -d share/help ]; then
+    [ -d "$root/usr/share/quorvel/help" ] || fail "the help pages are not installed"
+    [ -d "$root/home/help" ] || fail "the installed program put no help pages in its folder"
+fi
 "$root/usr/bin/quorvel-script" "$root/usr/share/doc/quorvel/examples/add-task.qvs" | tail -n 1
 libdir=$(dirname "$(find "$root/usr/lib" -name libQuorvelTask2.so)")
 # shellcheck disable=SC2046
