@@ -72,6 +72,9 @@ void buildStore(const std::string& path) {
     for (const auto& statement : storeSchema()) exec(db.get(), statement);
     insertSettings(db.get());
     exec(db.get(), "COMMIT");
+    // The journal mode belongs to the file: the store starts in WAL, so that
+    // readers and the host's writer never wait on each other.
+    exec(db.get(), "PRAGMA journal_mode=WAL");
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/ErrorPath.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
@@ -51,6 +52,8 @@ bool clsTask2::SetupTask(int32_t Mode, const std::string& taskGUID, const std::v
                          const std::string& projGUID) {
     auto& s = g();
     if (modalDepth_ == 0) exitTold_ = false;
+    // The first fault of the session is told; what it causes is not.
+    FaultSession faults;
     for (std::size_t i = 0; i < s.UStuff.size(); ++i) {
         if (i >= passUStuff.size()) throw Failure(err::SubscriptOutOfRange, "Subscript out of range");
         s.UStuff[i] = passUStuff[i];
@@ -96,6 +99,10 @@ void clsTask2::openNewTask(int32_t Mode, const std::string& taskGUID, const std:
         setCaption(*frm_, " - Create Task from Task Catalog Item");
     }
     LoadSettings();
+    if (errorPathTaken()) {  // the error path closed the dialog
+        s.SettingUp = false;
+        return;
+    }
     auto form = frm_;  // the dialog may replace frm_ while it runs
     form->SetupDetails();
     if (Mode == 0) {
@@ -126,6 +133,7 @@ void clsTask2::openExistingTask(int32_t Mode, const std::string& taskGUID) {
         setCaption(*form, " - Edit Task");
         LoadSettings();
         s.SettingUp = false;
+        if (errorPathTaken()) return;
         form->SetSize();
         form->SetupDetails();
     } else {
@@ -134,7 +142,7 @@ void clsTask2::openExistingTask(int32_t Mode, const std::string& taskGUID) {
         s.EditingExisting = true;
         setCaption(*form, " - Create Task Catalog Item");
         LoadSettings();
-        form->SetupDetails();
+        if (!errorPathTaken()) form->SetupDetails();
         s.SettingUp = false;
     }
     showModal(*form);
@@ -151,7 +159,7 @@ void clsTask2::openAppointment(const std::string& taskGUID, const std::string& T
     s.CurrentTAGUID = TAGUID;
     LoadSettings();
     setCaption(*form, " - Task Appointment");
-    form->SetupDetails();
+    if (!errorPathTaken()) form->SetupDetails();
     s.SettingUp = false;
     showModal(*form);
 }

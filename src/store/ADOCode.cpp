@@ -1,10 +1,16 @@
 #include "store/ADOCode.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "session/globals/SessionGlobals.h"
+#include "store/ErrorPath.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
@@ -34,6 +40,51 @@ std::string readWholeFile(const std::string& path) {
     std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     if (in.bad()) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
     return text;
+}
+
+[[noreturn]] void accessError(const std::string& path) {
+    throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+}
+
+// Writes text to path whole or not at all: into a file beside it, to the
+// disk, then renamed over the old one, so a crash leaves the old file or
+// the new, never an empty one.
+void replaceFile(const std::string& path, const std::string& text) {
+    const std::string part = path + ".part";
+    const int fd = ::open(part.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (fd < 0) accessError(path);
+    size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        done += static_cast<size_t>(n);
+    }
+    const bool written = done == text.size() && ::fsync(fd) == 0;
+    if (::close(fd) != 0 || !written || ::rename(part.c_str(), path.c_str()) != 0) {
+        ::unlink(part.c_str());
+        accessError(path);
+    }
+    // The rename itself reaches the disk with its folder.
+    const auto slash = path.find_last_of('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, std::max<size_t>(slash, 1));
+    const int dir = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (dir >= 0) {
+        ::fsync(dir);
+        ::close(dir);
+    }
+}
+
+// Lines ended by a bare LF read as the same lines ended by CR LF, the shape
+// the DBLoc arithmetic takes.
+std::string withCrLf(const std::string& text) {
+    std::string out;
+    out.reserve(text.size() + 8);
+    for (size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r')) out += '\r';
+        out += text[i];
+    }
+    return out;
 }
 
 // 1-based position of what in text, searching from start; 0 when absent.
@@ -82,7 +133,7 @@ bool locateStore() {
     for (;;) {
         if (retries == 2) return false;
         if (!fileExists(settingsPath())) pointAtDefaultStore();
-        path = dbLocFrom(readWholeFile(settingsPath()));
+        path = dbLocationIn(readWholeFile(settingsPath()));
         if (fileExists(path)) break;
         ++retries;
         ui().msgBox(lostStoreMessage(path), vbCritical, kProgramTitle);
@@ -106,6 +157,17 @@ bool ADOTest() {
     }
 }
 
+std::string dbLocationIn(const std::string& settingsText) {
+    return dbLocFrom(withCrLf(settingsText));
+}
+
+void locateSessionStore() {
+    if (errorPathTaken()) throw Failure(err::StoreFailure, "The session has ended on an earlier fault.");
+    if (!g().ConnString.empty() || ADOTest()) return;
+    if (g().DBLocation.empty()) throw Failure(err::StoreFailure, "The Quorvel data file could not be located.");
+    throw Failure(err::StoreFailure, "The Quorvel data file \"" + g().DBLocation + "\" is missing.");
+}
+
 void saveTheLoc() {
     writeSettingsFile(g().AppPath, g().DBLocation);
 }
@@ -121,13 +183,9 @@ std::string pathInFolder(const std::string& folder, const std::string& name) {
 }
 
 void writeSettingsFile(const std::string& folder, const std::string& dbPath) {
-    const auto path = pathInFolder(folder, kSettingsFileName);
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    if (!out) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
-    out << "<Quorvel>" << kCrLf << "<DBLoc>" << kCrLf << dbPath << kCrLf << "</DBLoc>" << kCrLf
-        << "</Quorvel>" << kCrLf;
-    out.close();
-    if (!out) throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+    replaceFile(pathInFolder(folder, kSettingsFileName), std::string("<Quorvel>") + kCrLf + "<DBLoc>" + kCrLf +
+                                                             dbPath + kCrLf + "</DBLoc>" + kCrLf + "</Quorvel>" +
+                                                             kCrLf);
 }
 
 }  // namespace qv

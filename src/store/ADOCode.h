@@ -12,6 +12,14 @@ inline constexpr const char* kSettingsFileName = "QuorvelSettings.txt";
 // Locates the store and sets ConnString, ConnStringShaped and DBLocation.
 // False after two lost passes or when the settings file can't be handled.
 bool ADOTest();
+// The store path that the text of a settings file names (lines ended by
+// CR LF or by LF alike).
+std::string dbLocationIn(const std::string& settingsText);
+// Before a data request: locates the store when ConnString is still empty.
+// Throws Failure when it can't be located, naming the file looked for, and
+// at once, without touching the store, when the error path has ended the
+// session (no further dialogue about the settings file, no wait on a lock).
+void locateSessionStore();
 // Overwrites the settings file with DBLocation.
 void saveTheLoc();
 // Forms ConnStringShaped for the store at path.

@@ -16,6 +16,7 @@ namespace {
 
 constexpr int kBusyTimeoutMs = 5000;
 constexpr size_t kMaxCachedStatements = 128;
+constexpr std::string_view kNotAStore = "is not a Quorvel data file";
 
 std::map<std::string, std::shared_ptr<Connection>>& registry() {
     static std::map<std::string, std::shared_ptr<Connection>> connections;
@@ -28,6 +29,13 @@ std::string quotedPath(const std::string& path) {
 
 [[noreturn]] void storeFailure(const std::string& message, std::string_view context) {
     throw Failure(err::StoreFailure, message + " (" + std::string(context) + ")", "Store");
+}
+
+// The one clear sentence where there is one, else the engine's words and
+// what was being done.
+[[noreturn]] void failWith(const std::string& clear, const std::string& engine, std::string_view context) {
+    if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
+    storeFailure(engine, context);
 }
 
 char lower(char c) {
@@ -48,6 +56,8 @@ struct FileFacts {
     bool exists = false;
     bool isFile = false;
     bool writable = false;
+    bool folderWritable = true;
+    int64_t size = 0;
     uint64_t dev = 0;
     uint64_t ino = 0;
     int error = 0;
@@ -63,9 +73,36 @@ FileFacts examine(const std::string& path) {
     f.exists = true;
     f.isFile = S_ISREG(st.st_mode);
     f.writable = (st.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+    f.size = static_cast<int64_t>(st.st_size);
     f.dev = static_cast<uint64_t>(st.st_dev);
     f.ino = static_cast<uint64_t>(st.st_ino);
+    // The folder holds the journal beside the file: without write permission
+    // bits on it the store can't be written (judged by the bits, so root too).
+    const auto slash = path.find_last_of('/');
+    const std::string folder = slash == std::string::npos ? "." : (slash == 0 ? "/" : path.substr(0, slash));
+    struct stat dir {};
+    if (::stat(folder.c_str(), &dir) == 0)
+        f.folderWritable = (dir.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
     return f;
+}
+
+// Text of the first column of a one-row pragma or query; empty on failure.
+std::string pragmaText(sqlite3* db, const char* sql, int* rcOut = nullptr) {
+    sqlite3_stmt* stmt = nullptr;
+    std::string out;
+    int rc = sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr);
+    if (rc == SQLITE_OK) {
+        rc = sqlite3_step(stmt);
+        if (rc == SQLITE_ROW) {
+            if (const auto* t = sqlite3_column_text(stmt, 0)) out = reinterpret_cast<const char*>(t);
+            rc = SQLITE_OK;
+        } else if (rc == SQLITE_DONE) {
+            rc = SQLITE_OK;
+        }
+    }
+    sqlite3_finalize(stmt);
+    if (rcOut) *rcOut = rc;
+    return out;
 }
 
 // Runs one statement of a fresh connection, stepping through any rows.
@@ -80,6 +117,38 @@ int runPragma(sqlite3* db, const char* sql) {
 }
 
 }  // namespace
+
+std::string storeProblem(const std::string& path, std::string_view what) {
+    return "The Quorvel data file " + quotedPath(path) + " " + std::string(what);
+}
+
+std::string describeFault(const std::string& path, int code, const std::string& engineMessage) {
+    static constexpr std::string_view kNoTable = "no such table: ";
+    static constexpr std::string_view kNoColumn = "no such column: ";
+    switch (code & 0xff) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+            return storeProblem(path, "is busy: another program has kept it locked for more than " +
+                                          std::to_string(kBusyTimeoutMs / 1000) + " seconds");
+        case SQLITE_NOTADB:
+            return storeProblem(path, kNotAStore);
+        case SQLITE_CORRUPT:
+            return storeProblem(path, "is damaged (" + engineMessage + ")");
+        case SQLITE_READONLY:
+            return storeProblem(path, "is read-only");
+        case SQLITE_FULL:
+            return storeProblem(path, "can't grow: the disk is full");
+        case SQLITE_CANTOPEN:
+            return storeProblem(path, "can't be opened (" + engineMessage + ")");
+        default:
+            break;
+    }
+    if (engineMessage.starts_with(kNoTable))
+        return storeProblem(path, "is missing the table " + engineMessage.substr(kNoTable.size()));
+    if (engineMessage.starts_with(kNoColumn))
+        return storeProblem(path, "is missing the column " + engineMessage.substr(kNoColumn.size()));
+    return {};
+}
 
 std::string pathFromConnString(const std::string& connString) {
     static constexpr std::string_view kKey = "Data Source=";
@@ -119,12 +188,18 @@ std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
     const auto found = reg.find(path);
     if (!facts.exists) {
         if (found != reg.end()) reg.erase(found);
-        storeFailure(facts.error == ENOENT
-                         ? "the store file does not exist"
-                         : std::string("the store file can't be reached: ") + std::strerror(facts.error),
-                     context);
+        throw Failure(err::StoreFailure,
+                      storeProblem(path, facts.error == ENOENT
+                                             ? "is missing"
+                                             : std::string("can't be reached: ") + std::strerror(facts.error)) +
+                          ".",
+                      "Store");
     }
-    if (!facts.isFile) storeFailure("the store path is not a file", context);
+    if (!facts.isFile) throw Failure(err::StoreFailure, storeProblem(path, "is not a file") + ".", "Store");
+    // An empty file is not a store, and must not silently become one.
+    if (facts.size == 0) throw Failure(err::StoreFailure, storeProblem(path, kNotAStore) + ".", "Store");
+    if (!facts.folderWritable)
+        throw Failure(err::StoreFailure, storeProblem(path, "is read-only: its folder can't be written") + ".", "Store");
     if (found != reg.end()) {
         const Connection& c = *found->second;
         // The same file as before, with the same permission: reuse.
@@ -145,26 +220,32 @@ std::shared_ptr<Connection> Connection::openNew(const std::string& path, uint64_
     const int flags = (readOnly ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE) | SQLITE_OPEN_NOMUTEX;
     int rc = sqlite3_open_v2(path.c_str(), &db, flags, nullptr);
     auto failOpen = [&](int code) {
-        std::string message = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+        const std::string engine = db ? sqlite3_errmsg(db) : sqlite3_errstr(code);
+        const std::string clear = describeFault(path, db ? sqlite3_extended_errcode(db) : code, engine);
         if (db) sqlite3_close_v2(db);
-        storeFailure(message, context);
+        failWith(clear, engine, context);
     };
     if (rc != SQLITE_OK) failOpen(rc);
-    sqlite3_extended_result_codes(db, 1);
+    // Before any other statement: every lock met from here on is waited for.
     sqlite3_busy_timeout(db, kBusyTimeoutMs);
-    // Reads the header: a file that is no database fails here, before anything is written.
-    rc = runPragma(db, "PRAGMA schema_version");
+    sqlite3_extended_result_codes(db, 1);
+    // Reads the header and the tables: a file that is no store fails here,
+    // before anything is written.
+    const std::string tables = pragmaText(db, "SELECT count(*) FROM sqlite_master WHERE type='table'", &rc);
     if (rc != SQLITE_OK) failOpen(rc);
-    if (!readOnly && !sqlite3_db_readonly(db, "main")) {
-        rc = runPragma(db, "PRAGMA journal_mode=WAL");
-        if (rc != SQLITE_OK && (rc & 0xff) != SQLITE_READONLY) failOpen(rc);
+    if (tables == "0") {
+        sqlite3_close_v2(db);
+        throw Failure(err::StoreFailure, storeProblem(path, kNotAStore) + ".", "Store");
     }
-    // WAL's own recommendation: a commit survives a crash of the program; only the
-    // checkpoints wait for the disk.
-    if (!readOnly) runPragma(db, "PRAGMA synchronous=NORMAL");
+    const bool ro = readOnly || sqlite3_db_readonly(db, "main") == 1;
+    // The journal mode belongs to the file: set once, when a store older than
+    // WAL is first opened. A store that is busy right now stays as it is and
+    // is upgraded at a later open; its own journal serves meanwhile.
+    if (!ro && pragmaText(db, "PRAGMA journal_mode") != "wal") runPragma(db, "PRAGMA journal_mode=WAL");
+    // FULL: a commit is on the disk before the save is acknowledged.
+    runPragma(db, "PRAGMA synchronous=FULL");
     rc = runPragma(db, "PRAGMA foreign_keys=OFF");
     if (rc != SQLITE_OK) failOpen(rc);
-    const bool ro = readOnly || sqlite3_db_readonly(db, "main") == 1;
     return std::shared_ptr<Connection>(new Connection(path, db, ro, dev, ino));
 }
 
@@ -268,10 +349,8 @@ void Connection::exec(const char* sql, std::string_view context) {
 }
 
 void Connection::fail(std::string_view context) const {
-    std::string message = sqlite3_errmsg(db_);
-    const int code = sqlite3_extended_errcode(db_) & 0xff;
-    if (code == SQLITE_READONLY && readOnly_) message += ": the store file is read-only";
-    storeFailure(message, context);
+    const std::string engine = sqlite3_errmsg(db_);
+    failWith(describeFault(path_, sqlite3_extended_errcode(db_), engine), engine, context);
 }
 
 std::string Connection::where(std::string_view what) const {

@@ -1,12 +1,14 @@
 #pragma once
 // One SQLite connection per store file, shared by every Recordset that opens
 // the same ConnString and kept open for the life of the process (or until
-// released). WAL journal with synchronous=NORMAL, a busy timeout of 5 s,
-// foreign keys off. A missing file is never created; a file that is no
-// database or can't be opened gives Failure(err::StoreFailure) naming the
-// file. A file whose write permission bits are all off is opened read-only
-// (as the platform's read-only file attribute), so writes to it fail with a
-// clear description.
+// released). The busy timeout of 5 s comes first, so every lock is waited
+// for; WAL journal (switched once, when an older store is first opened),
+// synchronous=FULL, foreign keys off. A missing or empty file is never
+// created or turned into a store; a file that is no store, is busy, or lacks
+// a table gives Failure(err::StoreFailure) with one sentence naming the file
+// ("The Quorvel data file "..." is not a Quorvel data file"). A file whose
+// write permission bits are all off is opened read-only (as the platform's
+// read-only file attribute), so writes to it fail as "... is read-only".
 
 #include <sqlite3.h>
 
@@ -23,6 +25,12 @@ namespace qv {
 // after "Data Source=" up to the final ";". The path stands as it was put in
 // (blanks and ";" included). Empty when no data source is named.
 std::string pathFromConnString(const std::string& connString);
+
+// "The Quorvel data file "<path>" <what>".
+std::string storeProblem(const std::string& path, std::string_view what);
+// The one sentence for an engine fault on the store at path: busy, not a
+// store, read-only, a table or column missing; empty for any other fault.
+std::string describeFault(const std::string& path, int code, const std::string& engineMessage);
 
 class Connection {
 public:
@@ -68,6 +76,9 @@ public:
     // Runs a text that returns no rows.
     void exec(const char* sql, std::string_view context);
 
+    // A fresh number for a savepoint name on this connection.
+    [[nodiscard]] uint64_t nextSavepoint() { return ++savepoints_; }
+
     // Throws the failure of the connection's last error.
     [[noreturn]] void fail(std::string_view context) const;
     // "... in the store file "<path>"": a context naming the file.
@@ -91,6 +102,7 @@ private:
     uint64_t dev_ = 0;
     uint64_t ino_ = 0;
     uint64_t tick_ = 0;
+    uint64_t savepoints_ = 0;
     std::unordered_map<std::string, std::unique_ptr<Entry>> cache_;
 };
 

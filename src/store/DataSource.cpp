@@ -54,8 +54,7 @@ bool DataSource::openSet(const char* procedure, const std::string& sql, const Op
 }
 
 RecordsetPtr DataSource::makeSet(const std::string& sql, const OpenParams& params) {
-    // The store is located at the first data request of a session.
-    if (g().ConnString.empty()) ADOTest();
+    locateSessionStore();
     rs_ = std::make_shared<Recordset>();
     rs_->CursorLocation = adUseClient;
     rs_->CursorType = params.cursor;

@@ -5,6 +5,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ConsoleReporter.h"
+#include "store/SaveTransaction.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"
 #include "toolkit/Ports.h"
@@ -41,6 +42,17 @@ Described describeCurrent() {
     }
 }
 
+struct PathState {
+    int sessions = 0;     // FaultSessions alive
+    bool running = false; // inside ReportError
+    bool ended = false;   // the path ran in this session
+};
+
+PathState& state() {
+    static PathState s;
+    return s;
+}
+
 Reporter& reporter() {
     static ConsoleReporter fallback;
     return ports().reporter ? *ports().reporter : fallback;
@@ -69,9 +81,24 @@ void unloadAllForms() {
 
 }  // namespace
 
+FaultSession::FaultSession() {
+    if (state().sessions++ == 0) state().ended = false;
+}
+
+FaultSession::~FaultSession() {
+    if (--state().sessions == 0) state().ended = false;
+}
+
+bool errorPathTaken() { return state().running || state().ended; }
+
 void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
                  const std::string& description, int32_t number, int32_t line,
                  const std::array<std::string, 6>& UStuff) {
+    auto& path = state();
+    if (errorPathTaken()) return;  // a consequence of the fault already told
+    path.running = true;
+    // Open saves end first: no lock is held while the user reads the report.
+    SaveTransaction::settleAll();
     FaultReport fault{project, module, procedure, description, number, line, UStuff, profileForReport()};
     try {
         reporter().report(fault);
@@ -79,6 +106,8 @@ void ReportError(const std::string& project, const std::string& module, const st
         // A reporter that fails must not stop the forms from closing.
     }
     unloadAllForms();
+    path.running = false;
+    if (path.sessions > 0) path.ended = true;
 }
 
 void reportCurrentFailure(const char* module, const char* procedure) noexcept {

@@ -12,7 +12,10 @@
 
 namespace qv {
 
-// Tells the reporter of the fault, then unloads every open form.
+// Tells the reporter of the fault, then unloads every open form. The path
+// is never re-entered: a fault raised while it runs (an unload saving its
+// settings on a broken store) is dropped, and so is every later fault of
+// the same session, which the first one caused: one report, not a storm.
 QV_EXPORT void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
                  const std::string& description, int32_t number, int32_t line,
                  const std::array<std::string, 6>& UStuff);
@@ -20,6 +23,21 @@ QV_EXPORT void ReportError(const std::string& project, const std::string& module
 // Reports the exception in flight as a fault of module.procedure. Call it
 // only from a catch block.
 QV_EXPORT void reportCurrentFailure(const char* module, const char* procedure) noexcept;
+
+// A host session (the outermost SetupTask) while the object lives: the
+// first fault of the session is reported, those after it are dropped.
+class FaultSession {
+public:
+    FaultSession();
+    ~FaultSession();
+    FaultSession(const FaultSession&) = delete;
+    FaultSession& operator=(const FaultSession&) = delete;
+};
+
+// True while the error path runs, and for the rest of a session it ended:
+// the store is not touched again then (no settings file dialogue, no waits
+// on a busy store), and faults go unreported.
+bool errorPathTaken();
 
 // Runs body under the trap. A failure is reported and the procedure's
 // default result comes back: false, 0, empty. A body without a result

@@ -1,8 +1,10 @@
 #include "toolkit/Form.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "toolkit/Ports.h"
+#include "toolkit/Timer.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
@@ -53,12 +55,10 @@ void Form::setVisible(bool v) {
 }
 
 void Form::unload() {
-    if (!loaded_) return;
-    // Keep this object alive for the rest of the caller's handler.
-    if (auto self = weak_from_this().lock()) deferRelease(self);
-    Form_Unload();
-    hide();
-    loaded_ = false;
+    if (!loaded_ || unloading_) return;
+    // Out of the open forms first: a fault in the unload logic that takes
+    // the error path does not unload this form a second time.
+    unloading_ = true;
     auto& forms = registry();
     forms.erase(std::remove_if(forms.begin(), forms.end(),
                                [this](const std::weak_ptr<Form>& w) {
@@ -66,7 +66,29 @@ void Form::unload() {
                                    return !f || f.get() == this;
                                }),
                 forms.end());
+    // Keep this object alive for the rest of the caller's handler.
+    if (auto self = weak_from_this().lock()) deferRelease(self);
+    stopTimers();
+    std::exception_ptr fault;
+    try {
+        Form_Unload();
+    } catch (...) {
+        fault = std::current_exception();
+    }
+    stopTimers();  // the unload logic may have started one
+    try {
+        hide();
+    } catch (...) {
+        if (!fault) fault = std::current_exception();
+    }
+    loaded_ = false;
+    unloading_ = false;
     Unloaded();
+    if (fault) std::rethrow_exception(fault);
+}
+
+void Form::stopTimers() {
+    for (auto& [name, timer] : timers_) timer->setEnabled(false);
 }
 
 void Form::requestClose() {

@@ -45,8 +45,10 @@ public:
     // Modal show: returns when the form is hidden or unloaded.
     void showModal(Form* owner = nullptr);
     void hide();
-    // Runs the unload logic, hides, and takes the form out of the open
-    // forms. The object itself lives on while anyone holds it.
+    // Takes the form out of the open forms, stops its timers, runs the
+    // unload logic and hides, even when that logic fails (the failure is
+    // passed on after). A second unload while one runs does nothing. The
+    // object itself lives on while anyone holds it.
     void unload();
     // The user closes the window: QueryUnload may cancel, else unload.
     void requestClose();
@@ -110,11 +112,13 @@ private:
     }
 
     void setVisible(bool v);
+    void stopTimers();
 
     std::string name_;
     std::string caption_;
     bool visible_ = false;
     bool loaded_ = false;
+    bool unloading_ = false;
     Form* owner_ = nullptr;
     Geometry geometry_;
     std::map<std::string, Sheet*> sheets_;

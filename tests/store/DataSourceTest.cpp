@@ -62,7 +62,7 @@ TEST_F(NotAStore, OpeningAFileThatIsNoStoreGoesDownTheErrorPath) {
     EXPECT_EQ(fault.project, "QuorvelTask2");
     EXPECT_EQ(fault.module, "clsSettings");
     EXPECT_EQ(fault.procedure, "GetData");
-    EXPECT_NE(fault.description.find("not a database"), std::string::npos) << fault.description;
+    EXPECT_NE(fault.description.find("is not a Quorvel data file"), std::string::npos) << fault.description;
     EXPECT_NE(fault.description.find(storePath()), std::string::npos) << fault.description;
     EXPECT_EQ(fault.number, err::StoreFailure);
     EXPECT_EQ(exits, 1);

@@ -475,7 +475,7 @@ TEST_F(RecordsetTest, AFileThatIsNoDatabaseFailsClearly) {
     }
     const Failure f = failureOf([&] { open("SELECT * from TASKS"); });
     EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("not a database"), std::string::npos) << f.description();
+    EXPECT_NE(f.description().find("is not a Quorvel data file"), std::string::npos) << f.description();
     EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
     EXPECT_EQ(fileBytes(path_), junk);
     EXPECT_FALSE(fs::exists(path_ + "-wal"));
@@ -542,7 +542,7 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     // A query the store can't run fails with the store's words and the query.
     const Failure bad = failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); });
     EXPECT_EQ(bad.number(), err::StoreFailure);
-    EXPECT_NE(bad.description().find("no such table: NOSUCH"), std::string::npos) << bad.description();
+    EXPECT_NE(bad.description().find("is missing the table NOSUCH"), std::string::npos) << bad.description();
     EXPECT_EQ(rs.State(), adStateClosed);
 }
 

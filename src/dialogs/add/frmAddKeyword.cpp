@@ -1,6 +1,7 @@
 #include "dialogs/add/frmAddKeyword.h"
 
 #include "store/ErrorPath.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewKeyword.h"
 #include "values/CCreateGuid.h"
 
@@ -77,6 +78,7 @@ std::optional<bool> frmAddKeyword::keywordExists() const {
 bool frmAddKeyword::createNewKeyword() {
     return trap(kModule, "createNewKeyword", [&] {
         const std::string key = CCreateGuid::guid();
+        SaveTransaction save;
         clsNewKeyword source;
         source.SetSQL("SELECT * From Keywords ORDER BY Keywords.keySubject");
         RecordsetPtr rs;
@@ -86,6 +88,7 @@ bool frmAddKeyword::createNewKeyword() {
         rs->Fields("keyKeyword") = trimSpaces(field("KEYWORD").text());
         rs->Fields("keyGUIDID") = key;
         rs->UpdateBatch(adAffectAllChapters);
+        save.commit();
         return true;
     });
 }

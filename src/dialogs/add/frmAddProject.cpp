@@ -4,6 +4,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewProject.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -98,6 +99,7 @@ std::optional<bool> frmAddProject::nameIsTaken() const {
 bool frmAddProject::createNewProject() {
     return trap(kModule, "createNewProject", [&] {
         const std::string key = CCreateGuid::guid();
+        SaveTransaction save;
         clsNewProject source;
         source.SetSQL(kProjectsQuery);
         RecordsetPtr rs;
@@ -111,6 +113,7 @@ bool frmAddProject::createNewProject() {
         rs->Update();
         rs->UpdateBatch(adAffectAllChapters);
         if (rs->State() == adStateOpen) rs->Close();
+        save.commit();
         return true;
     });
 }

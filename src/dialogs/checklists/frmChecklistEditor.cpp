@@ -2,6 +2,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "store/SaveTransaction.h"
 #include "store/clsCheckLists.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
@@ -74,6 +75,7 @@ bool frmChecklistEditor::save() {
         return false;
     }
     const std::string key = isNew() ? CCreateGuid::guid() : key_;
+    SaveTransaction save;
     clsCheckLists source;
     source.SetSQL(rowQuery(key));
     RecordsetPtr rs;
@@ -88,6 +90,7 @@ bool frmChecklistEditor::save() {
     rs->Update();
     rs->UpdateBatch(adAffectAllChapters);
     rs->Close();
+    save.commit();
     const bool wasNew = isNew();
     unload();
     if (wasNew)

@@ -7,6 +7,7 @@
 #include "dialogs/shared/KeywordSheet.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/SaveTransaction.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -40,7 +41,7 @@ void resetEditor(TextEditor& editor, const std::string& text, double size) {
 
 bool NewTaskSaver::SaveTask() {
     if (!f_.ValidateTask()) return false;
-    if (!writeTask() || !writeKeywords()) return false;
+    if (!writeTaskAndKeywords()) return false;
     g().SettingUp = true;
     showBanner();
     resetForNext();
@@ -48,6 +49,18 @@ bool NewTaskSaver::SaveTask() {
     f_.ValidateTask();
     subDelay(kBannerSeconds);
     f_.controls().lblTaskSaved.setVisible(false);
+    return true;
+}
+
+// One save: the task row with its keyword rows, committed before the caller
+// tells the host. A failure among the keyword rows leaves the task row
+// without them (and takes the error path); a killed process leaves neither.
+bool NewTaskSaver::writeTaskAndKeywords() {
+    SaveTransaction save;
+    if (!writeTask()) return false;
+    save.keepSoFar();
+    if (!writeKeywords()) return false;
+    save.commit();
     return true;
 }
 
@@ -103,7 +116,6 @@ void NewTaskSaver::writeChecklistLink(Recordset& rs, bool catalog) {
     if (mode == 1) rs.Fields("tskHasChecklist") = Value(true);
 }
 
-// No transaction joins this to the task row: a failure here leaves the row.
 bool NewTaskSaver::writeKeywords() {
     clsNewTask links;
     RecordsetPtr rs;

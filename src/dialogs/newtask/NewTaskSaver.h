@@ -15,6 +15,7 @@ public:
     bool SaveTask();
 
 private:
+    bool writeTaskAndKeywords();
     bool writeTask();
     void writeColumns(Recordset& rs);
     void writeChecklistLink(Recordset& rs, bool catalog);
