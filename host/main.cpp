@@ -6,11 +6,14 @@
 #include <iostream>
 
 #include <QApplication>
+#include <QTimer>
 
 #include "app/AppFolder.h"
+#include "help/HelpTopics.h"
 #include "installer/StoreInstaller.h"
 #include "view/DemoDriver.h"
 #include "view/HostApp.h"
+#include "view/HostTour.h"
 #include "view/HostWindow.h"
 
 namespace {
@@ -66,5 +69,7 @@ int main(int argc, char** argv) {
     qv::HostApp host(opts.home, !demonstrate);
     if (demonstrate) return runDemonstration(host);
     host.window().show();
+    if (host.tour().showTourAtStart())
+        QTimer::singleShot(0, &host.window(), [&host] { host.window().openHelp(qv::kTourTopic); });
     return QApplication::exec();
 }

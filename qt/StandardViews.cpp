@@ -1,6 +1,8 @@
 #include "StandardViews.h"
 
+#include "HelpView.h"
 #include "NewTaskView.h"
+#include "PageSetupView.h"
 #include "StackedView.h"
 
 namespace qv {
@@ -38,10 +40,12 @@ void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*r
 ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);
     addStacked(f, "frmChecklistEditor", checklistEditor);
+    f.add("frmPopHelp", [](Form& form) -> FormView* { return new HelpView(form); });
     return f;
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "installer/DefaultSettings.h"
+#include "installer/HelpPages.h"
 #include "installer/StoreSchema.h"
 #include "store/ADOCode.h"
 #include "toolkit/Failure.h"
@@ -103,10 +104,16 @@ void installSettingsFile(const std::string& folder) {
     writeSettingsFile(folder, pathInFolder(folder, kStoreFileName));
 }
 
+void installReportsFolder(const std::string& folder) {
+    std::filesystem::create_directories(std::filesystem::path(folder) / "Quorvel Reports");
+}
+
 bool installApplicationFolder(const std::string& folder) {
     std::filesystem::create_directories(folder);
+    installReportsFolder(folder);
     const bool made = installStore(folder);
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
+    installHelpPages(folder, helpPagesSource());
     return made;
 }
 

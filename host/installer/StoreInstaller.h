@@ -14,9 +14,13 @@ bool installStore(const std::string& folder);
 // Writes QuorvelSettings.txt in folder, pointing at the store there.
 void installSettingsFile(const std::string& folder);
 
-// A program's folder ready on first run: the folder, a fresh store, and a
-// settings file pointing at it when the store is new or the file is missing.
-// An existing store is left untouched. True when a store was made.
+// The folder the task reports are written to, "Quorvel Reports".
+void installReportsFolder(const std::string& folder);
+
+// A program's folder ready on first run: the folder, its reports folder, a
+// fresh store, a settings file pointing at it when the store is new or the
+// file is missing, and the help pages it lacks. An existing store is left
+// untouched. True when a store was made.
 bool installApplicationFolder(const std::string& folder);
 
 }  // namespace qv

@@ -1,12 +1,18 @@
 #include "script/ScriptRunner.h"
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <stdexcept>
 
 #include "installer/StoreFile.h"
+#include "installer/HelpPages.h"
 #include "installer/StoreInstaller.h"
+#include "reports/PrintSettings.h"
+#include "script/PdfPages.h"
+#include "script/ScriptHelp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/FakeClock.h"
@@ -100,11 +106,13 @@ ScriptRunner::ScriptRunner(std::ostream& out) : out_(out) {
     ports().ui = ui_.get();
     ports().clock = clock_.get();
     ports().reporter = reporter_.get();
+    help_ = std::make_unique<ScriptHelp>(out_);
 }
 
 ScriptRunner::~ScriptRunner() {
     task_.reset();
     releaseDeferred();
+    help_.reset();
     ports().ui = nullptr;
     ports().clock = nullptr;
     ports().reporter = nullptr;
@@ -168,6 +176,8 @@ void ScriptRunner::ensureStore() {
     ownsFolder_ = true;
     installStore(folder_);
     installSettingsFile(folder_);
+    installReportsFolder(folder_);
+    installHelpPages(folder_, helpPagesSource());
     g().AppPath = folder_;
 }
 
@@ -212,9 +222,11 @@ void ScriptRunner::cmdSetup(const ScriptLine& l) {
         args[lower(w.substr(0, eq))] = w.substr(eq + 1);
     }
     const std::vector<std::string> ustuff{"1", "Script User", "", "", "", ""};
-    task().SetupTask(static_cast<int32_t>(toLong(l.word(1))), args["task"], ustuff,
-                     args.count("dialog") ? static_cast<int32_t>(toLong(args["dialog"])) : 0,
-                     args["print"], args["ta"], args["project"]);
+    const int32_t dialog = args.count("dialog") ? static_cast<int32_t>(toLong(args["dialog"])) : 0;
+    // Without print= the dialog gets the whole default string a host would give.
+    const std::string print = args.count("print") ? args["print"] : PrintSettings::defaults(dialog);
+    task().SetupTask(static_cast<int32_t>(toLong(l.word(1))), args["task"], ustuff, dialog, print, args["ta"],
+                     args["project"]);
 }
 
 Form& ScriptRunner::activeForm() const {
@@ -287,7 +299,14 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "form") return expectForm(l);
     if (what == "checked") return expectChecked(l);
     if (what == "editor") return expectEditor(l);
-    throw std::invalid_argument("expect event, no-event, message, tool, checked, editor, row, rows or form");
+    if (what == "help") return expectHelp(l, false);
+    if (what == "help-page") return expectHelp(l, true);
+    if (what == "report") return expectReport(l, true);
+    if (what == "no-report") return expectReport(l, false);
+    if (what == "pdfpages") return expectPdfPages(l);
+    throw std::invalid_argument(
+        "expect event, no-event, message, tool, checked, editor, row, rows, form, help, help-page, report, no-report or "
+        "pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -371,6 +390,40 @@ void ScriptRunner::expectForm(const ScriptLine& l) {
     }
     if (shown == l.word(2)) return pass();
     fail(l, "the dialog shown is " + shown + ", not " + l.word(2));
+}
+
+// expect help TOPIC TITLE: the help pop-up shows the topic under the title.
+// expect help-page FILE: its pane shows the page ("" for an empty pane).
+void ScriptRunner::expectHelp(const ScriptLine& l, bool page) {
+    const std::string why = page ? help_->checkPage(l.word(2)) : help_->checkTopic(toLong(l.word(2)), l.word(3));
+    if (why.empty()) return pass();
+    fail(l, why);
+}
+
+// expect report FILE TEXT: the report file written under "Quorvel Reports/" holds TEXT.
+// expect no-report FILE: no such report file was written.
+void ScriptRunner::expectReport(const ScriptLine& l, bool present) {
+    std::ifstream in(reportPath(l.word(2)), std::ios::binary);
+    if (!present) {
+        if (!in) return pass();
+        return fail(l, "the report " + l.word(2) + " was written");
+    }
+    if (!in) return fail(l, "no report " + l.word(2));
+    const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    if (text.find(l.word(3)) != std::string::npos) return pass();
+    fail(l, "the report " + l.word(2) + " does not hold \"" + l.word(3) + "\"");
+}
+
+// expect pdfpages FILE N: the PDF printed beside the report has N pages.
+void ScriptRunner::expectPdfPages(const ScriptLine& l) {
+    const int pages = pdfPageCount(reportPath(l.word(2)));
+    if (pages < 0) return fail(l, "no PDF " + l.word(2));
+    if (std::to_string(pages) == l.word(3)) return pass();
+    fail(l, l.word(2) + " has " + std::to_string(pages) + " pages, not " + l.word(3));
+}
+
+std::string ScriptRunner::reportPath(const std::string& file) const {
+    return (std::filesystem::path(folder_) / "Quorvel Reports" / file).string();
 }
 
 std::string ScriptRunner::queryOne(const std::string& sql) const {

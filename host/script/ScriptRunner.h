@@ -20,6 +20,7 @@ class Reporter;
 class Form;
 class Sheet;
 class Tool;
+class ScriptHelp;
 
 class ScriptRunner {
 public:
@@ -62,6 +63,9 @@ private:
     void expectForm(const ScriptLine& l);
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
+    void expectHelp(const ScriptLine& l, bool page);
+    void expectReport(const ScriptLine& l, bool present);
+    void expectPdfPages(const ScriptLine& l);
 
     void ensureStore();
     clsTask2& task();
@@ -69,11 +73,13 @@ private:
     Tool& toolOf(Form& form, const std::string& target, Sheet** sheet) const;
     [[nodiscard]] std::string queryOne(const std::string& sql) const;
     [[nodiscard]] std::string storePath() const;
+    [[nodiscard]] std::string reportPath(const std::string& file) const;
 
     std::ostream& out_;
     std::unique_ptr<ScriptedUi> ui_;
     std::unique_ptr<FakeClock> clock_;
     std::shared_ptr<Reporter> reporter_;
+    std::unique_ptr<ScriptHelp> help_;
     std::unique_ptr<clsTask2> task_;
     std::string folder_;
     bool ownsFolder_ = false;

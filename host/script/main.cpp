@@ -7,6 +7,9 @@
 #include <vector>
 
 #include "script/ScriptRunner.h"
+#ifdef QV_SCRIPT_PRINTING
+#include "script/ScriptPrinting.h"
+#endif
 
 int main(int argc, char** argv) {
     if (argc != 2) {
@@ -26,5 +29,8 @@ int main(int argc, char** argv) {
     std::vector<std::string> lines;
     for (std::string line; std::getline(in, line);) lines.push_back(line);
     qv::ScriptRunner runner(std::cout);
+#ifdef QV_SCRIPT_PRINTING
+    qv::ScriptPrinting printing;
+#endif
     return runner.run(lines) == 0 ? 0 : 1;
 }

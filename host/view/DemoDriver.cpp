@@ -4,9 +4,13 @@
 #include <QApplication>
 #include <QDateEdit>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QAction>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPixmap>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -19,6 +23,7 @@ namespace qv {
 
 namespace {
 const QString kNewTask = "frmTask3";
+const QString kHelp = "frmPopHelp";
 bool closed(const QString& form) { return !StepRunner::formWindow(form); }
 // After a save, and the banner's wait, the close tool reads "D&one" again.
 bool saved() {
@@ -26,6 +31,15 @@ bool saved() {
     auto* done = w ? w->findChild<ToolCell*>("smtActions.DONE") : nullptr;
     auto* b = done ? qobject_cast<QAbstractButton*>(done->control()) : nullptr;
     return b && b->text() == "D&one";
+}
+// Chooses an entry of a tool-bar menu of the New Task window ("PRINT").
+void chooseMenuEntry(const QString& key) {
+    if (QWidget* w = StepRunner::formWindow(kNewTask))
+        if (auto* action = w->findChild<QAction*>(key)) action->trigger();
+}
+QWidget* preview() {
+    QWidget* w = QApplication::activeModalWidget();
+    return w && w->objectName() == "printPreview" ? w : nullptr;
 }
 }  // namespace
 
@@ -40,8 +54,11 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
     steps_.then("host", [this] { shoot(&app_.window(), "host", allSizes_); });
     planNewTask();
     planSubDialogs();
+    planPrinting();
+    planFiling();
     planFromCatalog();
     steps_.when("host after", [] { return closed(kNewTask); }, [this] { shoot(&app_.window(), "host-after", false); });
+    planHostHelp();
     steps_.onFinished([] {
         StepRunner::closeAll();
         QTimer::singleShot(0, qApp, [] { QApplication::exit(0); });
@@ -60,6 +77,56 @@ void DemoDriver::planNewTask() {
             if (auto* edit = cell->findChild<QLineEdit*>()) StepRunner::typeInto(edit, "17:00");
     });
     shootWhenShown(kNewTask, "new-task-filled", allSizes_);
+    planHelp(kNewTask, "smtActions.HELP", "help-new-task", true);
+}
+
+// Presses a dialog's help tool and saves the help window over the dialog;
+// with printing, also the print preview of the page and a print (a PDF
+// where no printer is installed).
+void DemoDriver::planHelp(const QString& form, const QString& helpCell, const QString& name, bool printing) {
+    steps_.when("help of " + name, [form] { return StepRunner::formWindow(form) != nullptr; },
+                [form, helpCell] { StepRunner::clickTool(form, helpCell); });
+    steps_.when(name, [] { return StepRunner::formWindow(kHelp) != nullptr; },
+                [this, form, name] { shootOver(StepRunner::formWindow(kHelp), StepRunner::formWindow(form), name); }, 400);
+    if (printing) {
+        steps_.then("preview " + name, [] { StepRunner::clickTool(kHelp, "smtAction.PRINTPREVIEW"); });
+        steps_.when("preview of " + name, [] { return previewWindow() != nullptr; },
+                    [this, name] {
+                        QWidget* w = previewWindow();
+                        shoot(w, name + "-preview", false);
+                        w->close();
+                    },
+                    600);
+        steps_.when("print " + name, [] { return previewWindow() == nullptr; },
+                    [] { StepRunner::clickTool(kHelp, "smtAction.PRINT"); });
+    }
+    steps_.then("close " + name, [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
+    steps_.when(name + " closed", [] { return closed(kHelp); }, [] {}, 100);
+}
+
+QWidget* DemoDriver::previewWindow() {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == "printPreview" && w->isVisible()) return w;
+    return nullptr;
+}
+
+// The help window drawn where it stands over the windows beneath it (the
+// host, the New Task, the dialog that asked), in one picture.
+void DemoDriver::shootOver(QWidget* top, QWidget* under, const QString& name) {
+    if (!top) return;
+    QList<QWidget*> stack;
+    for (QWidget* w : {static_cast<QWidget*>(&app_.window()), StepRunner::formWindow(kNewTask), under, top})
+        if (w && w->isVisible() && !stack.contains(w)) stack << w;
+    QApplication::processEvents();
+    QRect all;
+    for (QWidget* w : stack) all = all.united(w->geometry());
+    QPixmap picture(all.size());
+    picture.fill(QColor(96, 96, 96));
+    QPainter p(&picture);
+    for (QWidget* w : stack) p.drawPixmap(w->geometry().topLeft() - all.topLeft(), w->grab());
+    p.end();
+    const QString path = QDir(dir_).filePath(name + ".png");
+    if (picture.save(path)) shots_ << path;
 }
 
 void DemoDriver::planSubDialogs() {
@@ -70,10 +137,37 @@ void DemoDriver::planSubDialogs() {
             if (auto* c = w->findChild<ToolCell*>(cell))
                 if (auto* edit = c->findChild<QLineEdit*>()) StepRunner::typeInto(edit, text);
         StepRunner::clickTool("frmAddProject", "smtAction.OK");
-    });
-    openAndShoot("smtKeywords.kNEWKEYWORD", "frmAddKeyword", "add-keyword");
+    }, "smtAction.HELP");
+    openAndShoot("smtKeywords.kNEWKEYWORD", "frmAddKeyword", "add-keyword", {}, "smtAction.HELP");
     openAndShoot("smtCKActions.PICK", "frmCkPicker", "checklist-picker");
     openAndShoot("smtCKActions.NEW", "frmChecklistEditor", "checklist-editor");
+}
+
+// Page Setup, then a preview and a print of the report (a PDF where no
+// printer is installed); the questions are answered Yes.
+void DemoDriver::planPrinting() {
+    steps_.when("open page setup", [] { return StepRunner::formWindow(kNewTask) != nullptr; },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PAGESETUP"); }); });
+    shootWhenShown("frmPageSetup", "page-setup", allSizes_);
+    planHelp("frmPageSetup", "smtActions.HELP", "help-page-setup", false);
+    steps_.then("save page setup", [] { StepRunner::clickTool("frmPageSetup", "smtActions.OK"); });
+    steps_.when("open the preview", [] { return closed("frmPageSetup"); },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PRINTPREVIEW"); }); });
+    steps_.when("print-preview", [] { return preview() != nullptr; },
+                [this] {
+                    QWidget* w = preview();
+                    w->resize(1000, 760);
+                    shoot(w, "print-preview", false);
+                    w->close();
+                },
+                800);
+    steps_.when("print", [] { return !preview() && StepRunner::formWindow(kNewTask) != nullptr; },
+                [] { QTimer::singleShot(0, [] { chooseMenuEntry("PRINT"); }); });
+    steps_.when("printed", [this] { return QFile::exists(QString::fromStdString(app_.folder()) + "/Quorvel Reports/NewTask.pdf"); },
+                [] {});
+}
+
+void DemoDriver::planFiling() {
     shootWhenShown(kNewTask, "new-task-before-filing", false, 100);
     steps_.then("file in the Task Catalog", [] { StepRunner::clickTool(kNewTask, "smtActions.TC"); });
     steps_.when("close New Task", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
@@ -91,6 +185,19 @@ void DemoDriver::planFromCatalog() {
     steps_.when("close New Task again", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
 }
 
+// The host's own help commands: the index, then the tour with its tool.
+void DemoDriver::planHostHelp() {
+    steps_.then("open the help index", [this] { app_.window().openHelp(5000); });
+    steps_.when("help-index", [] { return StepRunner::formWindow(kHelp) != nullptr; },
+                [this] { shootOver(StepRunner::formWindow(kHelp), &app_.window(), "help-index"); }, 400);
+    steps_.then("close the help index", [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
+    steps_.when("open the tour", [] { return closed(kHelp); }, [this] { app_.window().openHelp(7000); }, 100);
+    steps_.when("help-tour", [] { return StepRunner::formWindow(kHelp) != nullptr; },
+                [this] { shootOver(StepRunner::formWindow(kHelp), &app_.window(), "help-tour"); }, 400);
+    steps_.then("close the tour", [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
+    steps_.when("tour closed", [] { return closed(kHelp); }, [] {}, 100);
+}
+
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {
     steps_.when(
         name, [form] { return StepRunner::formWindow(form) != nullptr; },
@@ -101,17 +208,19 @@ void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool s
 }
 
 void DemoDriver::openAndShoot(const QString& cell, const QString& form, const QString& name,
-                              std::function<void(QWidget*)> use) {
+                              std::function<void(QWidget*)> use, const QString& helpCell) {
     steps_.when("open " + name, [] { return StepRunner::formWindow(kNewTask) != nullptr; },
                 [cell] { StepRunner::clickTool(kNewTask, cell); });
     steps_.when(name, [form] { return StepRunner::formWindow(form) != nullptr; },
-                [this, form, name, use] {
-                    if (QWidget* w = StepRunner::formWindow(form)) {
-                        shoot(w, name, allSizes_);
-                        if (use) use(w);
-                    }
+                [this, form, name] {
+                    if (QWidget* w = StepRunner::formWindow(form)) shoot(w, name, allSizes_);
                 },
                 300);
+    if (!helpCell.isEmpty()) planHelp(form, helpCell, "help-" + name, false);
+    if (use)
+        steps_.when("use " + name, [form] { return StepRunner::formWindow(form) != nullptr; }, [form, use] {
+            if (QWidget* w = StepRunner::formWindow(form)) use(w);
+        });
     steps_.then("close " + name, [form] {
         if (QWidget* w = StepRunner::formWindow(form)) w->close();
     });

@@ -1,8 +1,11 @@
 #pragma once
 // A short demonstration that runs by itself: it opens a New Task, fills it
 // with a past deadline and files it in the Task Catalog, opens Add
-// Project, Add Keyword, the checklist picker and editor, creates a task from the
-// catalog item (its past deadline red) and adds it. Every window it meets
+// Project, Add Keyword, the checklist picker and editor, Page Setup, the
+// print preview and a print, creates a task from the catalog item (its past
+// deadline red) and adds it; on the way it opens each dialog's help,
+// previews and prints a help page, and shows the help index and the tour
+// from the host. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
 
@@ -31,11 +34,17 @@ public:
 private:
     void planNewTask();
     void planSubDialogs();
+    void planPrinting();
+    void planFiling();
     void planFromCatalog();
+    void planHelp(const QString& form, const QString& helpCell, const QString& name, bool printing);
+    void planHostHelp();
+    [[nodiscard]] static QWidget* previewWindow();
+    void shootOver(QWidget* top, QWidget* under, const QString& name);
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
     void openAndShoot(const QString& cell, const QString& form, const QString& name,
-                      std::function<void(QWidget*)> use = {});
+                      std::function<void(QWidget*)> use = {}, const QString& helpCell = {});
     void shoot(QWidget* w, const QString& name, bool sizes);
     void saveGrab(QWidget* w, const QString& name);
 

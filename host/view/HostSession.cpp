@@ -4,6 +4,7 @@
 
 #include <QSettings>
 
+#include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
@@ -13,8 +14,18 @@
 namespace qv {
 
 namespace {
-// The slot of the host's print settings that the task dialogs use.
-constexpr int32_t kTaskDialogSlot = 1;
+// The slots of the host's print settings: the help pages', then one per
+// task dialog. Slot 1 is the Existing Task's, the one with a schedule.
+constexpr int32_t kHelpSlot = 0;
+constexpr int32_t kExistingTaskSlot = 1;
+constexpr int32_t kNewTaskSlot = 2;
+constexpr int32_t kAppointmentSlot = 3;
+
+int32_t slotFor(int32_t mode) {
+    if (mode == 1 || mode == 5) return kExistingTaskSlot;
+    if (mode == 2) return kAppointmentSlot;
+    return kNewTaskSlot;
+}
 // The no-particular-project default the host keeps.
 constexpr const char* kDefaultProject = "";
 }  // namespace
@@ -34,7 +45,7 @@ void HostSession::start() {
     ended_ = false;
     task_->setTempErrReport(reporter_);
     task_->SetMOP(kDefaultProject);
-    task_->SetTaskPrintSetting(printInfo(0));
+    task_->SetTaskPrintSetting(printInfo(kHelpSlot));
     wire();
 }
 
@@ -68,7 +79,8 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
         start();
     }
     try {
-        task_->SetupTask(mode, key, userStuff(), kTaskDialogSlot, printInfo(kTaskDialogSlot), {}, projectKey);
+        const int32_t slot = slotFor(mode);
+        task_->SetupTask(mode, key, userStuff(), slot, printInfo(slot), {}, projectKey);
     } catch (const std::exception& e) {
         emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
     }
@@ -79,9 +91,11 @@ void HostSession::newTask(const std::string& projectKey) { open(0, {}, projectKe
 
 void HostSession::taskFromCatalog(const std::string& catalogKey) { open(6, catalogKey, {}); }
 
+// A slot the component never handed back gets the whole default string.
 std::string HostSession::printInfo(int32_t slot) const {
     QSettings s(QString::fromStdString(folder_ + "/QuorvelHost.ini"), QSettings::IniFormat);
-    return s.value(QStringLiteral("print/%1").arg(slot)).toString().toStdString();
+    const QVariant kept = s.value(QStringLiteral("print/%1").arg(slot));
+    return kept.isValid() ? kept.toString().toStdString() : PrintSettings::defaults(slot);
 }
 
 void HostSession::savePrintInfo(const std::string& info, int32_t slot) {

@@ -17,7 +17,10 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include "help/HelpTopics.h"
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/HelpViewer.h"
+#include "toolkit/Ports.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
 #include "view/TaskTableModel.h"
@@ -59,6 +62,13 @@ void HostWindow::buildActions() {
     add("actOpenTask", "&Open Task", false);
     add("actWorkAppointment", "&Work Appointment", false);
     add("actSaveToCatalog", "&Save to Catalog", false);
+    bar->addSeparator();
+    connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
+    connect(add("actTour", "Getting Started &Tour", true), &QAction::triggered, this, [this] { openHelp(kTourTopic); });
+}
+
+void HostWindow::openHelp(int32_t topic) {
+    if (HelpViewer* help = ports().help) help->openHelpPop(topic, session_.printInfo(0));
 }
 
 QWidget* HostWindow::buildTaskPage() {

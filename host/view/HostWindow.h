@@ -3,6 +3,8 @@
 // filter and project choice, the Task Catalog, the commands that open the
 // component, and a log of the component's events.
 
+#include <cstdint>
+
 #include <QMainWindow>
 
 class QAction;
@@ -29,6 +31,8 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Opens a help topic in the component's help pop-up.
+    void openHelp(int32_t topic);
 
 private:
     void buildActions();

@@ -111,9 +111,13 @@ void ReportError(const std::string& project, const std::string& module, const st
 }
 
 void reportCurrentFailure(const char* module, const char* procedure) noexcept {
+    reportCurrentFailure(nullptr, module, procedure);
+}
+
+void reportCurrentFailure(const char* project, const char* module, const char* procedure) noexcept {
     try {
         const auto fault = describeCurrent();
-        ReportError(kProjectName, module, procedure, fault.description, fault.number, 0, g().UStuff);
+        ReportError(project ? project : kProjectName, module, procedure, fault.description, fault.number, 0, g().UStuff);
     } catch (...) {
         // Nothing may leave the trap.
     }

@@ -7,6 +7,7 @@
 #include <exception>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 #include "Export.h"
 
@@ -21,8 +22,9 @@ QV_EXPORT void ReportError(const std::string& project, const std::string& module
                  const std::array<std::string, 6>& UStuff);
 
 // Reports the exception in flight as a fault of module.procedure. Call it
-// only from a catch block.
+// only from a catch block. A null project is the component's own name.
 QV_EXPORT void reportCurrentFailure(const char* module, const char* procedure) noexcept;
+QV_EXPORT void reportCurrentFailure(const char* project, const char* module, const char* procedure) noexcept;
 
 // A host session (the outermost SetupTask) while the object lives: the
 // first fault of the session is reported, those after it are dropped.
@@ -39,28 +41,35 @@ public:
 // on a busy store), and faults go unreported.
 bool errorPathTaken();
 
-// Runs body under the trap. A failure is reported and the procedure's
-// default result comes back: false, 0, empty. A body without a result
-// gives true when it ran to its end.
+// Runs body under the trap, reporting a fault under the given project name
+// (a form that came from another project keeps that one's name).
 template <class F>
-auto trap(const char* module, const char* procedure, F&& body) {
+auto trapAs(const char* project, const char* module, const char* procedure, F&& body) {
     using R = std::invoke_result_t<F>;
     if constexpr (std::is_void_v<R>) {
         try {
             body();
             return true;
         } catch (...) {
-            reportCurrentFailure(module, procedure);
+            reportCurrentFailure(project, module, procedure);
             return false;
         }
     } else {
         try {
             return body();
         } catch (...) {
-            reportCurrentFailure(module, procedure);
+            reportCurrentFailure(project, module, procedure);
             return R{};
         }
     }
+}
+
+// Runs body under the trap. A failure is reported and the procedure's
+// default result comes back: false, 0, empty. A body without a result
+// gives true when it ran to its end.
+template <class F>
+auto trap(const char* module, const char* procedure, F&& body) {
+    return trapAs(nullptr, module, procedure, std::forward<F>(body));
 }
 
 }  // namespace qv

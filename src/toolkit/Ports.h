@@ -17,6 +17,8 @@ class HelpViewer;
 class PrintSurface;
 class SpellChecker;
 class LocaleInfo;
+class PrinterList;
+class FontList;
 
 struct QV_EXPORT Ports {
     Ui* ui = nullptr;
@@ -27,6 +29,8 @@ struct QV_EXPORT Ports {
     PrintSurface* print = nullptr;
     SpellChecker* spell = nullptr;
     LocaleInfo* locale = nullptr;
+    PrinterList* printers = nullptr;  // none installed: no printers
+    FontList* fonts = nullptr;        // none installed: no fonts
 };
 
 QV_EXPORT Ports& ports();

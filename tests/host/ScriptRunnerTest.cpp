@@ -1,6 +1,9 @@
 #include "script/ScriptRunner.h"
 
 #include <gtest/gtest.h>
+#ifdef QV_SCRIPT_PRINTING
+#include "script/ScriptPrinting.h"
+#endif
 
 #include <filesystem>
 #include <fstream>
@@ -19,6 +22,9 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 // The examples double as the component's end-to-end checks.
 TEST(ScriptRunner, EveryExampleScriptRunsGreen) {
+#ifdef QV_SCRIPT_PRINTING
+    ScriptPrinting printing;
+#endif
     int scripts = 0;
     for (const auto& entry : std::filesystem::directory_iterator(std::string(QV_SOURCE_DIR) + "/examples")) {
         if (entry.path().extension() != ".qvs") continue;
@@ -53,6 +59,31 @@ expect form none
     EXPECT_NE(text.find("FAILED line 5: unclosed quote"), std::string::npos) << text;
 }
 
+TEST(ScriptRunner, ReportExpectationsReadTheWrittenFiles) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    const int failed = runner.run(linesOf(R"(setup 0
+advance 600
+type spellTask "Sweep the yard"
+answer yes
+click smtActions.PRINT
+expect report NewTask.htm "Sweep the yard"
+expect report NewTask.htm "Mow the lawn"
+expect no-report NewTask.htm
+expect report Other.htm "x"
+expect pdfpages NewTask.pdf 1
+answer yes
+key escape
+)"));
+    const auto text = out.str();
+    EXPECT_EQ(runner.passed(), 1) << text;
+    EXPECT_EQ(failed, 4) << text;
+    EXPECT_NE(text.find("FAILED line 7: the report NewTask.htm does not hold \"Mow the lawn\""), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 8: the report NewTask.htm was written"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 9: no report Other.htm"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 10: no PDF NewTask.pdf"), std::string::npos) << text;
+}
+
 TEST(ScriptRunner, AnUnansweredMessageIsAFailureNotAHang) {
     std::ostringstream out;
     ScriptRunner runner(out);
@@ -62,6 +93,26 @@ TEST(ScriptRunner, AnUnansweredMessageIsAFailureNotAHang) {
               std::string::npos)
         << out.str();
     EXPECT_GE(runner.failed(), 1);
+}
+
+TEST(ScriptRunner, HelpExpectationsSayWhatTheHelpShows) {
+    std::ostringstream out;
+    ScriptRunner runner(out);
+    const int failed = runner.run(linesOf(R"(expect help 600 "Quorvel: Creating New Tasks"
+setup 0
+click smtActions.HELP
+expect help 601 "Quorvel: Creating New Tasks"
+expect help-page POP-KEYWORDS.htm
+key escape
+answer yes
+key escape
+)"));
+    EXPECT_EQ(failed, 3);
+    const auto text = out.str();
+    EXPECT_NE(text.find("FAILED line 1: no help is shown"), std::string::npos) << text;
+    EXPECT_NE(text.find("FAILED line 4: the help shows topic 600 \"Quorvel: Creating New Tasks\""), std::string::npos)
+        << text;
+    EXPECT_NE(text.find("FAILED line 5: the help pane shows \"POP-TASKDIALOG.htm\""), std::string::npos) << text;
 }
 
 TEST(ScriptRunner, AScriptThatEndsWhileADialogIsShownFails) {

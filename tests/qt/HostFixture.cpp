@@ -15,6 +15,7 @@ void HostFixture::SetUp() {
     resetGlobals();
     installStore(folder());
     installSettingsFile(folder());
+    installReportsFolder(folder());
     host_ = std::make_unique<HostApp>(folder(), false);
 }
 

@@ -36,7 +36,10 @@ void TestEnv::SetUp() {
     ports().ui = &ui_;
     ports().clock = &clock_;
     ports().reporter = &reporter_;
-    if (options_.store) installStore(folder_);
+    if (options_.store) {
+        installStore(folder_);
+        installReportsFolder(folder_);
+    }
     if (options_.settingsFile) installSettingsFile(folder_);
 }
 

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 
-#include "dialogs/add/ReporterRelay.h"
+#include "toolkit/ReporterRelay.h"
 #include "toolkit/Event.h"
 #include "toolkit/Form.h"
 #include "toolkit/Sheet.h"

@@ -1,26 +1,5 @@
 #pragma once
-// Passes the error reporter's GotErrExitNow on to a dialog's own event, for
-// as long as the dialog lives.
+// The relay lives with the reporter's port now; this name stays for the
+// dialogs that include it from here.
 
-#include <cstddef>
-
-#include "toolkit/Event.h"
-
-namespace qv {
-
-class Reporter;
-
-class ReporterRelay {
-public:
-    // Listens to the reporter installed in the ports, if any.
-    explicit ReporterRelay(Event<>& target);
-    ~ReporterRelay();
-    ReporterRelay(const ReporterRelay&) = delete;
-    ReporterRelay& operator=(const ReporterRelay&) = delete;
-
-private:
-    Reporter* reporter_ = nullptr;
-    std::size_t id_ = 0;
-};
-
-}  // namespace qv
+#include "toolkit/ReporterRelay.h"

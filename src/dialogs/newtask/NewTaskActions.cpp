@@ -102,10 +102,8 @@ void NewTaskActions::help() {
     if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
 }
 
+// The print flow asks its own question first.
 void NewTaskActions::print(bool preview) {
-    const char* question = preview ? "Print Preview this Task? It may take a moment or two to prepare."
-                                   : "Print this Task? It may take a moment or two to prepare.";
-    if (!DialogMessages::askYesNo(question)) return;
     if (preview) f_.printer().DoPrintPreview();
     else f_.printer().DoPrint();
 }

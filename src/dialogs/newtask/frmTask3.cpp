@@ -6,12 +6,13 @@
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/NewTaskLayout.h"
 #include "dialogs/newtask/NewTaskPickers.h"
+#include "dialogs/newtask/NewTaskReport.h"
 #include "dialogs/newtask/NewTaskSaver.h"
 #include "dialogs/newtask/NewTaskValidation.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
-#include "dialogs/shared/TaskPrinter.h"
+#include "dialogs/shared/ReportPrinter.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "values/DateFormats.h"
@@ -44,7 +45,8 @@ frmTask3::frmTask3()
       layout_(std::make_unique<NewTaskLayout>(*this)),
       ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk, fields_->checklist,
                                               ChecklistLink::Options{nullptr, kNoChecklistText})),
-      printer_(std::make_shared<TaskPrinter>()) {
+      printer_(std::make_shared<ReportPrinter>(*this, TaskReport::kNewTask, std::make_unique<NewTaskReport>(*this),
+                                               kModule)) {
     c_.smtOther.tool("DEADDATE").setHostedControl("ctDeadline");
     registerControls();
     wireControls();

@@ -1,6 +1,6 @@
 #pragma once
-// Where a task dialog hands its print commands. The report flow plugs in
-// here; until then the commands do nothing.
+// Where a task dialog hands its print commands: print, preview and page
+// setup. This base does nothing; ReportPrinter is the real one.
 
 namespace qv {
 

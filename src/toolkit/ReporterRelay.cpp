@@ -1,4 +1,4 @@
-#include "dialogs/add/ReporterRelay.h"
+#include "toolkit/ReporterRelay.h"
 
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"

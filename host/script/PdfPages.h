@@ -1,0 +1,11 @@
+#pragma once
+// The number of pages of a PDF file, read from its page objects; -1 when
+// the file can't be read.
+
+#include <string>
+
+namespace qv {
+
+[[nodiscard]] int pdfPageCount(const std::string& path);
+
+}  // namespace qv

@@ -1,0 +1,54 @@
+#include "PageSetupView.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "PagePicture.h"
+#include "kit/PaneBuilder.h"
+#include "toolkit/Form.h"
+#include "toolkit/Label.h"
+#include "toolkit/Sheet.h"
+
+namespace qv {
+
+PageSetupView::PageSetupView(Form& form, QWidget* parent) : FormView(form, parent) {
+    setObjectName("frmPageSetup.view");
+    PaneBuilder make(form, this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(6, 6, 6, 6);
+    auto* columns = new QHBoxLayout;
+    auto* left = new QVBoxLayout;
+    left->addWidget(make.label("lblStatic"));
+    left->addWidget(make.sheet("smtPrinting(0)"), 1);
+    auto* picture = new QHBoxLayout;
+    if (Label* image = form.label("Image1")) picture->addWidget(new PagePicture(*image, this));
+    picture->addWidget(make.label("lblPrint"), 1);
+    left->addLayout(picture);
+    auto* right = new QVBoxLayout;
+    right->addWidget(make.sheet("smtPrinting(1)"), 3);
+    right->addWidget(colourButton("smtPrinting(1)", "HCOLOR", tr("Heading &Colour...")));
+    right->addWidget(make.sheet("smtPrinting(2)"), 3);
+    right->addWidget(colourButton("smtPrinting(2)", "FCOLOR", tr("Foo&ter Colour...")));
+    right->addWidget(make.sheet("smtPrinting(3)"), 2);
+    right->addWidget(make.sheet("smtPrinting(4)"), 3);
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
+    column->addLayout(columns, 1);
+    column->addWidget(make.sheet("smtActions", SheetWidget::Style::Toolbar));
+}
+
+// The colour tools are texts; a click on them is what picks a colour.
+QWidget* PageSetupView::colourButton(const char* sheetName, const char* key, const QString& text) {
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QString(key) + ".choose");
+    Sheet* sheet = form().sheet(sheetName);
+    if (!sheet || !sheet->hasKey(key)) {
+        button->hide();
+        return button;
+    }
+    connect(button, &QPushButton::clicked, this, [sheet, key] { sheet->click(sheet->tool(key)); });
+    return button;
+}
+
+}  // namespace qv

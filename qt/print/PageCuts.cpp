@@ -1,0 +1,95 @@
+#include "print/PageCuts.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTextLayout>
+#include <QTextTable>
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace qv {
+
+namespace {
+
+using RowKey = std::pair<const QTextTable*, int>;
+
+// A table's rows meet halfway between one row's text and the next's, so a
+// cut there leaves each row's borders with its row.
+void addRows(const std::map<RowKey, PageCuts::Span>& rows, std::vector<PageCuts::Span>& out) {
+    const QTextTable* table = nullptr;
+    std::vector<PageCuts::Span> spans;
+    auto flush = [&] {
+        for (std::size_t i = 0; i < spans.size(); ++i) {
+            const double above =
+                i > 0 ? (spans[i - 1].bottom + spans[i].top) / 2
+                      : spans[i].top - (spans.size() > 1 ? (spans[1].top - spans[0].bottom) / 2 : 0);
+            const double below = i + 1 < spans.size() ? (spans[i].bottom + spans[i + 1].top) / 2
+                                                      : spans[i].bottom + (i > 0 ? spans[i].top - above : 0);
+            out.push_back({above, below});
+        }
+        spans.clear();
+    };
+    for (const auto& [key, span] : rows) {
+        if (key.first != table) flush();
+        table = key.first;
+        spans.push_back(span);
+    }
+    flush();
+}
+
+}  // namespace
+
+std::vector<PageCuts::Span> PageCuts::keepTogether(QTextDocument& doc) {
+    auto* layout = doc.documentLayout();
+    std::vector<Span> out;
+    std::map<RowKey, Span> rows;
+    for (QTextBlock block = doc.begin(); block.isValid(); block = block.next()) {
+        const QRectF rect = layout->blockBoundingRect(block);
+        QTextCursor at(block);
+        if (QTextTable* table = at.currentTable()) {
+            const RowKey key{table, table->cellAt(at).row()};
+            auto [it, fresh] = rows.try_emplace(key, Span{rect.top(), rect.bottom()});
+            if (!fresh)
+                it->second = {std::min(it->second.top, rect.top()),
+                              std::max(it->second.bottom, rect.bottom())};
+            continue;
+        }
+        const QTextLayout* lines = block.layout();
+        for (int i = 0; lines && i < lines->lineCount(); ++i) {
+            const QRectF line = lines->lineAt(i).rect();
+            out.push_back({rect.top() + line.top(), rect.top() + line.bottom()});
+        }
+    }
+    addRows(rows, out);
+    return out;
+}
+
+std::vector<double> PageCuts::cuts(std::vector<Span> spans, double documentHeight, double pageHeight) {
+    std::sort(spans.begin(), spans.end(), [](const Span& a, const Span& b) { return a.top < b.top; });
+    std::vector<double> tops{0.0};
+    double top = 0.0;
+    std::size_t from = 0;  // spans ending above the page's top are behind us
+    while (top + pageHeight < documentHeight) {
+        double cut = top + pageHeight;
+        while (from < spans.size() && spans[from].bottom <= top) ++from;
+        // Move the cut up out of every span it would split.
+        for (bool moved = true; moved;) {
+            moved = false;
+            for (std::size_t i = from; i < spans.size() && spans[i].top < cut; ++i)
+                if (spans[i].bottom > cut && spans[i].top > top) {
+                    cut = spans[i].top;
+                    moved = true;
+                }
+        }
+        if (cut <= top) cut = top + pageHeight;
+        tops.push_back(cut);
+        top = cut;
+    }
+    tops.push_back(documentHeight);
+    return tops;
+}
+
+}  // namespace qv

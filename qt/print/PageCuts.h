@@ -1,0 +1,25 @@
+#pragma once
+// Where the pages of a laid-out document end: as far down as a page
+// reaches, but never inside a line of text or a table row. A row or line
+// taller than a page is cut where the page ends.
+
+#include <vector>
+
+class QTextDocument;
+
+namespace qv {
+
+class PageCuts {
+public:
+    struct Span {
+        double top;
+        double bottom;
+    };
+    // The spans that must not be cut, from a document laid out without pages.
+    [[nodiscard]] static std::vector<Span> keepTogether(QTextDocument& doc);
+    // The top of every page and, last, the end of the document.
+    [[nodiscard]] static std::vector<double> cuts(std::vector<Span> spans, double documentHeight,
+                                                  double pageHeight);
+};
+
+}  // namespace qv

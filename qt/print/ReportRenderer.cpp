@@ -1,0 +1,103 @@
+#include "print/ReportRenderer.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrinter>
+#include <QTextDocument>
+#include <QUrl>
+
+#include "print/PageCuts.h"
+#include "toolkit/Failure.h"
+
+namespace qv {
+
+namespace {
+constexpr double kTwipsPerPoint = 20.0;
+
+// The report gives colours as plain numbers, which the rich-text parser
+// warns of once per cell; they are the report's own and not news.
+QtMessageHandler previousHandler = nullptr;
+void quietColours(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (message.startsWith("QTextHtmlParser::applyAttributes: Unknown color name")) return;
+    if (previousHandler) previousHandler(type, context, message);
+}
+constexpr int kLinesOfFooter = 3;  // room kept for the usual footer
+}  // namespace
+
+ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_unique<QTextDocument>()) {
+    QFile file(QString::fromStdString(job.file));
+    if (!file.open(QIODevice::ReadOnly)) throw Failure(err::FileNotFound, "File not found: " + job.file);
+    previousHandler = qInstallMessageHandler(quietColours);
+    // Style sheets and pictures named relative to the page (help pages).
+    doc_->setBaseUrl(QUrl::fromLocalFile(QString::fromStdString(job.file)));
+    doc_->setHtml(QString::fromUtf8(file.readAll()));
+    qInstallMessageHandler(previousHandler);
+}
+
+ReportRenderer::~ReportRenderer() = default;
+
+void ReportRenderer::applyMargins(QPrinter& printer) const {
+    printer.setPageMargins(
+        QMarginsF(job_.marginLeft, job_.marginTop, job_.marginRight, job_.marginBottom) / kTwipsPerPoint,
+        QPageLayout::Point);
+}
+
+QFont ReportRenderer::footerFont(QPrinter& printer) const {
+    QFont f(QString::fromStdString(job_.footerFont));
+    f.setPointSizeF(job_.footerSize > 0 ? job_.footerSize : 8);
+    return QFont(f, &printer);
+}
+
+void ReportRenderer::layout(QPrinter& printer) {
+    doc_->documentLayout()->setPaintDevice(&printer);
+    font_ = footerFont(printer);
+    lineHeight_ = QFontMetricsF(font_, &printer).lineSpacing();
+    const auto lines = FooterFormat::lines(job_.footer, 1);
+    const double footer = lineHeight_ * std::max<std::size_t>(lines.size(), kLinesOfFooter - 1) + lineHeight_;
+    page_ = QRectF(QPointF(0, 0), printer.pageLayout().paintRectPixels(printer.resolution()).size());
+    body_ = QRectF(0, 0, page_.width(), std::max(page_.height() - footer, page_.height() / 2));
+    // Laid out as one long page, then cut between rows and lines.
+    doc_->setTextWidth(body_.width());
+    tops_ = PageCuts::cuts(PageCuts::keepTogether(*doc_), doc_->size().height(), body_.height());
+}
+
+void ReportRenderer::render(QPrinter& printer) {
+    layout(printer);
+    QPainter painter(&printer);
+    const int pages = pageCount();
+    for (int i = 0; i < pages; ++i) {
+        if (i > 0) printer.newPage();
+        painter.save();
+        const QRectF view(0, tops_[i], body_.width(), tops_[i + 1] - tops_[i]);
+        painter.translate(0, -view.top());
+        painter.setClipRect(view);
+        QAbstractTextDocumentLayout::PaintContext ctx;
+        ctx.clip = view;
+        doc_->documentLayout()->draw(&painter, ctx);
+        painter.restore();
+        paintFooter(painter, i + 1);
+    }
+}
+
+// The footer's lines sit at the foot of the page, each rule above its text.
+void ReportRenderer::paintFooter(QPainter& painter, int page) const {
+    const auto lines = FooterFormat::lines(job_.footer, page);
+    painter.save();
+    painter.setFont(font_);
+    double y = page_.height() - lineHeight_ * static_cast<double>(lines.size());
+    for (const auto& line : lines) {
+        if (line.rule) {
+            painter.setPen(QPen(Qt::black, std::max(1.0, lineHeight_ / 16)));
+            painter.drawLine(QPointF(0, y), QPointF(page_.width(), y));
+        }
+        const QRectF row(0, y, page_.width(), lineHeight_);
+        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, QString::fromStdString(line.left));
+        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter, QString::fromStdString(line.right));
+        y += lineHeight_;
+    }
+    painter.restore();
+}
+
+}  // namespace qv

@@ -1,0 +1,60 @@
+#include "dialogs/newtask/NewTaskReport.h"
+
+#include "dialogs/newtask/NewTaskFields.h"
+#include "dialogs/newtask/frmTask3.h"
+#include "reports/PrintSettings.h"
+#include "session/globals/SessionGlobals.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+
+const char* const kNotSet = "Not yet set.";
+const char* const kNoDeadline = "No Deadline";
+
+std::string levelText(const std::array<std::string, 5>& names, int32_t value) {
+    if (value == kNothingChosen) return kNotSet;
+    return names.at(static_cast<std::size_t>(value));
+}
+
+}  // namespace
+
+ReportRows NewTaskReport::taskRows() {
+    auto& c = f_.controls();
+    auto& fields = f_.fields();
+    const double deadline = c.ctDeadline.value();
+    const bool dated = deadline >= 2.0;
+    const int32_t needed = fields.utilTimeNeeded();
+    const std::string projectKey = fields.utilProjectKey();
+    const std::pair<const char*, std::string> rows[] = {
+        {"Task Description:", c.spellTask.text()},
+        {"Status:", "Not yet saved."},
+        {"Current:", PrintSettings::boolText(c.smtOther.tool("ISCURRENT").checked())},
+        // The day number itself, in digits, not a formatted date.
+        {"Deadline Date:", dated ? std::to_string(static_cast<int64_t>(deadline)) : kNoDeadline},
+        {"Deadline Time:", dated ? c.smtOther.tool("DEADTIME").text() : kNoDeadline},
+        {"Project:", projectKey == "NOPROJECT" ? std::string(kNotSet) : fields.utilProjectName()},
+        {"Importance:", levelText(g().ImportanceList, fields.utilImp())},
+        {"Difficulty:", levelText(g().DifficultyList, fields.utilDiff())},
+        {"Time Needed:", needed == kNothingChosen ? std::string(kNotSet) : SetTimeFormat(needed)},
+        {"Possible Points:", fields.utilPossPoints == kNothingChosen ? std::string(kNotSet)
+                                                                     : std::to_string(fields.utilPossPoints)},
+    };
+    ReportRows table(2, static_cast<int32_t>(std::size(rows)));
+    for (int32_t r = 0; r < table.rows(); ++r) {
+        table.at(0, r) = rows[r].first;
+        table.at(1, r) = rows[r].second;
+    }
+    return table;
+}
+
+const TextEditor& NewTaskReport::checklistEditor() const {
+    return f_.controls().spellCK;
+}
+
+const TextEditor& NewTaskReport::notesEditor() const {
+    return f_.controls().SpellNotes;
+}
+
+}  // namespace qv

@@ -1,0 +1,173 @@
+#include "help/frmPopHelp.h"
+
+#include "help/HelpTopics.h"
+#include "help/TourPreference.h"
+#include "reports/FooterText.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/ErrorPath.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+#include "values/CStringBag.h"
+#include "values/Convert.h"
+#include "values/International.h"
+#include "values/TextCase.h"
+
+namespace qv {
+
+namespace {
+
+constexpr const char* kModule = "frmPopHelp";
+constexpr const char* kPrintQuestion = "Print this help topic? It may take a moment or two to prepare.";
+constexpr const char* kPreviewQuestion = "Print Preview this help topic? It may take a moment or two to prepare.";
+constexpr const char* kTitlePrefix = "Quorvel -";
+// Twips per unit of the margins: inches for US measurement, else centimetres.
+constexpr float kTwipsPerInch = 1440.0f;
+constexpr float kTwipsPerCm = 567.0f;
+
+std::string withSlash(const std::string& folder) {
+    return !folder.empty() && folder.back() == '/' ? folder : folder + "/";
+}
+
+// The page's file name, without a place inside the page ("#...").
+std::string fileNameOf(const std::string& location) {
+    const std::string page = location.substr(0, location.find('#'));
+    const auto slash = page.find_last_of('/');
+    return slash == std::string::npos ? page : page.substr(slash + 1);
+}
+
+// A number of the settings string; a host that never set the string gets
+// the engine's defaults instead of a fault.
+int32_t wholeOr(const std::string& text, int32_t fallback) { return tryToLong(text).value_or(fallback); }
+
+int32_t twipsOr(const std::string& text, float perUnit) {
+    const auto v = tryToDouble(text);
+    return roundLong((v ? static_cast<float>(*v) : 1.0f) * perUnit);
+}
+
+}  // namespace
+
+frmPopHelp::frmPopHelp(HelpPrinter* printer, TourPreference* tour)
+    : Form(kModule), printer_(printer), tour_(tour) {
+    addControl("smtAction", smtAction);
+    smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
+    setCaption("Quorvel Help");
+    smtAction.add(ttButton, "BACK", "&Back").setTip("Go back to the page before");
+    smtAction.add(ttButton, "PRINT", "&Print").setTip("Print this help topic");
+    smtAction.add(ttButton, "PRINTPREVIEW", "Print Pre&view").setTip("Preview this help topic as it prints");
+    smtAction.add(ttSeparator, "S1").setVisible(false);
+    Tool& noShow = smtAction.add(ttCheck, "NOSHOW", "Show Tour when Application starts");
+    noShow.setTip("Show/don't the Tour when application opens");
+    noShow.setVisible(false);
+    smtAction.add(ttButton, "CLOSE", "&Close").setTip("Close this help window");
+}
+
+bool frmPopHelp::setHelpPrinterSettings(const std::string& settings) {
+    printSettings_ = settings;
+    return true;
+}
+
+bool frmPopHelp::Setup(int32_t topic) {
+    return trapAs(kProject, kModule, "Setup", [&] {
+        const std::string folder = withSlash(g().AppPath);
+        if (const auto found = HelpTopics::find(topic)) {
+            browsePWindow.Navigate(folder + found->page);
+            setCaption(found->title);
+            helpPath_ = found->keptPath;
+        }
+        const bool tour = topic == kTourTopic;
+        smtAction.tool("NOSHOW").setVisible(tour);
+        smtAction.tool("S1").setVisible(tour);
+        if (tour) {
+            rememberedTopic_ = kTourTopic;
+            smtAction.tool("NOSHOW").setChecked(tour_ ? tour_->showTourAtStart() : true);
+        }
+        helpLocation(browsePWindow.LocationURL());
+    });
+}
+
+void frmPopHelp::smtAction_Click(Tool& t) {
+    trapAs(kProject, kModule, "smtAction_Click", [&] {
+        const std::string key = TextCase::upper(t.key());
+        if (key == "CLOSE")
+            closeNow();
+        else if (key == "BACK")
+            browsePWindow.GoBack();
+        else if (key == "PRINT")
+            printTopic(false);
+        else if (key == "PRINTPREVIEW")
+            printTopic(true);
+    });
+}
+
+// Escape leaves as the Close tool does.
+void frmPopHelp::Form_KeyDown(int32_t keyCode, int32_t shift) {
+    trapAs(kProject, kModule, "Form_KeyDown", [&] {
+        if (keyCode == vbKeyEscape) closeNow();
+    });
+}
+
+// The close box tells the owner as well, without reading the tour's tool.
+void frmPopHelp::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
+    trapAs(kProject, kModule, "Form_QueryUnload", [&] { closePop(); });
+}
+
+void frmPopHelp::closeNow() {
+    if (rememberedTopic_ == kTourTopic && tour_) tour_->setShowTourAtStart(smtAction.tool("NOSHOW").checked());
+    closePop();
+}
+
+void frmPopHelp::printTopic(bool preview) {
+    const int32_t answer = ui().msgBox(preview ? kPreviewQuestion : kPrintQuestion, vbYesNo + vbQuestion, kProgramTitle);
+    if (answer != vbYes || !printer_) return;
+    const HelpPrintJob job = MakeHelpHTML();
+    if (job.page.empty()) return;
+    ui().setWaitCursor(true);
+    ui().doEvents();
+    if (preview)
+        printer_->preview(job);
+    else
+        printer_->print(job);
+    ui().setWaitCursor(false);
+}
+
+HelpPrintJob frmPopHelp::MakeHelpHTML() const {
+    CStringBag bag;
+    bag.setContents(printSettings_);
+    const float perUnit = getLocalMeasurement() == 1 ? kTwipsPerInch : kTwipsPerCm;
+    HelpPrintJob job;
+    job.printer = bag.ReadItem("PRINTER");
+    job.copies = wholeOr(bag.ReadItem("COPIES"), 1);
+    job.paper = bag.ReadItem("PAPER");
+    job.marginTop = twipsOr(bag.ReadItem("TOP"), perUnit);
+    job.marginBottom = twipsOr(bag.ReadItem("BOTTOM"), perUnit);
+    job.marginRight = twipsOr(bag.ReadItem("RIGHT"), perUnit);
+    job.marginLeft = twipsOr(bag.ReadItem("LEFT"), perUnit);
+    job.headingColor = wholeOr(bag.ReadItem("HCOLOR"), 0);
+    job.headingFont = bag.ReadItem("HFONT");
+    job.headingSize = wholeOr(bag.ReadItem("HSIZE"), 14);
+    (void)bag.ReadItem("HEADING");  // the page's heading is its caption
+    job.footerColor = wholeOr(bag.ReadItem("FCOLOR"), 0);
+    job.footerFont = bag.ReadItem("FFONT");
+    job.footerSize = wholeOr(bag.ReadItem("FSIZE"), 9);
+    const double now = clock().now();
+    const std::string left = FooterText::forPrint(bag.ReadItem("FLEFT"), now);
+    const std::string right = FooterText::forPrint(bag.ReadItem("FRIGHT"), now);
+    job.footer = "{newline}{line}{Left}" + left + "{Right}" + right;
+    job.heading = caption().rfind(kTitlePrefix, 0) == 0 ? caption().substr(std::string(kTitlePrefix).size()) : caption();
+    job.baseFolder = helpFolder();
+    job.page = pageToPrint();
+    return job;
+}
+
+std::string frmPopHelp::helpFolder() const {
+    const std::string& folder = g().AppPath;
+    return folder + (!folder.empty() && folder.back() == '/' ? "help/" : "/help/");
+}
+
+std::string frmPopHelp::pageToPrint() const {
+    if (browsePWindow.hasPage()) return helpFolder() + fileNameOf(browsePWindow.LocationURL());
+    return helpPath_.empty() ? std::string() : withSlash(g().AppPath) + helpPath_;
+}
+
+}  // namespace qv

@@ -1,0 +1,55 @@
+#include "reports/FooterText.h"
+
+#include "session/globals/SessionGlobals.h"
+#include "values/DateTimeFormatter.h"
+
+namespace qv {
+
+namespace {
+
+const char* const kShortDate = "--Short Date--";
+const char* const kLongDate = "--Long Date--";
+const char* const kDateTime = "--Date Time--";
+const char* const kLongDateTime = "--Long Date and Time--";
+
+bool isDateTag(const std::string& tag) {
+    return tag == kShortDate || tag == kLongDate || tag == kDateTime || tag == kLongDateTime;
+}
+
+std::string dateText(const std::string& tag, double now) {
+    const auto& f = DateTimeFormatter::current();
+    if (tag == kShortDate) return f.shortDate(now);
+    if (tag == kLongDate) return f.longDate(now);
+    if (tag == kDateTime) return f.shortDate(now) + " " + f.shortTime(now);
+    return f.longDate(now) + " " + f.longTime(now);
+}
+
+}  // namespace
+
+std::vector<FooterText::Pick> FooterText::picks(double now) {
+    return {{kProgramTitle, kTitleTag},
+            {"--Custom--", kCustomTag},
+            {"--Leave Blank--", kBlankTag},
+            {"Short date (" + dateText(kShortDate, now) + ")", kShortDate},
+            {"Long date (" + dateText(kLongDate, now) + ")", kLongDate},
+            {"Date and time (" + dateText(kDateTime, now) + ")", kDateTime},
+            {"Long date and time (" + dateText(kLongDateTime, now) + ")", kLongDateTime},
+            {"Page Number", kPageNumberTag}};
+}
+
+std::optional<std::string> FooterText::shownFor(const std::string& stored, double now) {
+    if (stored == kTitleTag) return std::string(kProgramTitle);
+    if (stored == kPageNumberTag) return std::string("Page Number");
+    if (!isDateTag(stored)) return std::nullopt;
+    for (const Pick& p : picks(now))
+        if (p.tag == stored) return p.caption;
+    return std::nullopt;
+}
+
+std::string FooterText::forPrint(const std::string& stored, double now) {
+    if (isDateTag(stored)) return dateText(stored, now);
+    if (stored == "Page Number" || stored == "<#>") return kPageNumberField;
+    return stored;
+}
+
+}  // namespace qv

@@ -1,0 +1,37 @@
+#pragma once
+// The named controls of the Page Setup dialog: five sheets of settings
+// (printer and margins, heading, footer, footer texts, what to print), the
+// action bar, the page picture and its labels.
+
+#include <array>
+
+#include "toolkit/Label.h"
+#include "toolkit/Sheet.h"
+
+namespace qv {
+
+struct PageSetupControls {
+    PageSetupControls();
+
+    // Sheets by index, as the dialog's control array numbers them.
+    enum Index { Printer = 0, Heading = 1, Footer = 2, FooterText = 3, What = 4 };
+    std::array<Sheet, 5> smtPrinting{Sheet{"smtPrinting(0)", "Printer"}, Sheet{"smtPrinting(1)", "Heading"},
+                                     Sheet{"smtPrinting(2)", "Footer"},
+                                     Sheet{"smtPrinting(3)", "Footer Text"},
+                                     Sheet{"smtPrinting(4)", "Print"}};
+    Sheet smtActions{"smtActions"};
+    Label Image1{"Image1"};  // the page picture: "PORTRAIT" or "LANDSCAPE"
+    Label lblPrint{"lblPrint"};
+    Label lblStatic{"lblStatic", " Page Setup:"};
+
+    // The tool of any settings sheet by key; throws for an unknown key.
+    [[nodiscard]] Tool& tool(const char* key) const;
+
+private:
+    void buildPrinter();
+    void buildHeadingAndFooter();
+    void buildWhat();
+    void buildActions();
+};
+
+}  // namespace qv

@@ -1,0 +1,33 @@
+#include <gtest/gtest.h>
+
+#include "reports/FooterFormat.h"
+#include "reports/FooterText.h"
+
+namespace qv {
+
+TEST(FooterFormat, MarkersMakeRuledLinesWithTwoSidesAndThePageNumber) {
+    auto lines = FooterFormat::lines("{newline}{line}{Left}Quorvel - Version 1.14{Right}Page {PageNum}", 7);
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_TRUE(lines[0].rule);
+    EXPECT_EQ(lines[0].left, "Quorvel - Version 1.14");
+    EXPECT_EQ(lines[0].right, "Page 7");
+
+    lines = FooterFormat::lines("{Left}{PageNum}{Right}{newline}{Right}--Page Number--", 12);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_FALSE(lines[0].rule);
+    EXPECT_EQ(lines[0].left, "12");
+    EXPECT_EQ(lines[0].right, "");
+    EXPECT_EQ(lines[1].right, "--Page Number--");
+    // Braces that are no marker stay as they are.
+    EXPECT_EQ(FooterFormat::lines("{x}", 1).at(0).left, "{x}");
+
+    // What the footer picks turn into at print time.
+    EXPECT_EQ(FooterText::forPrint("<#>", 45000.0), "{PageNum}");
+    EXPECT_EQ(FooterText::forPrint("Page Number", 45000.0), "{PageNum}");
+    EXPECT_EQ(FooterText::forPrint("--Page Number--", 45000.0), "--Page Number--");
+    EXPECT_EQ(FooterText::forPrint("--Short Date--", 45000.5), "3/15/2023");
+    EXPECT_EQ(FooterText::forPrint("--Date Time--", 45000.5), "3/15/2023 12:00");
+    EXPECT_EQ(FooterText::forPrint("Quorvel", 45000.0), "Quorvel");
+}
+
+}  // namespace qv
