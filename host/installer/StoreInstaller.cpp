@@ -7,6 +7,7 @@
 
 #include "installer/DefaultSettings.h"
 #include "installer/HelpPages.h"
+#include "installer/ServerStore.h"
 #include "installer/StoreSchema.h"
 #include "store/ADOCode.h"
 #include "toolkit/Failure.h"
@@ -115,6 +116,14 @@ bool installApplicationFolder(const std::string& folder) {
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
     installHelpPages(folder, helpPagesSource());
     return made;
+}
+
+void installServerApplicationFolder(const std::string& folder, const std::string& uri) {
+    std::filesystem::create_directories(folder);
+    installReportsFolder(folder);
+    installServerStore(uri);
+    writeSettingsFile(folder, uri);
+    installHelpPages(folder, helpPagesSource());
 }
 
 }  // namespace qv

@@ -1,5 +1,6 @@
 #include "script/ScriptRunner.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -7,9 +8,12 @@
 #include <optional>
 #include <stdexcept>
 
+#include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
 #include "installer/StoreInstaller.h"
+#include "store/ADOCode.h"
+#include "store/PgConnection.h"
 #include "reports/PrintSettings.h"
 #include "script/PdfPages.h"
 #include "script/ScriptHelp.h"
@@ -117,6 +121,8 @@ ScriptRunner::~ScriptRunner() {
     ports().clock = nullptr;
     ports().reporter = nullptr;
     if (ownsFolder_) {
+        PgConnection::releaseAll();
+        dropScratchServerStore(storePath());
         std::error_code ec;
         std::filesystem::remove_all(folder_, ec);
     }
@@ -174,8 +180,13 @@ void ScriptRunner::ensureStore() {
     if (!mkdtemp(templ.data())) throw std::runtime_error("cannot make a temporary folder");
     folder_ = templ;
     ownsFolder_ = true;
-    installStore(folder_);
-    installSettingsFile(folder_);
+    // QV_STORE_URI: the scenario runs on a fresh scratch store of that server.
+    if (const char* server = std::getenv("QV_STORE_URI"); server && *server) {
+        writeSettingsFile(folder_, makeScratchServerStore(server));
+    } else {
+        installStore(folder_);
+        installSettingsFile(folder_);
+    }
     installReportsFolder(folder_);
     installHelpPages(folder_, helpPagesSource());
     g().AppPath = folder_;
@@ -433,6 +444,6 @@ std::string ScriptRunner::queryOne(const std::string& sql) const {
     return isNull ? "(null)" : *value;
 }
 
-std::string ScriptRunner::storePath() const { return (std::filesystem::path(folder_) / "QuorvelData.mdb").string(); }
+std::string ScriptRunner::storePath() const { return storeLocationOf(folder_); }
 
 }  // namespace qv
