@@ -101,11 +101,17 @@ std::optional<std::string> StoreFile::firstValue(const std::string& sql, bool* i
 }
 
 std::string storeLocationOf(const std::string& folder) {
-    std::ifstream in(pathInFolder(folder, kSettingsFileName), std::ios::binary);
-    if (in) {
-        const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
-        const std::string location = dbLocationIn(text);
-        if (!location.empty()) return location;
+    const std::string settings = pathInFolder(folder, kSettingsFileName);
+    std::error_code ec;
+    if (std::filesystem::is_regular_file(settings, ec)) {
+        try {
+            std::ifstream in(settings, std::ios::binary);
+            const std::string text((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+            const std::string location = dbLocationIn(text);
+            if (!location.empty()) return location;
+        } catch (const std::exception&) {
+            // An unreadable settings file names no store.
+        }
     }
     return pathInFolder(folder, kStoreFileName);
 }

@@ -386,7 +386,7 @@ void ScriptRunner::expectEditor(const ScriptLine& l) {
 // expect row "SELECT ..." VALUE: the first column of the first row.
 // expect rows "SELECT ..." N: the number of rows.
 void ScriptRunner::expectRow(const ScriptLine& l, bool count) {
-    const auto sql = count ? "SELECT COUNT(*) FROM (" + l.word(2) + ")" : l.word(2);
+    const auto sql = count ? "SELECT COUNT(*) FROM (" + l.word(2) + ") AS counted" : l.word(2);
     const auto actual = queryOne(sql);
     if (actual == l.word(3)) return pass();
     fail(l, "the store gives \"" + actual + "\", not \"" + l.word(3) + "\"");

@@ -62,9 +62,15 @@ void TestEnv::TearDown() {
     resetGlobals();
     Connection::releaseAll();
     PgConnection::releaseAll();
-    dropScratchServerStore(storeLocationOf(folder_));
+    if (const char* server = std::getenv("QV_STORE_URI"); server && *server)
+        dropScratchServerStore(storeLocationOf(folder_));
     std::error_code ec;
     std::filesystem::remove_all(folder_, ec);
+}
+
+bool TestEnv::onServerStore() {
+    const char* server = std::getenv("QV_STORE_URI");
+    return server && *server;
 }
 
 std::string TestEnv::storePath() const {

@@ -87,8 +87,8 @@ TEST_F(NewTaskSave, AddToQuorvelWritesTheRowAndKeywordsAndCarriesOver) {
     EXPECT_EQ(readOne("SELECT tskNotes" + where), "some notes");
     EXPECT_EQ(readInt("SELECT tskHasNotes" + where), 1);
     EXPECT_EQ(readOne("SELECT tskDoneDate" + where), "");
-    EXPECT_EQ(readOne("SELECT substr(tskDeadline, 1, 16)" + where), "2024-07-27T14:30");
-    EXPECT_EQ(readOne("SELECT substr(tskCreatedDate, 1, 10)" + where), "2024-01-15");
+    EXPECT_EQ(readOne("SELECT tskDeadline" + where).substr(0, 16), "2024-07-27T14:30");
+    EXPECT_EQ(readOne("SELECT tskCreatedDate" + where).substr(0, 10), "2024-01-15");
     EXPECT_EQ(readInt("SELECT length(tskGUIDID)" + where), 36);
     EXPECT_EQ(readInt("SELECT tskPossPoints" + where), 6 + 10 + 3);
     EXPECT_EQ(readInt("SELECT tskCustSortQV" + where), 2);
@@ -134,7 +134,7 @@ TEST_F(NewTaskSave, HostKeyIsKeptAndACompletedTaskIsDoneToday) {
     open(0, hostKey);
 
     EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='" + hostKey + "'"), "Born done");
-    EXPECT_EQ(readOne("SELECT substr(tskDoneDate, 1, 10) FROM TASKS WHERE tskDesc='Born done'"), "2024-01-15");
+    EXPECT_EQ(readOne("SELECT tskDoneDate FROM TASKS WHERE tskDesc='Born done'").substr(0, 10), "2024-01-15");
     EXPECT_EQ(count("NewTaskIsDone"), 1) << "the add tool tells a completed task apart";
     EXPECT_EQ(count("NewTask"), 1) << "Enter tells NewTask whatever the status";
     EXPECT_EQ(readInt("SELECT tskStatus FROM TASKS WHERE tskDesc='Done by Enter'"), 0);
