@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "dialogs/newtask/frmTask3.h"
-#include "installer/SampleData.h"
 #include "installer/StoreInstaller.h"
 #include "support/BenchStore.h"
 #include "session/clsTask2.h"
@@ -28,37 +27,8 @@ namespace {
 
 using namespace qv;
 
-constexpr int kTasks = 100000;
-constexpr int kProjects = 500;
-constexpr int kKeywords = 2000;
-constexpr int kSubjects = 50;
-
-const std::vector<std::string> kSections = {
-    "DateFormats", "AppVersion", "Spellchecking", "UserStuff", "Status", "Importance Level",
-    "Difficulty", "Time Needed", "TAS", "TASKWINDOW", "ETASK", "ETASK", "Points",
-    "OutLookIntegration", "OutlookProfileString"};
-
-struct LargeStore : bench::BenchStore {
-    LargeStore() : bench::BenchStore("newtask-bench") {
-        fillSampleStore(storePath(), {kTasks, kProjects, kKeywords, kSubjects});
-    }
-};
-
-LargeStore& largeStore() {
-    static LargeStore s;
-    return s;
-}
-
-// Walks every row of a query, reading each column as text.
-int64_t walk(sqlite3* db, const std::string& sql) {
-    sqlite3_stmt* st = nullptr;
-    sqlite3_prepare_v2(db, sql.c_str(), -1, &st, nullptr);
-    int64_t cells = 0;
-    while (sqlite3_step(st) == SQLITE_ROW)
-        for (int c = 0; c < sqlite3_column_count(st); ++c) cells += sqlite3_column_text(st, c) != nullptr;
-    sqlite3_finalize(st);
-    return cells;
-}
+using bench::largeStore;
+using bench::walk;
 
 void BM_NewTaskOpenBareReads(benchmark::State& state) {
     auto& s = largeStore();
@@ -66,7 +36,7 @@ void BM_NewTaskOpenBareReads(benchmark::State& state) {
         sqlite3* db = nullptr;
         sqlite3_open_v2(s.storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
         int64_t cells = 0;
-        for (const auto& section : kSections)
+        for (const auto& section : bench::settingsSections())
             cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +
                                   "' ORDER BY setSettingDisplayOrd");
         cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
@@ -87,7 +57,7 @@ void BM_NewTaskOpen(benchmark::State& state) {
         s.ui.queueAction([&task] { task.frm()->hide(); });
         task.SetupTask(0, {}, ustuff, 1, {});
         state.PauseTiming();
-        if (task.frm()->controls().smtKeywords.count() < kKeywords) state.SkipWithError("lists not filled");
+        if (task.frm()->controls().smtKeywords.count() < bench::kLargeKeywords) state.SkipWithError("lists not filled");
         task.frm()->unload();
         releaseDeferred();
         state.ResumeTiming();

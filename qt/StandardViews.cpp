@@ -1,5 +1,6 @@
 #include "StandardViews.h"
 
+#include "AppointmentView.h"
 #include "HelpView.h"
 #include "NewTaskView.h"
 #include "PageSetupView.h"
@@ -40,6 +41,7 @@ void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*r
 ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    f.add("frmTAS2", [](Form& form) -> FormView* { return new AppointmentView(form); });
     f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);

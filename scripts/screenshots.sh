@@ -2,7 +2,8 @@
 # Builds the host and saves a picture of every window of the demonstration
 # (the host, New Task empty, filled and from a catalog item with a past
 # deadline, Add Project, Add Keyword, the checklist picker and editor, Page
-# Setup and the print preview), each at its
+# Setup and the print preview, a Task Appointment fresh, worked and
+# completed), each at its
 # opening size, its minimum and a larger size.
 # Usage: scripts/screenshots.sh [application folder]   (default: build/shots)
 set -euo pipefail

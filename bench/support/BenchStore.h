@@ -2,7 +2,11 @@
 // A store of the benchmarks' own: a fresh folder with an installed store
 // and the scripted ports, removed when the process ends.
 
+#include <cstdint>
 #include <string>
+#include <vector>
+
+struct sqlite3;
 
 #include "toolkit/FakeClock.h"
 #include "toolkit/Reporter.h"
@@ -39,5 +43,18 @@ public:
 private:
     std::string folder_;
 };
+
+// The large store of the dialogs' benchmarks: 100,000 tasks, 500 projects,
+// 2,000 keywords in 50 subjects, and two tasks to open: kBusyTask with 50
+// keywords and 200 appointments, kTwentyTask with 20 keywords.
+inline constexpr const char* kBusyTask = "B0000000-0000-0000-0000-000000000050";
+inline constexpr const char* kTwentyTask = "B0000000-0000-0000-0000-000000000020";
+inline constexpr int kLargeKeywords = 2000;
+BenchStore& largeStore();
+
+// The sections LoadSettings reads, in its order.
+const std::vector<std::string>& settingsSections();
+// Walks every row of a query, reading each column as text; the cells read.
+int64_t walk(sqlite3* db, const std::string& sql);
 
 }  // namespace qv::bench

@@ -77,11 +77,12 @@ void addLists(std::vector<SettingRow>& rows) {
 
 // Window geometry in twips. The window state is the fifth value read for
 // TASKWINDOW and ETASK, the sixth for TAS (after the splitter position).
+// The Task Appointment window reads left before top.
 void addWindows(std::vector<SettingRow>& rows) {
     const char* state = "Open Max or Normal, never minimized";
     addSection(rows, "TAS",
-               {{"meTop", "1000", "Top"},
-                {"meLeft", "2000", "Left"},
+               {{"meLeft", "1000", "Left"},
+                {"meTop", "2000", "Top"},
                 {"meWidth", "9600", "Width"},
                 {"meHeight", "7200", "Height"},
                 {"meSplit", "2310", "Split"},

@@ -25,6 +25,8 @@
 #include "toolkit/Reporter.h"
 #include "toolkit/ScriptedUi.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/Splitter.h"
+#include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
 #include "values/Convert.h"
@@ -162,7 +164,8 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"type", &ScriptRunner::cmdType},     {"click", &ScriptRunner::cmdClick},
         {"key", &ScriptRunner::cmdKey},       {"close", &ScriptRunner::cmdClose},
         {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
-        {"expect", &ScriptRunner::cmdExpect}};
+        {"expect", &ScriptRunner::cmdExpect}, {"resize", &ScriptRunner::cmdResize},
+        {"drag", &ScriptRunner::cmdDrag},     {"tab", &ScriptRunner::cmdTab}};
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -270,9 +273,16 @@ void ScriptRunner::cmdType(const ScriptLine& l) {
         if (!serial) throw std::invalid_argument("not a date: " + text);
         box->userSetValue(*serial);
     } else {
+        // As the user types into a tool and leaves it; a tool that refuses
+        // the edit keeps its text.
         Sheet* sheet = nullptr;
         Tool& tool = toolOf(form, target, &sheet);
+        if (!sheet->beginEdit(tool)) {
+            out_ << "note: " << target << " takes no typing\n";
+            return;
+        }
         sheet->userEdit(tool, text);
+        sheet->endEdit(tool);
     }
 }
 
@@ -299,6 +309,39 @@ void ScriptRunner::cmdAnswer(const ScriptLine& l) {
 
 void ScriptRunner::cmdAdvance(const ScriptLine& l) { clock_->advance(toLong(l.word(1))); }
 
+namespace {
+const std::map<std::string, int32_t>& windowStates() {
+    static const std::map<std::string, int32_t> words{
+        {"normal", vbNormal}, {"minimized", vbMinimized}, {"maximized", vbMaximized}};
+    return words;
+}
+}  // namespace
+
+// resize LEFT TOP WIDTH HEIGHT [normal|minimized|maximized]: the user moves
+// or sizes the dialog's window (twips).
+void ScriptRunner::cmdResize(const ScriptLine& l) {
+    Form::Geometry geo;
+    geo.left = static_cast<int32_t>(toLong(l.word(1)));
+    geo.top = static_cast<int32_t>(toLong(l.word(2)));
+    geo.width = static_cast<int32_t>(toLong(l.word(3)));
+    geo.height = static_cast<int32_t>(toLong(l.word(4)));
+    if (l.words.size() > 5) {
+        auto it = windowStates().find(lower(l.word(5)));
+        if (it == windowStates().end()) throw std::invalid_argument("a window is normal, minimized or maximized");
+        geo.state = it->second;
+    }
+    activeForm().userResized(geo);
+}
+
+// drag SPLITTER PANE HEIGHT: the user drags a splitter bar so that the pane
+// (by index) gets the height in twips, and lets go.
+void ScriptRunner::cmdDrag(const ScriptLine& l) {
+    Splitter* split = activeForm().splitter(l.word(1));
+    if (!split) throw std::invalid_argument("no splitter " + l.word(1));
+    split->setPaneHeight(static_cast<int32_t>(toLong(l.word(2))), static_cast<int32_t>(toLong(l.word(3))));
+    split->userEndDrag();
+}
+
 void ScriptRunner::cmdExpect(const ScriptLine& l) {
     const auto what = lower(l.word(1));
     if (what == "event") return expectEvent(l, true);
@@ -310,14 +353,17 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "form") return expectForm(l);
     if (what == "checked") return expectChecked(l);
     if (what == "editor") return expectEditor(l);
+    if (what == "date") return expectDate(l);
+    if (what == "window") return expectWindow(l);
+    if (what == "tab") return expectTab(l);
     if (what == "help") return expectHelp(l, false);
     if (what == "help-page") return expectHelp(l, true);
     if (what == "report") return expectReport(l, true);
     if (what == "no-report") return expectReport(l, false);
     if (what == "pdfpages") return expectPdfPages(l);
     throw std::invalid_argument(
-        "expect event, no-event, message, tool, checked, editor, row, rows, form, help, help-page, report, no-report or "
-        "pdfpages");
+        "expect event, no-event, message, tool, checked, editor, date, window, tab, row, rows, form, help, help-page, "
+        "report, no-report or pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -344,7 +390,7 @@ void ScriptRunner::expectMessage(const ScriptLine& l) {
     fail(l, "no message \"" + l.word(2) + "\"");
 }
 
-// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked VALUE
+// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|bold VALUE
 void ScriptRunner::expectTool(const ScriptLine& l) {
     const Tool& t = toolOf(activeForm(), l.word(2), nullptr);
     const auto prop = lower(l.word(3));
@@ -356,6 +402,7 @@ void ScriptRunner::expectTool(const ScriptLine& l) {
     else if (prop == "enabled") actual = boolText(t.enabled());
     else if (prop == "visible") actual = boolText(t.visible());
     else if (prop == "checked") actual = boolText(t.checked());
+    else if (prop == "bold") actual = boolText(t.bold());
     else throw std::invalid_argument("unknown tool property " + prop);
     if (actual == l.word(4)) return pass();
     fail(l, l.word(2) + " " + prop + " is \"" + actual + "\", not \"" + l.word(4) + "\"");
@@ -381,6 +428,44 @@ void ScriptRunner::expectEditor(const ScriptLine& l) {
     if (!ed) throw std::invalid_argument("no editor " + l.word(2));
     if (ed->text() == l.word(3)) return pass();
     fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
+}
+
+// tab NAME INDEX: the user picks a tab (counted from 0) of a tab strip.
+void ScriptRunner::cmdTab(const ScriptLine& l) {
+    TabStrip* tabs = activeForm().tabStrip(l.word(1));
+    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(1));
+    tabs->userSwitch(static_cast<int32_t>(toLong(l.word(2))));
+}
+
+// expect tab NAME INDEX: the tab shown.
+void ScriptRunner::expectTab(const ScriptLine& l) {
+    TabStrip* tabs = activeForm().tabStrip(l.word(2));
+    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(2));
+    if (std::to_string(tabs->current()) == l.word(3)) return pass();
+    fail(l, l.word(2) + " shows tab " + std::to_string(tabs->current()) + ", not " + l.word(3));
+}
+
+// expect date NAME TEXT: a date box's date as text ("" for none).
+void ScriptRunner::expectDate(const ScriptLine& l) {
+    auto* box = activeForm().dateBox(l.word(2));
+    if (!box) throw std::invalid_argument("no date box " + l.word(2));
+    if (box->text() == l.word(3)) return pass();
+    fail(l, l.word(2) + " holds \"" + box->text() + "\", not \"" + l.word(3) + "\"");
+}
+
+// expect window left|top|width|height|state VALUE: the dialog's window.
+void ScriptRunner::expectWindow(const ScriptLine& l) {
+    const auto& geo = activeForm().geometry();
+    const auto prop = lower(l.word(2));
+    int32_t actual = 0;
+    if (prop == "left") actual = geo.left;
+    else if (prop == "top") actual = geo.top;
+    else if (prop == "width") actual = geo.width;
+    else if (prop == "height") actual = geo.height;
+    else if (prop == "state") actual = geo.state;
+    else throw std::invalid_argument("a window has left, top, width, height or state");
+    if (std::to_string(actual) == l.word(3)) return pass();
+    fail(l, "the window's " + prop + " is " + std::to_string(actual) + ", not " + l.word(3));
 }
 
 // expect row "SELECT ..." VALUE: the first column of the first row.

@@ -54,6 +54,9 @@ private:
     void cmdClose(const ScriptLine& l);
     void cmdAnswer(const ScriptLine& l);
     void cmdAdvance(const ScriptLine& l);
+    void cmdResize(const ScriptLine& l);
+    void cmdDrag(const ScriptLine& l);
+    void cmdTab(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
 
     void expectEvent(const ScriptLine& l, bool present);
@@ -63,6 +66,9 @@ private:
     void expectForm(const ScriptLine& l);
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
+    void expectDate(const ScriptLine& l);
+    void expectWindow(const ScriptLine& l);
+    void expectTab(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
     void expectReport(const ScriptLine& l, bool present);
     void expectPdfPages(const ScriptLine& l);

@@ -9,12 +9,15 @@
 #include <QListWidget>
 #include <QAction>
 #include <QMessageBox>
+#include <QTabBar>
+#include <QTableView>
 #include <QPainter>
 #include <QPixmap>
 #include <QTextEdit>
 #include <QTimer>
 
 #include "kit/ToolCell.h"
+#include "view/AppointmentList.h"
 #include "view/HostApp.h"
 #include "view/HostSession.h"
 #include "view/HostWindow.h"
@@ -23,6 +26,7 @@ namespace qv {
 
 namespace {
 const QString kNewTask = "frmTask3";
+const QString kAppointment = "frmTAS2";
 const QString kHelp = "frmPopHelp";
 bool closed(const QString& form) { return !StepRunner::formWindow(form); }
 // After a save, and the banner's wait, the close tool reads "D&one" again.
@@ -57,7 +61,9 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
     planPrinting();
     planFiling();
     planFromCatalog();
-    steps_.when("host after", [] { return closed(kNewTask); }, [this] { shoot(&app_.window(), "host-after", false); });
+    planAppointment();
+    steps_.when("host after", [] { return closed(kNewTask) && closed(kAppointment); },
+                [this] { shoot(&app_.window(), "host-after", false); });
     planHostHelp();
     steps_.onFinished([] {
         StepRunner::closeAll();
@@ -183,6 +189,40 @@ void DemoDriver::planFromCatalog() {
     steps_.then("add the task", [] { StepRunner::clickTool(kNewTask, "smtActions.QV2"); });
     shootWhenShown(kNewTask, "new-task-added", false, 200);
     steps_.when("close New Task again", saved, [] { StepRunner::clickTool(kNewTask, "smtActions.DONE"); });
+}
+
+void DemoDriver::planAppointment() {
+    steps_.when("schedule an appointment", [] { return closed(kNewTask); }, [this] {
+        HostWindow& w = app_.window();
+        auto* table = w.findChild<QTableView*>("tblTasks");
+        if (table && table->model()->rowCount() > 0) table->setCurrentIndex(table->model()->index(0, 0));
+        w.scheduleAppointment();
+    });
+    // The schedule's write pumps events: the next step waits for its slot in the list.
+    steps_.when("work the appointment", [this] { return !app_.window().appointments().chosen().empty(); },
+                [this] { app_.window().workAppointment(); });
+    shootWhenShown(kAppointment, "appointment-fresh", allSizes_);
+    steps_.then("time the work", [] {
+        StepRunner::clickTool(kAppointment, "smtTimes.TIMER");
+        QWidget* w = StepRunner::formWindow(kAppointment);
+        if (auto* cell = w ? w->findChild<ToolCell*>("smtTimes.TIMESPENT") : nullptr)
+            if (auto* edit = cell->findChild<QLineEdit*>()) {
+                edit->setFocus();
+                edit->selectAll();
+                StepRunner::typeInto(edit, "0:40");
+                if (auto* notes = w->findChild<QTextEdit*>("spellTask")) notes->setFocus();
+            }
+    });
+    shootWhenShown(kAppointment, "appointment-worked", allSizes_, 1200);
+    steps_.then("mark the task done", [] {
+        QWidget* w = StepRunner::formWindow(kAppointment);
+        if (auto* cell = w ? w->findChild<ToolCell*>("smtReady.DONE") : nullptr)
+            if (auto* box = cell->findChild<QAbstractButton*>()) box->click();
+        if (auto* tabs = w ? w->findChild<QTabBar*>("Tabs1.bar") : nullptr) tabs->setCurrentIndex(2);
+    });
+    shootWhenShown(kAppointment, "appointment-completed", allSizes_);
+    steps_.then("update the appointment", [] { StepRunner::clickTool(kAppointment, "smtActions.SAVE"); });
+    steps_.when("appointment closed", [] { return closed(kAppointment); }, [] {});
 }
 
 // The host's own help commands: the index, then the tour with its tool.

@@ -3,9 +3,10 @@
 // with a past deadline and files it in the Task Catalog, opens Add
 // Project, Add Keyword, the checklist picker and editor, Page Setup, the
 // print preview and a print, creates a task from the catalog item (its past
-// deadline red) and adds it; on the way it opens each dialog's help,
-// previews and prints a help page, and shows the help index and the tour
-// from the host. Every window it meets
+// deadline red) and adds it, then schedules an appointment for that task and
+// works it to completion; on the way it opens each dialog's help, previews
+// and prints a help page, and shows the help index and the tour from the
+// host. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
 // minimum and a larger size. Missing dialogs are skipped after a time-out.
 
@@ -37,6 +38,7 @@ private:
     void planPrinting();
     void planFiling();
     void planFromCatalog();
+    void planAppointment();
     void planHelp(const QString& form, const QString& helpCell, const QString& name, bool printing);
     void planHostHelp();
     [[nodiscard]] static QWidget* previewWindow();

@@ -1,12 +1,19 @@
 #include "view/HostSession.h"
 
+#include <algorithm>
 #include <exception>
+
+#include <QDateTime>
 
 #include <QSettings>
 
 #include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsTaskSchedule.h"
+#include "values/CCreateGuid.h"
+#include "values/DateSerial.h"
 #include "toolkit/Ports.h"
 #include "view/HostReporter.h"
 #include "view/HostStore.h"
@@ -72,7 +79,8 @@ std::vector<std::string> HostSession::userStuff() const {
     return {qEnvironmentVariable("USER", "user").toStdString(), "Quorvel demo host", "", "", "", ""};
 }
 
-void HostSession::open(int32_t mode, const std::string& key, const std::string& projectKey) {
+void HostSession::open(int32_t mode, const std::string& key, const std::string& projectKey,
+                       const std::string& appointmentKey) {
     // A session that ended on a fault is not used again: the next task gets a fresh one.
     if (ended_) {
         emit logged(QStringLiteral("The last session ended on a fault; starting a new one"));
@@ -80,7 +88,7 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
     }
     try {
         const int32_t slot = slotFor(mode);
-        task_->SetupTask(mode, key, userStuff(), slot, printInfo(slot), {}, projectKey);
+        task_->SetupTask(mode, key, userStuff(), slot, printInfo(slot), appointmentKey, projectKey);
     } catch (const std::exception& e) {
         emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
     }
@@ -90,6 +98,35 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
 void HostSession::newTask(const std::string& projectKey) { open(0, {}, projectKey); }
 
 void HostSession::taskFromCatalog(const std::string& catalogKey) { open(6, catalogKey, {}); }
+
+void HostSession::workAppointment(const std::string& appointmentKey) {
+    open(2, appointmentKey, {}, appointmentKey);
+}
+
+std::string HostSession::scheduleAppointment(const std::string& taskKey) {
+    const auto tasks = store_.tasks(false);
+    const auto it = std::find_if(tasks.begin(), tasks.end(), [&](const TaskRow& t) { return t.guid == taskKey; });
+    if (it == tasks.end()) return {};
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDateTime start(now.date(), QTime(now.time().hour(), 0));
+    const auto serial = [](const QDateTime& t) {
+        return Date{dateserial::fromCivil(t.date().year(), t.date().month(), t.date().day(), t.time().hour(),
+                                          t.time().minute())};
+    };
+    const std::string key = CCreateGuid::guid();
+    clsTaskSchedule schedule;
+    RecordsetPtr rs;
+    schedule.SetSQL("SELECT * from TASKAPPTS WHERE taTaskGUIDID=" + sqlLiteral(taskKey));
+    if (!schedule.GetDataKEY(rs)) return {};
+    // Importance before difficulty, a digit each.
+    const std::string levels = std::to_string(std::clamp(it->imp, 0, 4)) + std::to_string(std::clamp(it->diff, 0, 4));
+    if (!schedule.AddTA(key, taskKey, it->project, it->projectKey, serial(start.addSecs(3600)),
+                        serial(start.addSecs(7200)), it->desc, levels))
+        return {};
+    emit logged(QStringLiteral("Scheduled an appointment for \"%1\"").arg(QString::fromStdString(it->desc)));
+    emit listsChanged();
+    return key;
+}
 
 // A slot the component never handed back gets the whole default string.
 std::string HostSession::printInfo(int32_t slot) const {

@@ -23,6 +23,11 @@ public:
 
     void newTask(const std::string& projectKey);
     void taskFromCatalog(const std::string& catalogKey);
+    // Works one appointment (mode 2): the dialog reads the slot by its key.
+    void workAppointment(const std::string& appointmentKey);
+    // Adds an hour's appointment to a task through the component's
+    // schedule class, starting at the next full hour; its key, or empty.
+    std::string scheduleAppointment(const std::string& taskKey);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.
@@ -38,7 +43,8 @@ private:
     void onRaised(const HostEvent& e);
     void savePrintInfo(const std::string& info, int32_t slot);
     [[nodiscard]] std::vector<std::string> userStuff() const;
-    void open(int32_t mode, const std::string& key, const std::string& projectKey);
+    void open(int32_t mode, const std::string& key, const std::string& projectKey,
+              const std::string& appointmentKey = {});
 
     std::string folder_;
     HostStore& store_;

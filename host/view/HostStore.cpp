@@ -60,7 +60,7 @@ std::vector<TaskRow> HostStore::tasks(bool currentOnly, const std::string& proje
     Db db = openDb(path());
     std::string sql =
         "SELECT tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskDeadline, tskTimeNeeded, "
-        "tskTimeSpent, tskPossPoints, tskCurrent FROM TASKS WHERE 1=1";
+        "tskTimeSpent, tskPossPoints, tskCurrent, tskImp, tskDifficulty FROM TASKS WHERE 1=1";
     std::vector<std::string> params;
     if (currentOnly) sql += " AND tskCurrent<>0";
     if (!projectKey.empty()) {
@@ -75,7 +75,7 @@ std::vector<TaskRow> HostStore::tasks(bool currentOnly, const std::string& proje
         rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3),
                         sqlite3_column_type(r, 4) == SQLITE_NULL ? -1 : sqlite3_column_int(r, 4), text(r, 5),
                         sqlite3_column_int(r, 6), sqlite3_column_int(r, 7), sqlite3_column_int(r, 8),
-                        sqlite3_column_int(r, 9) != 0});
+                        sqlite3_column_int(r, 9) != 0, sqlite3_column_int(r, 10), sqlite3_column_int(r, 11)});
     }
     return rows;
 }
@@ -95,6 +95,20 @@ std::vector<std::string> HostStore::statusList() const {
                                  "SetSettingSection='Status' ORDER BY setSettingDisplayOrd, SetSettingName"))
         words.push_back(row.name);
     return words;
+}
+
+std::vector<AppointmentRow> HostStore::appointments(const std::string& taskKey) const {
+    Db db = openDb(path());
+    Stmt s = prepare(db.get(),
+                     "SELECT taGUIDID, taStartTime, taEndTime, taTaskDesc, taWasWorked FROM TASKAPPTS "
+                     "WHERE taTaskGUIDID=? ORDER BY taStartTime",
+                     {taskKey});
+    std::vector<AppointmentRow> rows;
+    while (sqlite3_step(s.get()) == SQLITE_ROW) {
+        sqlite3_stmt* r = s.get();
+        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), sqlite3_column_int(r, 4) != 0});
+    }
+    return rows;
 }
 
 void HostStore::deleteTask(const std::string& guid) const {

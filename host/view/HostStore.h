@@ -19,6 +19,17 @@ struct TaskRow {
     int32_t timeSpent = 0;
     int32_t points = 0;
     bool current = false;
+    int32_t imp = 0;
+    int32_t diff = 0;
+};
+
+// One Task Appointment of a task, as the host lists them.
+struct AppointmentRow {
+    std::string key;
+    std::string start;  // ISO text as stored
+    std::string end;
+    std::string desc;
+    bool worked = false;
 };
 
 struct NamedRow {
@@ -36,6 +47,8 @@ public:
     [[nodiscard]] std::vector<NamedRow> catalog() const;
     [[nodiscard]] std::vector<NamedRow> projects() const;
     [[nodiscard]] std::vector<std::string> statusList() const;
+    // A task's appointments, earliest first.
+    [[nodiscard]] std::vector<AppointmentRow> appointments(const std::string& taskKey) const;
     // The rows the host owns for a task that the component deleted.
     void deleteTask(const std::string& guid) const;
 

@@ -19,6 +19,7 @@
 
 #include "help/HelpTopics.h"
 #include "session/globals/SessionGlobals.h"
+#include "view/AppointmentList.h"
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "view/HostSession.h"
@@ -60,7 +61,10 @@ void HostWindow::buildActions() {
     bar->addSeparator();
     // Commands of the other dialogs: present, not yet offered.
     add("actOpenTask", "&Open Task", false);
-    add("actWorkAppointment", "&Work Appointment", false);
+    workAppointment_ = add("actWorkAppointment", "&Work Appointment", false);
+    connect(workAppointment_, &QAction::triggered, this, &HostWindow::workAppointment);
+    schedule_ = add("actSchedule", "Schedule Appointmen&t", false);
+    connect(schedule_, &QAction::triggered, this, &HostWindow::scheduleAppointment);
     add("actSaveToCatalog", "&Save to Catalog", false);
     bar->addSeparator();
     connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
@@ -99,7 +103,17 @@ QWidget* HostWindow::buildTaskPage() {
     const auto& fm = fontMetrics();
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
     table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
-    column->addWidget(table_, 1);
+    column->addWidget(table_, 3);
+    auto* apptLabel = new QLabel("&Appointments of the chosen task:", page);
+    appointments_ = new AppointmentList(store_, page);
+    apptLabel->setBuddy(appointments_);
+    column->addWidget(apptLabel);
+    column->addWidget(appointments_, 1);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &HostWindow::refreshAppointments);
+    connect(appointments_, &QListWidget::currentRowChanged, this,
+            [this](int row) { workAppointment_->setEnabled(row >= 0); });
+    connect(appointments_, &QListWidget::itemActivated, this, &HostWindow::workAppointment);
     connect(project_, &QComboBox::currentIndexChanged, this, &HostWindow::refresh);
     connect(currentOnly_, &QCheckBox::toggled, this, &HostWindow::refresh);
     return page;
@@ -142,7 +156,13 @@ void HostWindow::refresh() {
         refreshProjects();
         QStringList words;
         for (const auto& w : store_.statusList()) words << QString::fromStdString(w);
+        const std::string keepTask = chosenTask();
         tasks_->setRows(store_.tasks(currentOnly_->isChecked(), chosenProject()), words);
+        for (int r = 0; !keepTask.empty() && r < tasks_->rowCount(); ++r)
+            if (tasks_->rowAt(r)->guid == keepTask) {
+                table_->setCurrentIndex(tasks_->index(r, 0));
+                break;
+            }
         const QString chosen = catalog_->currentItem() ? catalog_->currentItem()->data(Qt::UserRole).toString() : "";
         catalog_->clear();
         for (const auto& c : store_.catalog()) {
@@ -151,9 +171,36 @@ void HostWindow::refresh() {
             if (item->data(Qt::UserRole).toString() == chosen) catalog_->setCurrentItem(item);
         }
         fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
+        refreshAppointments();
     } catch (const std::exception& e) {
         log(QStringLiteral("Could not read the store: %1").arg(e.what()));
     }
+}
+
+std::string HostWindow::chosenTask() const {
+    const TaskRow* row = tasks_->rowAt(table_->currentIndex().row());
+    return row ? row->guid : std::string();
+}
+
+void HostWindow::refreshAppointments() {
+    const std::string task = chosenTask();
+    appointments_->showTask(task);
+    schedule_->setEnabled(!task.empty());
+    workAppointment_->setEnabled(!appointments_->chosen().empty());
+}
+
+void HostWindow::workAppointment() {
+    const std::string key = appointments_->chosen();
+    if (!key.empty()) session_.workAppointment(key);
+}
+
+void HostWindow::scheduleAppointment() {
+    const std::string task = chosenTask();
+    if (task.empty()) return;
+    const std::string key = session_.scheduleAppointment(task);
+    appointments_->showTask(task);
+    for (int i = 0; i < appointments_->count(); ++i)
+        if (appointments_->item(i)->data(Qt::UserRole).toString().toStdString() == key) appointments_->setCurrentRow(i);
 }
 
 void HostWindow::newTask() { session_.newTask(chosenProject()); }

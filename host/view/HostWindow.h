@@ -16,6 +16,7 @@ class QTableView;
 
 namespace qv {
 
+class AppointmentList;
 class HostSession;
 class HostStore;
 class TaskTableModel;
@@ -31,6 +32,13 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Mode 2 on the chosen appointment of the chosen task.
+    void workAppointment();
+    // A new hour's appointment for the chosen task.
+    void scheduleAppointment();
+    [[nodiscard]] AppointmentList& appointments() const { return *appointments_; }
+    // The key of the task chosen in the list, or empty.
+    [[nodiscard]] std::string chosenTask() const;
     // Opens a help topic in the component's help pop-up.
     void openHelp(int32_t topic);
 
@@ -40,6 +48,7 @@ private:
     QWidget* buildCatalogPage();
     void buildLog();
     void refreshProjects();
+    void refreshAppointments();
     void log(const QString& line);
 
     HostStore& store_;
@@ -51,6 +60,9 @@ private:
     QListWidget* catalog_ = nullptr;
     QPlainTextEdit* log_ = nullptr;
     QAction* fromCatalog_ = nullptr;
+    AppointmentList* appointments_ = nullptr;
+    QAction* workAppointment_ = nullptr;
+    QAction* schedule_ = nullptr;
 };
 
 }  // namespace qv

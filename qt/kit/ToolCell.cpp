@@ -149,6 +149,9 @@ QWidget* ToolCell::makeList() {
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    // Sized by a few characters, not by measuring every entry of a long list.
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
     connect(box, &QComboBox::activated, this, [this](int index) {
         const auto& items = tool_->items();
         if (index < 0 || index >= static_cast<int>(items.size())) return;
@@ -184,6 +187,13 @@ QWidget* ToolCell::makeTextBox() {
         const std::string s = text.toStdString();
         owner_.forward(tool_, [&s](Tool& t) { t.sheet()->userEdit(t, s); });
     });
+    // The dialog may refuse the edit when it starts, and judges it when it ends.
+    edit->installEventFilter(this);
+    connect(edit, &QLineEdit::editingFinished, this, [this, edit] {
+        if (edit->isReadOnly() || !edit->isModified()) return;
+        edit->setModified(false);
+        owner_.forward(tool_, [](Tool& t) { t.sheet()->endEdit(t); });
+    });
     return makeLabeled(edit);
 }
 
@@ -213,6 +223,11 @@ QWidget* ToolCell::makeLabel() {
 QWidget* ToolCell::makeIcon() { return nullptr; }
 
 bool ToolCell::eventFilter(QObject* watched, QEvent* e) {
+    if (auto* edit = qobject_cast<QLineEdit*>(watched); edit && e->type() == QEvent::FocusIn) {
+        bool allowed = true;
+        owner_.forward(tool_, [&allowed](Tool& t) { allowed = t.sheet()->beginEdit(t); });
+        edit->setReadOnly(!allowed);
+    }
     if (watched == main_ && e->type() == QEvent::MouseButtonDblClick)
         owner_.forward(tool_, [](Tool& t) { t.sheet()->doubleClick(t); });
     return QWidget::eventFilter(watched, e);
@@ -230,7 +245,9 @@ void ToolCell::refresh() {
     if (caption_) caption_->setText(caption);
     if (auto* b = qobject_cast<QAbstractButton*>(main_)) {
         QSignalBlocker block(b);
-        b->setText(caption);
+        // A button that shows a reading (the stopwatch) shows it after its caption.
+        const bool reading = kind_ == Kind::Button && !t.text().empty();
+        b->setText(reading ? caption + " " + qs(t.text()) : caption);
         if (kind_ == Kind::Button || kind_ == Kind::MenuButton) b->setIcon(ToolIcons::icon(t.image()));
         if (kind_ == Kind::Check || kind_ == Kind::Option) b->setChecked(t.checked());
     }
@@ -258,7 +275,10 @@ void ToolCell::refreshList() {
     const auto& items = tool_->items();
     if (box->count() != static_cast<int>(items.size())) {
         box->clear();
-        for (const auto& i : items) box->addItem(qs(i->caption()));
+        QStringList captions;
+        captions.reserve(static_cast<qsizetype>(items.size()));
+        for (const auto& i : items) captions << qs(i->caption());
+        box->addItems(captions);
     } else {
         for (int n = 0; n < box->count(); ++n) box->setItemText(n, qs(items[static_cast<size_t>(n)]->caption()));
     }

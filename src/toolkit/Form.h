@@ -19,6 +19,7 @@ class Timer;
 class Splitter;
 class Grid;
 class Label;
+class TabStrip;
 
 // Key codes the dialogs look at.
 enum KeyCode : int32_t { vbKeyReturn = 13, vbKeyEscape = 27, vbKeyF1 = 112 };
@@ -76,6 +77,7 @@ public:
     [[nodiscard]] Splitter* splitter(const std::string& name) const { return lookup(splitters_, name); }
     [[nodiscard]] Grid* grid(const std::string& name) const { return lookup(grids_, name); }
     [[nodiscard]] Label* label(const std::string& name) const { return lookup(labels_, name); }
+    [[nodiscard]] TabStrip* tabStrip(const std::string& name) const { return lookup(tabStrips_, name); }
     [[nodiscard]] const std::map<std::string, Sheet*>& sheets() const { return sheets_; }
 
     // The forms loaded now, oldest first (the error path unloads them all).
@@ -101,6 +103,7 @@ protected:
     void addControl(const std::string& name, Splitter& c) { splitters_[name] = &c; }
     void addControl(const std::string& name, Grid& c) { grids_[name] = &c; }
     void addControl(const std::string& name, Label& c) { labels_[name] = &c; }
+    void addControl(const std::string& name, TabStrip& c) { tabStrips_[name] = &c; }
 
 private:
     friend class FormAccess;
@@ -127,6 +130,7 @@ private:
     std::map<std::string, Splitter*> splitters_;
     std::map<std::string, Grid*> grids_;
     std::map<std::string, Label*> labels_;
+    std::map<std::string, TabStrip*> tabStrips_;
 };
 
 // The Ui ports' side door: they flip visibility as their windows come and go.

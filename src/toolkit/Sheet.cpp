@@ -97,6 +97,17 @@ void Sheet::doubleClick(Tool& t) {
     DblClick(t);
 }
 
+bool Sheet::beginEdit(Tool& t) {
+    if (!enabled_ || !t.enabled()) return false;
+    bool cancel = false;
+    BeforeEdit(t, cancel);
+    return !cancel;
+}
+
+void Sheet::endEdit(Tool& t) {
+    if (enabled_ && t.enabled()) AfterEdit(t);
+}
+
 void Sheet::userEdit(Tool& t, const std::string& text) {
     if (!enabled_ || !t.enabled()) return;
     t.setText(text);

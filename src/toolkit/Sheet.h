@@ -48,9 +48,15 @@ public:
     void userEdit(Tool& t, const std::string& text);
     // A double click on a tool, after the click that went before it.
     void doubleClick(Tool& t);
+    // The user starts to type into a tool: false when a handler cancelled it.
+    bool beginEdit(Tool& t);
+    // The user has finished typing into a tool (left it or pressed Enter).
+    void endEdit(Tool& t);
 
     Event<Tool&> Click;
     Event<Tool&> DblClick;
+    Event<Tool&, bool&> BeforeEdit;  // tool, cancel
+    Event<Tool&> AfterEdit;
     Event<Tool&, const std::string&> Change;  // tool, property name ("Value")
     Event<> Changed;                           // anything a view shows changed
 

@@ -82,7 +82,9 @@ void Tool::setChecked(bool c) {
 }
 
 Tool& Tool::addItem(int32_t type, const std::string& key, const std::string& caption) {
-    if (!key.empty() && (item(key) || (sheet_ && sheet_->find(key))))
+    // The sheet's index holds every key of its tools and items: a list of
+    // hundreds of entries fills without walking itself on every add.
+    if (!key.empty() && (sheet_ ? sheet_->find(key) != nullptr : item(key) != nullptr))
         throw Failure(35602, "Key is not unique in collection");
     items_.push_back(std::make_unique<Tool>(sheet_, this, type, key, caption));
     if (sheet_) sheet_->indexAdd(*items_.back());

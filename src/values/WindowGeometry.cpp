@@ -10,23 +10,24 @@
 namespace qv {
 
 namespace {
-enum Pos : std::size_t { kTop = 0, kLeft = 1, kWidth = 2, kHeight = 3 };
+constexpr std::size_t kWidth = 2, kHeight = 3;
 }  // namespace
 
-WindowGeometry WindowGeometry::forTAS(Form& form) { return {form, g().TASWindow, 8400, 6300, 5}; }
+WindowGeometry WindowGeometry::forTAS(Form& form) {
+    return {form, g().TASWindow, 8400, 6300, Slots{1, 0, 5, false}};
+}
 
-WindowGeometry WindowGeometry::forExistingTask(Form& form) { return {form, g().ETaskWindow, 8400, 6710, 4}; }
+WindowGeometry WindowGeometry::forExistingTask(Form& form) { return {form, g().ETaskWindow, 8400, 6710, Slots{}}; }
 
-WindowGeometry WindowGeometry::forNewTask(Form& form) { return {form, g().TaskWindow, 8400, 6000, 4}; }
+WindowGeometry WindowGeometry::forNewTask(Form& form) { return {form, g().TaskWindow, 8400, 6000, Slots{}}; }
 
-WindowGeometry::WindowGeometry(Form& form, Window& window, int32_t minWidth, int32_t minHeight,
-                               std::size_t statePos)
-    : form_(form), window_(window), minWidth_(minWidth), minHeight_(minHeight), statePos_(statePos) {}
+WindowGeometry::WindowGeometry(Form& form, Window& window, int32_t minWidth, int32_t minHeight, Slots slots)
+    : form_(form), window_(window), minWidth_(minWidth), minHeight_(minHeight), slots_(slots) {}
 
 void WindowGeometry::onResize() {
     const auto& geo = form_.geometry();
     if (geo.state == vbMaximized || geo.state == vbMinimized) {
-        window_[statePos_] = geo.state;
+        window_[slots_.state] = geo.state;
         return;
     }
     if (geo.width < minWidth_ || geo.height < minHeight_)
@@ -40,20 +41,23 @@ void WindowGeometry::onClose() {
 }
 
 void WindowGeometry::restore() {
-    const int32_t state = window_[statePos_];
+    const int32_t state = window_[slots_.state];
     if (state < vbNormal || state > vbMaximized) return;
-    form_.move(window_[kLeft], window_[kTop], window_[kWidth], window_[kHeight]);
+    form_.move(window_[slots_.left], window_[slots_.top], window_[kWidth], window_[kHeight]);
     // Never reopened minimised.
-    if (state != vbNormal) form_.setWindowState(vbMaximized);
+    if (state == vbMaximized || (state == vbMinimized && slots_.minimisedComesBackMaximised))
+        form_.setWindowState(vbMaximized);
+    else if (state == vbMinimized)
+        form_.setWindowState(vbNormal);
 }
 
 void WindowGeometry::keepNormalGeometry() {
     const auto& geo = form_.geometry();
-    window_[kTop] = geo.top;
-    window_[kLeft] = geo.left;
+    window_[slots_.top] = geo.top;
+    window_[slots_.left] = geo.left;
     window_[kWidth] = geo.width;
     window_[kHeight] = geo.height;
-    window_[statePos_] = vbNormal;
+    window_[slots_.state] = vbNormal;
 }
 
 std::string WindowGeometry::layoutPath(const std::string& fileName) {

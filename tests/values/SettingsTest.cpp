@@ -131,8 +131,8 @@ TEST_F(SettingsTest, SaveWritesGeometryButNoNegativeTasValue) {
          "setSettingDisplayOrd) VALUES ('1','ETASKSettings','meTop','1','1',1)");
     ASSERT_TRUE(SaveSettings());
     EXPECT_TRUE(reporter().faults().empty());
-    EXPECT_EQ(value("TAS", "meTop"), "10");
-    EXPECT_EQ(value("TAS", "meLeft"), "2000");  // the negative one stays unwritten
+    EXPECT_EQ(value("TAS", "meLeft"), "10");  // the appointment window keeps left first
+    EXPECT_EQ(value("TAS", "meTop"), "2000");  // the negative one stays unwritten
     EXPECT_EQ(value("TAS", "WindowState"), "2");
     EXPECT_EQ(value("TASKWINDOW", "WindowState"), "1");
     EXPECT_EQ(value("ETASK", "meHeight"), "7000");

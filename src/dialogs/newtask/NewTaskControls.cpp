@@ -1,5 +1,7 @@
 #include "dialogs/newtask/NewTaskControls.h"
 
+#include "dialogs/shared/PrintingMenu.h"
+
 namespace qv {
 
 NewTaskControls::NewTaskControls() {
@@ -16,10 +18,7 @@ NewTaskControls::NewTaskControls() {
 void NewTaskControls::buildActions() {
     auto& s = smtActions;
     s.add(ttButton, "HELP", "&Help").setTip("Help with New Tasks");
-    Tool& printing = s.add(ttDropSeparator, {}, "Printin&g ");
-    printing.addItem(ttButton, "PRINT", "&Print");
-    printing.addItem(ttButton, "PRINTPREVIEW", "Print Pr&eview");
-    printing.addItem(ttButton, "PAGESETUP", "Page &Setup...");
+    PrintingMenu::add(s, "Page &Setup...");
     s.add(ttButton, "RESETL", "&Reset").setTip("Reset the layout of this screen");
     Tool& clear = s.add(ttButton, "CLEAR", "C&lear");
     clear.setTip("Clear all information");

@@ -13,6 +13,8 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/ReportPrinter.h"
+#include "dialogs/shared/SpellChecking.h"
+#include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "values/DateFormats.h"
@@ -24,7 +26,6 @@ namespace qv {
 
 namespace {
 const char* const kModule = "frmTask3";
-const char* const kSpellSettings = "TarnvikQuorvel";
 const char* const kNoChecklistText = "(Pick a Checklist...)";
 }  // namespace
 
@@ -115,13 +116,7 @@ void frmTask3::SetupDetails() {
     });
 }
 
-void frmTask3::setSpellChecking() {
-    const bool on = g().SpellCheckOn;
-    for (TextEditor* e : {&c_.spellTask, &c_.SpellNotes}) {
-        e->setSpellCheckOn(on);
-        if (on) e->bindSettings(kSpellSettings);
-    }
-}
+void frmTask3::setSpellChecking() { applySpellChecking({&c_.spellTask, &c_.SpellNotes}); }
 
 void frmTask3::fillLevelSheets() {
     const auto& s = g();
@@ -170,10 +165,7 @@ void frmTask3::setCKEditMode(int16_t mode) { ckLink_->setCKEditMode(mode); }
 
 int16_t frmTask3::CheckListMode() const { return static_cast<int16_t>(fields_->checklist.CheckListMode); }
 
-std::string frmTask3::TrimtoLen(const std::string& text, std::size_t limit) {
-    if (charCount(text) <= limit) return text;
-    return midChars(text, 1, limit) + "...";
-}
+std::string frmTask3::TrimtoLen(const std::string& text, std::size_t limit) { return qv::TrimtoLen(text, limit); }
 
 void frmTask3::setPrinter(std::shared_ptr<TaskPrinter> printer) {
     if (printer) printer_ = std::move(printer);

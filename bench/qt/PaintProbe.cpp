@@ -1,0 +1,110 @@
+#include "PaintProbe.h"
+
+#include <fstream>
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QTimer>
+#include <unistd.h>
+
+#include "kit/FormWindow.h"
+#include "kit/QtUi.h"
+#include "kit/SheetWidget.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/Tool.h"
+#include "view/HostApp.h"
+#include "view/StepRunner.h"
+
+namespace qv {
+
+namespace {
+
+// Notes the time of a window's first paint.
+class FirstPaint : public QObject {
+public:
+    explicit FirstPaint(QElapsedTimer& clock) : clock_(clock) {}
+    qint64 at = -1;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* e) override {
+        if (e->type() == QEvent::Paint && at < 0) at = clock_.nsecsElapsed();
+        return QObject::eventFilter(watched, e);
+    }
+
+private:
+    QElapsedTimer& clock_;
+};
+
+// Every sheet of the window has the cell of its last tool.
+bool complete(QWidget* window) {
+    for (SheetWidget* w : window->findChildren<SheetWidget*>()) {
+        const auto& tools = w->sheet().tools();
+        if (!tools.empty() && !tools.back()->key().empty() && !w->cellOf(tools.back()->key())) return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+double PaintProbe::residentMb() {
+    std::ifstream statm("/proc/self/statm");
+    long pages = 0, resident = 0;
+    statm >> pages >> resident;
+    return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1024.0 * 1024.0);
+}
+
+PaintTimes PaintProbe::measure(HostApp& host, const QString& form, const QString& closeTool,
+                               const std::function<void()>& open) {
+    PaintTimes t;
+    QElapsedTimer clock;
+    FirstPaint paint(clock);
+    host.ui().setWindowBuilt([&paint, form](FormWindow& w) {
+        if (w.objectName() == form) w.installEventFilter(&paint);
+    });
+    // Polled on every pass of the event loop, inside the modal wait.
+    QTimer poll;
+    poll.setInterval(0);
+    const double before = residentMb();
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        QWidget* w = StepRunner::formWindow(form);
+        if (!w || paint.at < 0 || t.completeMs >= 0 || !complete(w)) return;
+        t.completeMs = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+        t.memoryGrowthMb = residentMb() - before;
+        poll.stop();
+        StepRunner::clickTool(form, closeTool);
+    });
+    StepRunner steps(30000);
+    steps.onMessageBox([](auto&) { return 0; });
+    steps.onFinished([] { StepRunner::closeAll(); });
+    steps.when("closed", [&] { return t.completeMs >= 0 && !StepRunner::formWindow(form); }, [] {});
+    steps.start();
+    poll.start();
+    clock.start();
+    open();
+    host.ui().setWindowBuilt(nullptr);
+    if (paint.at >= 0) t.firstPaintMs = static_cast<double>(paint.at) / 1e6;
+    return t;
+}
+
+void PaintProbe::run(benchmark::State& state, HostApp& host, const QString& form, const std::function<void()>& open) {
+    double complete = 0, growth = 0;
+    for (auto _ : state) {
+        const PaintTimes t = measure(host, form, "smtActions.DONE", open);
+        if (t.firstPaintMs < 0 || t.completeMs < 0) {
+            state.SkipWithError("the window was never painted whole");
+            break;
+        }
+        state.SetIterationTime(t.firstPaintMs / 1e3);
+        complete += t.completeMs;
+        growth += t.memoryGrowthMb;
+    }
+    const double n = static_cast<double>(state.iterations());
+    state.counters["complete_ms"] = n > 0 ? complete / n : 0;
+    state.counters["rss_growth_MB"] = n > 0 ? growth / n : 0;
+    StepRunner::closeAll();
+}
+
+}  // namespace qv

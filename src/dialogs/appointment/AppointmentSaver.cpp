@@ -1,0 +1,222 @@
+#include "dialogs/appointment/AppointmentSaver.h"
+
+#include <cmath>
+
+#include "dialogs/appointment/frmTAS2.h"
+#include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/PointsTally.h"
+#include "dialogs/shared/StatusWords.h"
+#include "dialogs/shared/UnlessEqual.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/SaveTransaction.h"
+#include "store/clsNewTask.h"
+#include "store/clsStatusList.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+#include "values/CNull.h"
+#include "values/Convert.h"
+#include "values/DateSerial.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+
+const char* const kBlankTimeSpent =
+    "Task Appointment Time Spent is blank. Set it to this Task Appointment's duration?";
+const char* const kNoChecklist = "-NONE";
+
+RecordsetPtr openKeyed(clsNewTask& source, const std::string& sql) {
+    RecordsetPtr rs;
+    source.SetSQLKey(sql);
+    if (!source.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
+    return rs;
+}
+
+double timeOfDay(const std::string& text) {
+    const auto serial = tryToDate(text);
+    if (!serial) throw Failure(err::TypeMismatch, "Type mismatch");
+    return *serial - std::floor(*serial);
+}
+
+// Whole-minute boundaries crossed from start to end.
+int32_t minutesBetween(double start, double end) {
+    const auto minuteOf = [](double serial) { return std::floor(dateserial::roundToMillisecond(serial) * 1440.0 + 1e-6); };
+    return roundLong(minuteOf(end) - minuteOf(start));
+}
+
+int16_t levelOf(const std::string& tag) { return toInteger(tag); }
+
+// The row's level as the tally reads it: a null is no level.
+int32_t levelIn(Recordset& rs, const char* column) {
+    const Value v = rs.Fields(column).value();
+    return v.isNull() ? -1 : v.toInt32();
+}
+
+}  // namespace
+
+const char* AppointmentSaver::firstFailure() const {
+    auto& c = f_.controls();
+    if (!IsTime(c.smtTimes.tool("START").text())) return "The Task Start time must be a valid time.";
+    if (!IsTime(c.smtTimes.tool("END").text())) return "The Task End time must be a valid time.";
+    if (c.spellTask.text().empty()) return "Task Description cannot be blank.";
+    const std::string& deadline = c.smtABOUT.tool("DEADLINE").text();
+    if (!deadline.empty() && !readsAsDate(deadline))
+        return "The Task Deadline must be a valid date, and optionally, a time.";
+    if (!IsTime(c.smtABOUT.tool("NEEDED").text())) return "Time Needed must be a time value.";
+    if (!IsTime(c.smtABOUT.tool("SPENT").text())) return "Time Spent must be a time value.";
+    return nullptr;
+}
+
+// A No leaves "SAVE" enabled: every path past the checks enables it.
+bool AppointmentSaver::ValidateTask() {
+    Tool& save = f_.controls().smtActions.tool("SAVE");
+    if (const char* message = firstFailure()) {
+        DialogMessages::inform(message);
+        save.setEnabled(false);
+        return false;
+    }
+    const bool ok = askBlankTimeSpent();
+    save.setEnabled(true);
+    return ok;
+}
+
+bool AppointmentSaver::askBlankTimeSpent() {
+    Tool& spent = f_.controls().smtTimes.tool("TIMESPENT");
+    if (IsTime(spent.text())) return true;
+    if (ui().msgBox(kBlankTimeSpent, vbYesNo | vbInformation, kProgramTitle) == vbYes) {
+        spent.setText(f_.getTATimeNeeded());
+        return true;
+    }
+    f_.controls().smtActions.tool("SAVE").setEnabled(false);
+    return false;
+}
+
+// One save, committed before the host hears of it. A failure on the task's
+// row leaves the slot's row stored, as two separate writes always did.
+bool AppointmentSaver::UpdateTASTask() {
+    if (!ValidateTask()) return false;
+    g().SettingUp = true;
+    SaveTransaction save;
+    writeAppointment();
+    save.keepSoFar();
+    writeTask();
+    save.commit();
+    g().SettingUp = false;
+    return true;
+}
+
+void AppointmentSaver::writeAppointment() {
+    auto& c = f_.controls();
+    clsNewTask source;
+    auto rs = openKeyed(source, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
+    f_.StopTHETimer();
+    markWorked(*rs);
+    rs->Fields("taTimeWorked") = Value(FormatCTasTime(c.smtTimes.tool("TIMESPENT").text()));
+    const Tool& project = c.smtABOUT.tool("PROJECT");
+    if (!UnlessEqual::same(rs->Fields("taProject").value(), Value(project.text()))) {
+        rs->Fields("taProject") = Value(project.text());
+        rs->Fields("taProjectGUIDID") = Value(project.tag());
+    }
+    UnlessEqual::write(*rs, "taImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
+    UnlessEqual::write(*rs, "taDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
+    writeSlotTimes(*rs);
+    UnlessEqual::write(*rs, "taTaskDesc", Value(c.spellTask.text()));
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    rs->UpdateBatch(adAffectAllChapters);
+    ui().doEvents();
+    rs->Close();
+}
+
+// Only the two words of the pick say worked or not; the loaded
+// "Completed" of a slot never judged leaves the column alone.
+void AppointmentSaver::markWorked(Recordset& rs) {
+    const std::string& done = f_.controls().smtTimes.tool("DONE").text();
+    if (done == "Complete") {
+        rs.Fields("taWasWorked") = Value(true);
+        fillBlankTimeSpent();
+    } else if (done == "Not Complete") {
+        rs.Fields("taWasWorked") = Value(false);
+    }
+}
+
+void AppointmentSaver::fillBlankTimeSpent() {
+    Tool& spent = f_.controls().smtTimes.tool("TIMESPENT");
+    if (spent.text() == "0:00" || spent.text().empty() || !IsTime(spent.text()))
+        spent.setText(f_.getTATimeNeeded());
+}
+
+// Both ends take the day of the one date box: a slot lies in one day.
+void AppointmentSaver::writeSlotTimes(Recordset& rs) {
+    auto& c = f_.controls();
+    const double day = std::floor(c.ctTADate.value());
+    UnlessEqual::write(rs, "taStartTime", Value(Date{day + timeOfDay(c.smtTimes.tool("START").text())}));
+    UnlessEqual::write(rs, "taEndTime", Value(Date{day + timeOfDay(c.smtTimes.tool("END").text())}));
+    const double start = rs.Fields("taStartTime").value().toDate().serial;
+    const double end = rs.Fields("taEndTime").value().toDate().serial;
+    rs.Fields("taDuration") = Value(minutesBetween(start, end));
+}
+
+void AppointmentSaver::writeTask() {
+    auto& c = f_.controls();
+    clsNewTask source;
+    auto rs = openKeyed(source, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+    const std::string oldChecklist = CNull::NVLStr(rs->Fields("tskTCheckListGUID").value());
+    rs->Fields("tskNotes") = Value("" + c.SpellNotes.text());
+    const Tool& project = c.smtABOUT.tool("PROJECT");
+    if (!UnlessEqual::same(rs->Fields("tskProject").value(), Value(project.text()))) {
+        rs->Fields("tskProject") = Value(project.text());
+        rs->Fields("tskProjectKey") = Value(project.tag());
+    }
+    UnlessEqual::write(*rs, "tskImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
+    UnlessEqual::write(*rs, "tskDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
+    UnlessEqual::write(*rs, "tskTimeNeeded", Value(FormatCTasTime(c.smtABOUT.tool("NEEDED").text())));
+    UnlessEqual::write(*rs, "tskDesc", Value(c.spellTask.text()));
+    writeTaskStatus(*rs);
+    writeTaskChecklist(*rs, oldChecklist);
+    const Value needed = rs->Fields("tskTimeNeeded").value();
+    // A null Time Needed is neither short nor long.
+    const int32_t minutes = needed.isNull() ? 11 : needed.toInt32();
+    rs->Fields("tskPossPoints") = Value(PointsTally::tally(
+        g().PointsTable, levelIn(*rs, "tskImp"), levelIn(*rs, "tskDifficulty"), minutes,
+        CNull::NVLBool(rs->Fields("tskHasChecklist").value()), CNull::NVLBool(rs->Fields("tskHasSchedule").value())));
+    clsStatusList sum;
+    RecordsetPtr total;
+    sum.SetSQL("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =" + sqlLiteral(f_.TATaskGUID));
+    if (!sum.GetDataKEY(total)) throw Failure(err::ObjectRequired, "Object required");
+    rs->Fields("tskTimeScheduled") = Value(CNull::NVLLng(total->Fields("QVTOTAL").value()));
+    total->Close();
+    rs->Update();
+    rs->UpdateBatch(adAffectAllChapters);
+    rs->Close();
+}
+
+// Only Completed is ever written here; any other pick changes the tool alone.
+void AppointmentSaver::writeTaskStatus(Recordset& rs) {
+    const auto status = tryToLong(f_.controls().smtABOUT.tool("STATUS").tag());
+    if (!status || *status != StatusWords::kCompleted) return;
+    const double now = clock().now();
+    rs.Fields("tskStatus") = Value(int32_t{StatusWords::kCompleted});
+    rs.Fields("tskCurrent") = Value(false);
+    rs.Fields("tskLastMod") = Value(Date{now});
+    rs.Fields("tskWasImported") = Value(false);
+    rs.Fields("tskDoneDate") = Value(Date{std::floor(now)});
+}
+
+void AppointmentSaver::writeTaskChecklist(Recordset& rs, const std::string& oldKey) {
+    f_.followChecklist();
+    const std::string& key = f_.TACheckListGUID;
+    if (key == kNoChecklist) {
+        rs.Fields("tskTCheckListGUID") = Value(std::string());
+        rs.Fields("tskHasChecklist") = Value(false);
+    } else if (key != oldKey) {
+        rs.Fields("tskTCheckListGUID") = Value(key);
+        rs.Fields("tskHasChecklist") = Value(true);
+    }
+}
+
+}  // namespace qv
