@@ -8,8 +8,10 @@
 #include "installer/DefaultSettings.h"
 #include "installer/HelpPages.h"
 #include "installer/ServerStore.h"
+#include "installer/StoreFile.h"
 #include "installer/StoreSchema.h"
 #include "store/ADOCode.h"
+#include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -112,6 +114,11 @@ void installReportsFolder(const std::string& folder) {
 bool installApplicationFolder(const std::string& folder) {
     std::filesystem::create_directories(folder);
     installReportsFolder(folder);
+    // A folder whose settings file names a server has no store file to make.
+    if (isServerUri(storeLocationOf(folder))) {
+        installHelpPages(folder, helpPagesSource());
+        return false;
+    }
     const bool made = installStore(folder);
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
     installHelpPages(folder, helpPagesSource());
