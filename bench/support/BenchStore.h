@@ -27,6 +27,8 @@ public:
 class BenchStore {
 public:
     explicit BenchStore(const std::string& name);
+    // A folder whose store is a fresh scratch store on the server of serverUri.
+    BenchStore(const std::string& name, const std::string& serverUri);
     ~BenchStore();
     BenchStore(const BenchStore&) = delete;
     BenchStore& operator=(const BenchStore&) = delete;
@@ -34,6 +36,7 @@ public:
     // Fresh globals and this store's ports: benchmarks share the process.
     void use();
     [[nodiscard]] const std::string& folder() const { return folder_; }
+    // The store file's path, or the server store's URI.
     [[nodiscard]] std::string storePath() const;
 
     ScriptedUi ui;
@@ -42,6 +45,7 @@ public:
 
 private:
     std::string folder_;
+    std::string server_;
 };
 
 // The large store of the dialogs' benchmarks: 100,000 tasks, 500 projects,
