@@ -241,6 +241,10 @@ SelectShape analyse(std::string_view sql) {
 }
 
 std::string withRowid(std::string_view sql, const SelectShape& shape, std::string_view identity) {
+    return withColumns(sql, shape, std::string(identity) + " AS " + kRowidColumn);
+}
+
+std::string withColumns(std::string_view sql, const SelectShape& shape, std::string_view columns) {
     if (!shape.isSelect || !shape.singleTable || shape.aggregate || shape.fromPos == std::string::npos)
         return {};
     std::string out;
@@ -250,9 +254,7 @@ std::string withRowid(std::string_view sql, const SelectShape& shape, std::strin
            (out.back() == ' ' || out.back() == '\n' || out.back() == '\t' || out.back() == '\r'))
         out.pop_back();
     out += ", ";
-    out += identity;
-    out += " AS ";
-    out += kRowidColumn;
+    out += columns;
     out.push_back(' ');
     out.append(sql.substr(shape.fromPos, shape.end - shape.fromPos));
     return out;

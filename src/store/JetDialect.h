@@ -41,6 +41,8 @@ inline constexpr const char* kIdentityColumn = "qv_rowid";
 // added as its last column, or an empty text when the shape has no single
 // base table.
 std::string withRowid(std::string_view sql, const SelectShape& shape, std::string_view identity = "rowid");
+// The same with any columns added at the end of the column list.
+std::string withColumns(std::string_view sql, const SelectShape& shape, std::string_view columns);
 
 // A translated text as PostgreSQL reads it: TRUE and FALSE outside literals
 // become 1 and 0, since yes/no columns hold 0/1 there as on the file store.

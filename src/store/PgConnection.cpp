@@ -25,6 +25,9 @@ constexpr Oid kTimestampOid = 1114;
 constexpr Oid kTimestampTzOid = 1184;
 constexpr Oid kNumericOid = 1700;
 
+// The most rows that RecordCount reads with their count.
+constexpr int kProbeRows = 200;
+
 std::map<std::string, std::shared_ptr<PgConnection>>& registry() {
     static std::map<std::string, std::shared_ptr<PgConnection>> connections;
     return connections;
@@ -314,7 +317,16 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     const std::string ctx = where("opening the query \"" + jetSource + "\"");
     QueryPlan p;
     bool planned = false;
-    const std::string idSql = shape.isSelect ? jet::withRowid(sql, shape, jet::kIdentityColumn) : std::string();
+    // Rows that the order leaves equal come in the order they were added,
+    // as from the file store.
+    jet::SelectShape ordered = shape;
+    std::string orderedSql = sql.substr(0, shape.end);
+    if (shape.singleTable && !shape.aggregate && !shape.hasLimit) {
+        orderedSql += std::string(shape.orderPos == std::string::npos ? " ORDER BY " : ", ") + jet::kIdentityColumn;
+        ordered.end = orderedSql.size();
+    }
+    const std::string idSql =
+        shape.isSelect ? jet::withRowid(orderedSql, ordered, jet::kIdentityColumn) : std::string();
     if (!idSql.empty()) {
         // A table without the identity column: the set is read-only. The
         // failed attempt must not spoil a save in progress.
@@ -341,6 +353,12 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     }
     p.isSelect = shape.isSelect;
     p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
+    // The count beside each row (before the limit): a small set needs one question.
+    if (p.withIdentity && !shape.hasLimit)
+        p.probeSql = jet::withColumns(orderedSql, ordered,
+                                      std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn +
+                                          ", COUNT(*) OVER () AS qv_total") +
+                     " LIMIT " + std::to_string(kProbeRows);
     if (shape.isSelect) plans_.emplace(jetSource, p);
     return p;
 }
@@ -353,9 +371,12 @@ void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::funct
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
         return;
     }
-    const PGresult* res = r.get();
+    fill(plan, r.get(), PQnfields(r.get()) - 1, store, newRow);
+}
+
+void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
+                        const std::function<Cell*(int64_t)>& newRow) {
     const int rows = PQntuples(res);
-    const int idField = PQnfields(res) - 1;
     const size_t n = plan.cols.size();
     for (int row = 0; row < rows; ++row) {
         int64_t id = 0;
@@ -373,6 +394,22 @@ int64_t PgConnection::count(const QueryPlan& plan, std::string_view context) {
     const Result r = run(plan.countSql, {}, context);
     if (PQntuples(r.get()) < 1) return -1;
     return std::atoll(PQgetvalue(r.get(), 0, 0));
+}
+
+int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                                  std::string_view context, bool& read) {
+    read = false;
+    if (plan.probeSql.empty()) return count(plan, context);
+    const Result r = run(plan.probeSql, {}, context);
+    const PGresult* res = r.get();
+    const int rows = PQntuples(res);
+    const int fields = PQnfields(res);
+    const int64_t total = rows == 0 ? 0 : std::atoll(PQgetvalue(res, 0, fields - 1));
+    if (total == rows) {
+        fill(plan, res, fields - 2, store, newRow);
+        read = true;
+    }
+    return total;
 }
 
 void PgConnection::removeRow(const std::string& table, int64_t id, std::string_view context) {

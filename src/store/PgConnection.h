@@ -34,6 +34,9 @@ public:
     void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
               std::string_view context) override;
     int64_t count(const QueryPlan& plan, std::string_view context) override;
+    // A set of up to kProbeRows rows comes whole with its count: one round trip.
+    int64_t countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                        std::string_view context, bool& read) override;
     void removeRow(const std::string& table, int64_t id, std::string_view context) override;
     int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
                       const std::vector<Value>& values, std::string_view context) override;
@@ -64,6 +67,8 @@ private:
     QueryPlan describe(const std::string& sql, bool withIdentity, std::string_view context);
     const TableColumns& tableColumns(Oid table, std::string_view context);
     [[noreturn]] void fail(const PGresult* result, std::string_view context);
+    void fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
+              const std::function<Cell*(int64_t)>& newRow);
 
     std::string uri_;
     std::string name_;

@@ -118,22 +118,27 @@ struct Recordset::Impl {
         editIsAddNew = false;
     }
 
-    void load() {
-        reset();
-        const size_t n = cols.size();
-        conn->read(
-            plan, store,
-            [&](int64_t id) {
-                Row& row = rows.emplace_back();
-                row.rowid = id;
-                Cell* cells = store.cells(n);
-                row.cells = cells;
-                return cells;
-            },
-            context("reading"));
+    // Where the engine puts each row it reads.
+    [[nodiscard]] std::function<Cell*(int64_t)> rowSink() {
+        return [this](int64_t id) {
+            Row& row = rows.emplace_back();
+            row.rowid = id;
+            Cell* cells = store.cells(cols.size());
+            row.cells = cells;
+            return cells;
+        };
+    }
+
+    void loaded_() {
         loaded = true;
         visible = rows.size();
         pos = 0;
+    }
+
+    void load() {
+        reset();
+        conn->read(plan, store, rowSink(), context("reading"));
+        loaded_();
     }
 
     void ensureLoaded() {
@@ -405,8 +410,12 @@ int32_t Recordset::State() const {
 int32_t Recordset::RecordCount() {
     d_->requireOpen();
     if (!d_->loaded) {
-        const int64_t n = d_->conn->count(d_->plan, d_->context("counting the rows of"));
-        if (n >= 0)
+        bool read = false;
+        d_->reset();
+        const int64_t n =
+            d_->conn->countOrRead(d_->plan, d_->store, d_->rowSink(), d_->context("counting the rows of"), read);
+        if (read) d_->loaded_();
+        if (!read && n >= 0)
             return n > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
                                                            : static_cast<int32_t>(n);
     }

@@ -33,6 +33,7 @@ struct QueryPlan {
     std::string table;  // the one base table, empty when the set can't write back
     std::vector<ColumnInfo> cols;
     std::vector<int> fields;  // the engine's field of each column, where it isn't the same position
+    std::string probeSql;     // counts and reads the first rows in one go, where the engine offers it
 };
 
 // True for a connection URI of a PostgreSQL server (postgresql:// or
@@ -54,6 +55,13 @@ public:
                       std::string_view context) = 0;
     // The number of rows, or -1 when it can't be counted without reading.
     virtual int64_t count(const QueryPlan& plan, std::string_view context) = 0;
+    // As count; an engine for which a question costs a round trip may read
+    // a small set whole on the way (then read is set and the rows are in).
+    virtual int64_t countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                                std::string_view context, bool& read) {
+        read = false;
+        return count(plan, context);
+    }
 
     // Row writes by identity; names are base-table columns.
     virtual void removeRow(const std::string& table, int64_t id, std::string_view context) = 0;

@@ -87,6 +87,16 @@ std::string TestEnv::readOne(const std::string& sql) const {
     return StoreFile(storeLocationOf(folder_)).firstValue(sql).value_or("");
 }
 
+void TestEnv::refuseWrites(const std::string& table, const std::string& event) const {
+    if (onServerStore()) {
+        exec("CREATE OR REPLACE FUNCTION qv_refuse() RETURNS trigger LANGUAGE plpgsql AS "
+             "$$ BEGIN RAISE EXCEPTION 'refused'; END $$");
+        exec("CREATE TRIGGER refuse BEFORE " + event + " ON " + table + " FOR EACH ROW EXECUTE FUNCTION qv_refuse()");
+        return;
+    }
+    exec("CREATE TRIGGER refuse BEFORE " + event + " ON " + table + " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+}
+
 int64_t TestEnv::readInt(const std::string& sql) const {
     return std::stoll(readOne(sql));
 }

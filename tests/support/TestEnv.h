@@ -43,6 +43,9 @@ protected:
     // The first column of the first row as text; "" for null or no row.
     [[nodiscard]] std::string readOne(const std::string& sql) const;
     [[nodiscard]] int64_t readInt(const std::string& sql) const;
+    // From now on the store refuses every UPDATE (or "INSERT") of table,
+    // as a store that fails midway.
+    void refuseWrites(const std::string& table, const std::string& event = "UPDATE") const;
 
     // True in the suite's pass on a server store (QV_STORE_URI).
     [[nodiscard]] static bool onServerStore();
