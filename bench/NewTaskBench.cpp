@@ -35,12 +35,7 @@ void BM_NewTaskOpenBareReads(benchmark::State& state) {
     for (auto _ : state) {
         sqlite3* db = nullptr;
         sqlite3_open_v2(s.storePath().c_str(), &db, SQLITE_OPEN_READWRITE, nullptr);
-        int64_t cells = 0;
-        for (const auto& section : bench::settingsSections())
-            cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +
-                                  "' ORDER BY setSettingDisplayOrd");
-        cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
-        cells += walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
+        int64_t cells = bench::walkDialogLists(db);
         benchmark::DoNotOptimize(cells);
         sqlite3_close(db);
     }

@@ -1,6 +1,7 @@
 #include "StandardViews.h"
 
 #include "AppointmentView.h"
+#include "ExistingTaskView.h"
 #include "HelpView.h"
 #include "NewTaskView.h"
 #include "PageSetupView.h"
@@ -42,6 +43,7 @@ ViewFactory StandardViews::make() {
     ViewFactory f;
     f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
     f.add("frmTAS2", [](Form& form) -> FormView* { return new AppointmentView(form); });
+    f.add("frmExistingTask", [](Form& form) -> FormView* { return new ExistingTaskView(form); });
     f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);

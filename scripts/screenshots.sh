@@ -3,7 +3,8 @@
 # (the host, New Task empty, filled and from a catalog item with a past
 # deadline, Add Project, Add Keyword, the checklist picker and editor, Page
 # Setup and the print preview, a Task Appointment fresh, worked and
-# completed), each at its
+# completed, the Existing Task window on both tabs with twenty
+# appointments), each at its
 # opening size, its minimum and a larger size.
 # Usage: scripts/screenshots.sh [application folder]   (default: build/shots)
 set -euo pipefail

@@ -13,8 +13,6 @@
 #include "kit/FormWindow.h"
 #include "kit/QtUi.h"
 #include "kit/SheetWidget.h"
-#include "toolkit/Sheet.h"
-#include "toolkit/Tool.h"
 #include "view/HostApp.h"
 #include "view/StepRunner.h"
 
@@ -38,12 +36,10 @@ private:
     QElapsedTimer& clock_;
 };
 
-// Every sheet of the window has the cell of its last tool.
+// Every sheet of the window has a cell for each of its tools.
 bool complete(QWidget* window) {
-    for (SheetWidget* w : window->findChildren<SheetWidget*>()) {
-        const auto& tools = w->sheet().tools();
-        if (!tools.empty() && !tools.back()->key().empty() && !w->cellOf(tools.back()->key())) return false;
-    }
+    for (SheetWidget* w : window->findChildren<SheetWidget*>(Qt::FindChildrenRecursively))
+        if (!w->complete()) return false;
     return true;
 }
 
@@ -66,7 +62,7 @@ PaintTimes PaintProbe::measure(HostApp& host, const QString& form, const QString
     });
     // Polled on every pass of the event loop, inside the modal wait.
     QTimer poll;
-    poll.setInterval(0);
+    poll.setInterval(1);
     const double before = residentMb();
     QObject::connect(&poll, &QTimer::timeout, [&] {
         QWidget* w = StepRunner::formWindow(form);

@@ -109,4 +109,14 @@ int64_t walk(sqlite3* db, const std::string& sql) {
     return cells;
 }
 
+int64_t walkDialogLists(sqlite3* db) {
+    int64_t cells = 0;
+    for (const auto& section : settingsSections())
+        cells += walk(db, "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = '" + section +
+                              "' ORDER BY setSettingDisplayOrd");
+    cells += walk(db, "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
+    cells += walk(db, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword");
+    return cells;
+}
+
 }  // namespace qv::bench

@@ -60,5 +60,7 @@ BenchStore& largeStore();
 const std::vector<std::string>& settingsSections();
 // Walks every row of a query, reading each column as text; the cells read.
 int64_t walk(sqlite3* db, const std::string& sql);
+// What every task dialog's open reads: the settings, projects and keywords.
+int64_t walkDialogLists(sqlite3* db);
 
 }  // namespace qv::bench

@@ -11,6 +11,7 @@
 #include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
+#include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
 #include "store/ADOCode.h"
 #include "store/PgConnection.h"
@@ -30,6 +31,7 @@
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
 #include "values/Convert.h"
+#include "values/DateSerial.h"
 
 namespace qv {
 
@@ -98,6 +100,19 @@ std::string lower(std::string s) {
 
 std::string boolText(bool b) { return b ? "true" : "false"; }
 
+// A date as scripts write it: "2026-03-01", "2026-03-01 09:30[:15]", or a
+// date text of the program's own form.
+std::optional<double> scriptDate(std::string text) {
+    if (auto iso = dateserial::fromIso(text)) return iso;
+    if (text.size() >= 16 && text[10] == ' ') {
+        text[10] = 'T';
+        if (text.size() == 16) text += ":00";
+        if (auto iso = dateserial::fromIso(text)) return iso;
+        if (auto iso = dateserial::fromIso(text + ".000")) return iso;
+    }
+    return tryToDate(text);
+}
+
 }  // namespace
 
 ScriptRunner::ScriptRunner(std::ostream& out) : out_(out) {
@@ -165,7 +180,9 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"key", &ScriptRunner::cmdKey},       {"close", &ScriptRunner::cmdClose},
         {"answer", &ScriptRunner::cmdAnswer}, {"advance", &ScriptRunner::cmdAdvance},
         {"expect", &ScriptRunner::cmdExpect}, {"resize", &ScriptRunner::cmdResize},
-        {"drag", &ScriptRunner::cmdDrag},     {"tab", &ScriptRunner::cmdTab}};
+        {"drag", &ScriptRunner::cmdDrag},     {"clock", &ScriptRunner::cmdClock},
+        {"settings-file", &ScriptRunner::cmdSettingsFile}};
+    if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -269,7 +286,7 @@ void ScriptRunner::cmdType(const ScriptLine& l) {
     if (auto* ed = form.editor(target)) {
         ed->userEdit(text);
     } else if (auto* box = form.dateBox(target)) {
-        const auto serial = text.empty() ? std::optional<double>(1.0) : tryToDate(text);
+        const auto serial = text.empty() ? std::optional<double>(1.0) : scriptDate(text);
         if (!serial) throw std::invalid_argument("not a date: " + text);
         box->userSetValue(*serial);
     } else {
@@ -342,6 +359,21 @@ void ScriptRunner::cmdDrag(const ScriptLine& l) {
     split->userEndDrag();
 }
 
+// clock YYYY-MM-DD [HH:MM[:SS]]: the fake clock's date and time.
+void ScriptRunner::cmdClock(const ScriptLine& l) {
+    const auto serial = scriptDate(l.rest(1));
+    if (!serial) throw std::invalid_argument("not a date and time: " + l.rest(1));
+    clock_->setNow(*serial);
+}
+
+// settings-file "TEXT": writes QuorvelSettings.txt in the program's folder.
+void ScriptRunner::cmdSettingsFile(const ScriptLine& l) {
+    ensureStore();
+    std::ofstream file(std::filesystem::path(folder_) / "QuorvelSettings.txt", std::ios::binary | std::ios::trunc);
+    file << l.word(1);
+    if (!file) throw std::runtime_error("cannot write QuorvelSettings.txt");
+}
+
 void ScriptRunner::cmdExpect(const ScriptLine& l) {
     const auto what = lower(l.word(1));
     if (what == "event") return expectEvent(l, true);
@@ -353,17 +385,21 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "form") return expectForm(l);
     if (what == "checked") return expectChecked(l);
     if (what == "editor") return expectEditor(l);
+    if (what == "no-message") return expectNoMessage(l);
+    if (what == "absent") return expectAbsent(l);
+    if (what == "caption") return expectCaption(l);
     if (what == "date") return expectDate(l);
     if (what == "window") return expectWindow(l);
     if (what == "tab") return expectTab(l);
     if (what == "help") return expectHelp(l, false);
     if (what == "help-page") return expectHelp(l, true);
+    if (what == "cell" || what == "gridrows") return expectGrid(l);
     if (what == "report") return expectReport(l, true);
     if (what == "no-report") return expectReport(l, false);
     if (what == "pdfpages") return expectPdfPages(l);
     throw std::invalid_argument(
-        "expect event, no-event, message, tool, checked, editor, date, window, tab, row, rows, form, help, help-page, "
-        "report, no-report or pdfpages");
+        "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, window, tab, row, "
+        "rows, form, cell, gridrows, help, help-page, report, no-report or pdfpages");
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.
@@ -380,17 +416,72 @@ void ScriptRunner::expectEvent(const ScriptLine& l, bool present) {
     pass();
 }
 
+// expect message TEXT [title=TITLE] [style=N]: the next such message box.
 void ScriptRunner::expectMessage(const ScriptLine& l) {
+    std::optional<std::string> title;
+    std::optional<int32_t> style;
+    for (std::size_t i = 3; i < l.words.size(); ++i) {
+        const auto& w = l.words[i];
+        if (w.rfind("title=", 0) == 0) title = w.substr(6);
+        else if (w.rfind("style=", 0) == 0) style = static_cast<int32_t>(toLong(w.substr(6)));
+        else throw std::invalid_argument("expect message TEXT [title=TITLE] [style=N]");
+    }
     const auto& msgs = ui_->messages();
     for (std::size_t i = messageCursor_; i < msgs.size(); ++i) {
         if (msgs[i].text != l.word(2)) continue;
         messageCursor_ = i + 1;
+        if (title && msgs[i].title != *title)
+            return fail(l, "the message's title is \"" + msgs[i].title + "\", not \"" + *title + "\"");
+        if (style && msgs[i].style != *style)
+            return fail(l, "the message's style is " + std::to_string(msgs[i].style) + ", not " + std::to_string(*style));
         return pass();
     }
     fail(l, "no message \"" + l.word(2) + "\"");
 }
 
-// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|bold VALUE
+// expect no-message [TEXT]: no message box (with that text) since the last matched.
+void ScriptRunner::expectNoMessage(const ScriptLine& l) {
+    const auto& msgs = ui_->messages();
+    for (std::size_t i = messageCursor_; i < msgs.size(); ++i)
+        if (l.words.size() < 3 || msgs[i].text == l.word(2)) return fail(l, "a message was shown: " + msgs[i].text);
+    pass();
+}
+
+// expect absent SHEET.KEY: the sheet has no such tool or entry.
+void ScriptRunner::expectAbsent(const ScriptLine& l) {
+    const auto& target = l.word(2);
+    const auto dot = target.find('.');
+    if (dot == std::string::npos) throw std::invalid_argument("a tool is named sheet.KEY: " + target);
+    Sheet* sheet = activeForm().sheet(target.substr(0, dot));
+    if (!sheet) throw std::invalid_argument("no sheet " + target.substr(0, dot));
+    if (!sheet->find(target.substr(dot + 1))) return pass();
+    fail(l, target + " is there");
+}
+
+// expect caption TEXT: the caption of the dialog shown.
+void ScriptRunner::expectCaption(const ScriptLine& l) {
+    const auto& caption = activeForm().caption();
+    if (caption == l.word(2)) return pass();
+    fail(l, "the caption is \"" + caption + "\", not \"" + l.word(2) + "\"");
+}
+
+// expect date NAME TEXT: a date box's text ("" for no date).
+void ScriptRunner::expectDate(const ScriptLine& l) {
+    auto* box = activeForm().dateBox(l.word(2));
+    if (!box) throw std::invalid_argument("no date box " + l.word(2));
+    const std::string text = box->hasDate() ? box->text() : std::string();
+    if (text == l.word(3)) return pass();
+    fail(l, l.word(2) + " shows \"" + text + "\", not \"" + l.word(3) + "\"");
+}
+
+// expect cell ROW COLUMN VALUE / expect gridrows N
+void ScriptRunner::expectGrid(const ScriptLine& l) {
+    const std::string why = GridCommands::check(activeForm(), l);
+    if (why.empty()) return pass();
+    fail(l, why);
+}
+
+// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|tip|bold|forecolor VALUE
 void ScriptRunner::expectTool(const ScriptLine& l) {
     const Tool& t = toolOf(activeForm(), l.word(2), nullptr);
     const auto prop = lower(l.word(3));
@@ -402,7 +493,9 @@ void ScriptRunner::expectTool(const ScriptLine& l) {
     else if (prop == "enabled") actual = boolText(t.enabled());
     else if (prop == "visible") actual = boolText(t.visible());
     else if (prop == "checked") actual = boolText(t.checked());
+    else if (prop == "tip") actual = t.tip();
     else if (prop == "bold") actual = boolText(t.bold());
+    else if (prop == "forecolor") actual = std::to_string(t.foreColor());
     else throw std::invalid_argument("unknown tool property " + prop);
     if (actual == l.word(4)) return pass();
     fail(l, l.word(2) + " " + prop + " is \"" + actual + "\", not \"" + l.word(4) + "\"");
@@ -430,12 +523,6 @@ void ScriptRunner::expectEditor(const ScriptLine& l) {
     fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
 }
 
-// tab NAME INDEX: the user picks a tab (counted from 0) of a tab strip.
-void ScriptRunner::cmdTab(const ScriptLine& l) {
-    TabStrip* tabs = activeForm().tabStrip(l.word(1));
-    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(1));
-    tabs->userSwitch(static_cast<int32_t>(toLong(l.word(2))));
-}
 
 // expect tab NAME INDEX: the tab shown.
 void ScriptRunner::expectTab(const ScriptLine& l) {
@@ -443,14 +530,6 @@ void ScriptRunner::expectTab(const ScriptLine& l) {
     if (!tabs) throw std::invalid_argument("no tab strip " + l.word(2));
     if (std::to_string(tabs->current()) == l.word(3)) return pass();
     fail(l, l.word(2) + " shows tab " + std::to_string(tabs->current()) + ", not " + l.word(3));
-}
-
-// expect date NAME TEXT: a date box's date as text ("" for none).
-void ScriptRunner::expectDate(const ScriptLine& l) {
-    auto* box = activeForm().dateBox(l.word(2));
-    if (!box) throw std::invalid_argument("no date box " + l.word(2));
-    if (box->text() == l.word(3)) return pass();
-    fail(l, l.word(2) + " holds \"" + box->text() + "\", not \"" + l.word(3) + "\"");
 }
 
 // expect window left|top|width|height|state VALUE: the dialog's window.

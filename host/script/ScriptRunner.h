@@ -56,7 +56,8 @@ private:
     void cmdAdvance(const ScriptLine& l);
     void cmdResize(const ScriptLine& l);
     void cmdDrag(const ScriptLine& l);
-    void cmdTab(const ScriptLine& l);
+    void cmdClock(const ScriptLine& l);
+    void cmdSettingsFile(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
 
     void expectEvent(const ScriptLine& l, bool present);
@@ -66,10 +67,14 @@ private:
     void expectForm(const ScriptLine& l);
     void expectChecked(const ScriptLine& l);
     void expectEditor(const ScriptLine& l);
-    void expectDate(const ScriptLine& l);
     void expectWindow(const ScriptLine& l);
     void expectTab(const ScriptLine& l);
+    void expectNoMessage(const ScriptLine& l);
+    void expectAbsent(const ScriptLine& l);
+    void expectCaption(const ScriptLine& l);
+    void expectDate(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
+    void expectGrid(const ScriptLine& l);
     void expectReport(const ScriptLine& l, bool present);
     void expectPdfPages(const ScriptLine& l);
 

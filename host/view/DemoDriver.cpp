@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDateEdit>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -16,11 +17,15 @@
 #include <QTextEdit>
 #include <QTimer>
 
+#include "installer/StoreFile.h"
+#include "store/Recordset.h"
+#include "kit/TabStripView.h"
 #include "kit/ToolCell.h"
 #include "view/AppointmentList.h"
 #include "view/HostApp.h"
 #include "view/HostSession.h"
 #include "view/HostWindow.h"
+#include "view/TaskTableModel.h"
 
 namespace qv {
 
@@ -28,6 +33,7 @@ namespace {
 const QString kNewTask = "frmTask3";
 const QString kAppointment = "frmTAS2";
 const QString kHelp = "frmPopHelp";
+const QString kExistingTask = "frmExistingTask";
 bool closed(const QString& form) { return !StepRunner::formWindow(form); }
 // After a save, and the banner's wait, the close tool reads "D&one" again.
 bool saved() {
@@ -64,6 +70,7 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
     planAppointment();
     steps_.when("host after", [] { return closed(kNewTask) && closed(kAppointment); },
                 [this] { shoot(&app_.window(), "host-after", false); });
+    planExistingTask();
     planHostHelp();
     steps_.onFinished([] {
         StepRunner::closeAll();
@@ -236,6 +243,41 @@ void DemoDriver::planHostHelp() {
                 [this] { shootOver(StepRunner::formWindow(kHelp), &app_.window(), "help-tour"); }, 400);
     steps_.then("close the tour", [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
     steps_.when("tour closed", [] { return closed(kHelp); }, [] {}, 100);
+}
+
+void DemoDriver::planExistingTask() {
+    steps_.then("open the task", [this] {
+        auto* list = app_.window().findChild<QTableView*>("tblTasks");
+        const TaskRow* row = app_.window().tasks().rowAt(0);
+        if (!list || !row) return;
+        scheduleTwenty(row->guid);
+        list->setCurrentIndex(list->model()->index(0, 0));
+        app_.window().openTask();
+    });
+    shootWhenShown(kExistingTask, "existing-task", allSizes_, 400);
+    steps_.then("schedule tab", [] {
+        if (QWidget* w = StepRunner::formWindow(kExistingTask))
+            if (auto* tabs = w->findChild<TabStripView*>("Tabs1")) tabs->bar()->setCurrentIndex(1);
+    });
+    shootWhenShown(kExistingTask, "existing-task-schedule", allSizes_, 300);
+    steps_.then("close the task", [] { StepRunner::clickTool(kExistingTask, "smtActions.DONE"); });
+    steps_.when("task closed", [] { return closed(kExistingTask); }, [] {});
+}
+
+void DemoDriver::scheduleTwenty(const std::string& taskKey) const {
+    std::string sql = "UPDATE TASKS SET tskHasSchedule = 1 WHERE tskGUIDID = " + sqlLiteral(taskKey) + ";";
+    const QDateTime first = QDateTime(QDate::currentDate().addDays(-14), QTime(9, 0));
+    for (int i = 0; i < 20; ++i) {
+        const QDateTime start = first.addDays(i).addSecs((i % 3) * 3600);
+        const QDateTime end = start.addSecs(3600 + (i % 4) * 1800);
+        const auto iso = [](const QDateTime& t) { return sqlLiteral(t.toString("yyyy-MM-ddTHH:mm:ss.zzz").toStdString()); };
+        sql += "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taWasWorked, taTimeWorked, "
+               "taImp, taDifficulty) VALUES (" +
+               sqlLiteral(QStringLiteral("DEMO%1-0000-0000-0000-000000000000").arg(i, 4, 10, QChar('0')).toStdString()) +
+               ", " + sqlLiteral(taskKey) + ", " + iso(start) + ", " + iso(end) + ", " + (i < 12 ? "1" : "0") + ", " +
+               (i < 12 ? std::to_string(60 + (i % 4) * 30) : "NULL") + ", 1, 1);";
+    }
+    StoreFile(app_.folder() + "/QuorvelData.mdb").exec(sql);
 }
 
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {

@@ -4,7 +4,8 @@
 // Project, Add Keyword, the checklist picker and editor, Page Setup, the
 // print preview and a print, creates a task from the catalog item (its past
 // deadline red) and adds it, then schedules an appointment for that task and
-// works it to completion; on the way it opens each dialog's help, previews
+// works it to completion, opens that task with twenty appointments in the
+// Existing Task dialog; on the way it opens each dialog's help, previews
 // and prints a help page, and shows the help index and the tour from the
 // host. Every window it meets
 // is saved as a PNG, at the size it opened with and, when asked, at its
@@ -43,6 +44,9 @@ private:
     void planHostHelp();
     [[nodiscard]] static QWidget* previewWindow();
     void shootOver(QWidget* top, QWidget* under, const QString& name);
+    void planExistingTask();
+    // Gives the task twenty appointments, the last days' and the next.
+    void scheduleTwenty(const std::string& taskKey) const;
     // Waits for a form's window, settled, then saves it.
     void shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs = 300);
     void openAndShoot(const QString& cell, const QString& form, const QString& name,

@@ -62,7 +62,13 @@ HostSession::~HostSession() {
 
 void HostSession::wire() {
     task_->Raised.connect([this](const HostEvent& e) { onRaised(e); });
-    task_->TaskDeleted.connect([this](const std::string& key) { store_.deleteTask(key); });
+    task_->TaskDeleted.connect([this](const std::string& key) {
+        try {
+            store_.deleteTask(key);
+        } catch (const std::exception& e) {
+            emit logged(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+        }
+    });
     task_->updateMainPrintInfo.connect([this](const std::string& info, int32_t slot) { savePrintInfo(info, slot); });
     task_->GotErrExitNow.connect([this] { ended_ = true; });
 }
@@ -127,6 +133,9 @@ std::string HostSession::scheduleAppointment(const std::string& taskKey) {
     emit listsChanged();
     return key;
 }
+void HostSession::openTask(const std::string& taskKey) { open(1, taskKey, {}); }
+
+void HostSession::saveToCatalog(const std::string& taskKey) { open(5, taskKey, {}); }
 
 // A slot the component never handed back gets the whole default string.
 std::string HostSession::printInfo(int32_t slot) const {

@@ -28,6 +28,10 @@ public:
     // Adds an hour's appointment to a task through the component's
     // schedule class, starting at the next full hour; its key, or empty.
     std::string scheduleAppointment(const std::string& taskKey);
+    // Mode 1: the Existing Task dialog on a stored task.
+    void openTask(const std::string& taskKey);
+    // Mode 5: the stored task filed in the Task Catalog.
+    void saveToCatalog(const std::string& taskKey);
     [[nodiscard]] clsTask2& task() const { return *task_; }
     [[nodiscard]] bool ended() const { return ended_; }
     // The print settings string the component last handed back for a slot.

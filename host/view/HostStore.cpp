@@ -111,12 +111,22 @@ std::vector<AppointmentRow> HostStore::appointments(const std::string& taskKey) 
     return rows;
 }
 
+// The task, its keyword links and its appointments go together or not at all.
 void HostStore::deleteTask(const std::string& guid) const {
     Db db = openDb(path());
-    for (const char* sql : {"DELETE FROM TASKS WHERE tskGUIDID=?", "DELETE FROM TaskKeywords WHERE ktTASKGUID=?",
-                            "DELETE FROM TASKAPPTS WHERE taTaskGUIDID=?"}) {
-        Stmt s = prepare(db.get(), sql, {guid});
-        sqlite3_step(s.get());
+    const auto run = [&](const std::string& sql, const std::vector<std::string>& params = {}) {
+        Stmt s = prepare(db.get(), sql, params);
+        if (sqlite3_step(s.get()) != SQLITE_DONE) throw std::runtime_error(sqlite3_errmsg(db.get()));
+    };
+    run("BEGIN IMMEDIATE");
+    try {
+        for (const char* sql : {"DELETE FROM TASKS WHERE tskGUIDID=?", "DELETE FROM TaskKeywords WHERE ktTASKGUID=?",
+                                "DELETE FROM TASKAPPTS WHERE taTaskGUIDID=?"})
+            run(sql, {guid});
+        run("COMMIT");
+    } catch (...) {
+        sqlite3_exec(db.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+        throw;
     }
 }
 

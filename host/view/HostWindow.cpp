@@ -9,6 +9,9 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTabWidget>
@@ -55,20 +58,47 @@ void HostWindow::buildActions() {
         a->setEnabled(enabled);
         return a;
     };
-    connect(add("actNewTask", "&New Task", true), &QAction::triggered, this, &HostWindow::newTask);
+    newTask_ = add("actNewTask", "&New Task", true);
+    newTask_->setShortcut(QKeySequence::New);
+    connect(newTask_, &QAction::triggered, this, &HostWindow::newTask);
     fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
     bar->addSeparator();
-    // Commands of the other dialogs: present, not yet offered.
-    add("actOpenTask", "&Open Task", false);
+    openTask_ = add("actOpenTask", "&Open Task", false);
+    connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
     workAppointment_ = add("actWorkAppointment", "&Work Appointment", false);
     connect(workAppointment_, &QAction::triggered, this, &HostWindow::workAppointment);
     schedule_ = add("actSchedule", "Schedule Appointmen&t", false);
     connect(schedule_, &QAction::triggered, this, &HostWindow::scheduleAppointment);
-    add("actSaveToCatalog", "&Save to Catalog", false);
+    saveToCatalog_ = add("actSaveToCatalog", "&Save to Catalog", false);
+    connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
     bar->addSeparator();
     connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
     connect(add("actTour", "Getting Started &Tour", true), &QAction::triggered, this, [this] { openHelp(kTourTopic); });
+    delete_ = new QAction("&Delete Task", this);
+    delete_->setObjectName("actDelete");
+    delete_->setShortcut(QKeySequence::Delete);
+    delete_->setEnabled(false);
+    connect(delete_, &QAction::triggered, this, &HostWindow::deleteTask);
+    buildMenus();
+}
+
+void HostWindow::buildMenus() {
+    QMenu* tasks = menuBar()->addMenu("&Task");
+    tasks->addAction(newTask_);
+    tasks->addAction(openTask_);
+    tasks->addAction(saveToCatalog_);
+    tasks->addAction(fromCatalog_);
+    tasks->addSeparator();
+    tasks->addAction(delete_);
+    tasks->addSeparator();
+    QAction* quit = tasks->addAction("&Quit", this, &QWidget::close);
+    quit->setObjectName("actQuit");
+    quit->setShortcut(QKeySequence::Quit);
+    QMenu* help = menuBar()->addMenu("&Help");
+    QAction* index = help->addAction("&Help Index", this, [this] { openHelp(kHelpIndexTopic); });
+    index->setObjectName("actHelp");
+    index->setShortcut(QKeySequence::HelpContents);
 }
 
 void HostWindow::openHelp(int32_t topic) {
@@ -104,13 +134,15 @@ QWidget* HostWindow::buildTaskPage() {
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
     table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
     column->addWidget(table_, 3);
+    // Enter or a double click opens the task.
+    connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
+    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &HostWindow::taskSelectionChanged);
     auto* apptLabel = new QLabel("&Appointments of the chosen task:", page);
     appointments_ = new AppointmentList(store_, page);
     apptLabel->setBuddy(appointments_);
     column->addWidget(apptLabel);
     column->addWidget(appointments_, 1);
-    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            &HostWindow::refreshAppointments);
     connect(appointments_, &QListWidget::currentRowChanged, this,
             [this](int row) { workAppointment_->setEnabled(row >= 0); });
     connect(appointments_, &QListWidget::itemActivated, this, &HostWindow::workAppointment);
@@ -156,13 +188,10 @@ void HostWindow::refresh() {
         refreshProjects();
         QStringList words;
         for (const auto& w : store_.statusList()) words << QString::fromStdString(w);
-        const std::string keepTask = chosenTask();
+        const std::string selected = selectedTask();
         tasks_->setRows(store_.tasks(currentOnly_->isChecked(), chosenProject()), words);
-        for (int r = 0; !keepTask.empty() && r < tasks_->rowCount(); ++r)
-            if (tasks_->rowAt(r)->guid == keepTask) {
-                table_->setCurrentIndex(tasks_->index(r, 0));
-                break;
-            }
+        selectTask(selected);
+        taskSelectionChanged();
         const QString chosen = catalog_->currentItem() ? catalog_->currentItem()->data(Qt::UserRole).toString() : "";
         catalog_->clear();
         for (const auto& c : store_.catalog()) {
@@ -171,19 +200,13 @@ void HostWindow::refresh() {
             if (item->data(Qt::UserRole).toString() == chosen) catalog_->setCurrentItem(item);
         }
         fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
-        refreshAppointments();
     } catch (const std::exception& e) {
         log(QStringLiteral("Could not read the store: %1").arg(e.what()));
     }
 }
 
-std::string HostWindow::chosenTask() const {
-    const TaskRow* row = tasks_->rowAt(table_->currentIndex().row());
-    return row ? row->guid : std::string();
-}
-
 void HostWindow::refreshAppointments() {
-    const std::string task = chosenTask();
+    const std::string task = selectedTask();
     appointments_->showTask(task);
     schedule_->setEnabled(!task.empty());
     workAppointment_->setEnabled(!appointments_->chosen().empty());
@@ -195,7 +218,7 @@ void HostWindow::workAppointment() {
 }
 
 void HostWindow::scheduleAppointment() {
-    const std::string task = chosenTask();
+    const std::string task = selectedTask();
     if (task.empty()) return;
     const std::string key = session_.scheduleAppointment(task);
     appointments_->showTask(task);
@@ -208,6 +231,47 @@ void HostWindow::newTask() { session_.newTask(chosenProject()); }
 void HostWindow::taskFromCatalog() {
     if (QListWidgetItem* item = catalog_->currentItem())
         session_.taskFromCatalog(item->data(Qt::UserRole).toString().toStdString());
+}
+
+std::string HostWindow::selectedTask() const {
+    const QModelIndex current = table_->currentIndex();
+    return current.isValid() ? tasks_->data(current, Qt::UserRole).toString().toStdString() : std::string();
+}
+
+void HostWindow::selectTask(const std::string& key) {
+    for (int row = 0; row < tasks_->rowCount(); ++row)
+        if (tasks_->rowAt(row)->guid == key) return table_->setCurrentIndex(tasks_->index(row, 0));
+}
+
+void HostWindow::taskSelectionChanged() {
+    const bool any = !selectedTask().empty();
+    for (QAction* a : {openTask_, saveToCatalog_, delete_}) a->setEnabled(any);
+    refreshAppointments();
+}
+
+void HostWindow::openTask() {
+    const std::string key = selectedTask();
+    if (!key.empty()) session_.openTask(key);
+}
+
+void HostWindow::saveToCatalog() {
+    const std::string key = selectedTask();
+    if (!key.empty()) session_.saveToCatalog(key);
+}
+
+void HostWindow::deleteTask() {
+    const std::string key = selectedTask();
+    if (key.empty()) return;
+    const auto answer = QMessageBox::question(this, windowTitle(),
+                                              "Delete the selected task with its appointments and keyword links?");
+    if (answer != QMessageBox::Yes) return;
+    try {
+        store_.deleteTask(key);
+        log(QStringLiteral("Deleted task %1").arg(QString::fromStdString(key)));
+    } catch (const std::exception& e) {
+        log(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+    }
+    refresh();
 }
 
 void HostWindow::log(const QString& line) {

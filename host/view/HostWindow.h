@@ -37,13 +37,19 @@ public:
     // A new hour's appointment for the chosen task.
     void scheduleAppointment();
     [[nodiscard]] AppointmentList& appointments() const { return *appointments_; }
-    // The key of the task chosen in the list, or empty.
-    [[nodiscard]] std::string chosenTask() const;
+    // Commands on the task selected in the list.
+    void openTask();
+    void saveToCatalog();
+    void deleteTask();
+    [[nodiscard]] std::string selectedTask() const;
+    void selectTask(const std::string& key);
     // Opens a help topic in the component's help pop-up.
     void openHelp(int32_t topic);
 
 private:
     void buildActions();
+    void buildMenus();
+    void taskSelectionChanged();
     QWidget* buildTaskPage();
     QWidget* buildCatalogPage();
     void buildLog();
@@ -63,6 +69,10 @@ private:
     AppointmentList* appointments_ = nullptr;
     QAction* workAppointment_ = nullptr;
     QAction* schedule_ = nullptr;
+    QAction* openTask_ = nullptr;
+    QAction* saveToCatalog_ = nullptr;
+    QAction* delete_ = nullptr;
+    QAction* newTask_ = nullptr;
 };
 
 }  // namespace qv

@@ -31,10 +31,14 @@ int TaskTableModel::rowCount(const QModelIndex& parent) const {
 
 int TaskTableModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : ColumnCount; }
 
+// To the nearest minute: a deadline typed as 17:00 is stored a hair before it.
 QString TaskTableModel::deadlineText(const std::string& iso) {
-    const QDateTime when = QDateTime::fromString(QString::fromStdString(iso).left(19), Qt::ISODate);
+    QDateTime when = QDateTime::fromString(QString::fromStdString(iso).left(23), Qt::ISODateWithMs);
+    if (!when.isValid()) when = QDateTime::fromString(QString::fromStdString(iso).left(19), Qt::ISODate);
     // Dates of 1899-12-31 and before stand for no date.
     if (!when.isValid() || when.date() <= QDate(1899, 12, 31)) return {};
+    const QTime t = when.time();
+    when = QDateTime(when.date(), QTime(t.hour(), t.minute())).addSecs(t.second() * 1000 + t.msec() >= 30000 ? 60 : 0);
     return when.time() == QTime(0, 0) ? when.date().toString(Qt::ISODate)
                                       : when.toString(QStringLiteral("yyyy-MM-dd HH:mm"));
 }

@@ -224,6 +224,8 @@ QSize SheetWidget::minimumSizeHint() const {
     return {width, titleHeight + rows + frame};
 }
 
+bool SheetWidget::complete() const { return !pending_ && built_ >= sheet_.tools().size(); }
+
 ToolCell* SheetWidget::cellOf(const std::string& key) {
     if (pending_ || shapeOfModel() != shape_) syncNow();
     if (built_ < sheet_.tools().size()) buildRemainingCells(sheet_.tools().size());

@@ -39,6 +39,8 @@ public:
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
+    // Whether every tool of the sheet has its cell (a long list grows while idle).
+    [[nodiscard]] bool complete() const;
     // Applies pending model changes now.
     void syncNow();
     // The cell of a tool, or nullptr (tests and views).

@@ -73,6 +73,16 @@ void ToolCell::build() {
     icon_ = new QLabel(this);
     icon_->setObjectName(objectName() + ".image");
     row->addWidget(icon_);
+    if (kind_ == Kind::TextBox) {
+        // A text tool with a picture (the stopwatch) is clicked through it,
+        // by mouse or by Space.
+        press_ = new QToolButton(this);
+        press_->setObjectName(objectName() + ".press");
+        press_->setAutoRaise(true);
+        connect(press_, &QToolButton::clicked, this,
+                [this] { owner_.forward(tool_, [](Tool& t) { t.sheet()->click(t); }); });
+        row->addWidget(press_);
+    }
     switch (kind_) {
     case Kind::Button: main_ = makeButton(); break;
     case Kind::MenuButton: main_ = makeMenuButton(); break;
@@ -240,7 +250,12 @@ void ToolCell::refresh() {
     setToolTip(qs(t.tip()));
     const QPixmap pm = ToolIcons::pixmap(t.image());
     icon_->setPixmap(pm);
-    icon_->setVisible(!pm.isNull() && kind_ != Kind::Button && kind_ != Kind::MenuButton);
+    icon_->setVisible(!pm.isNull() && kind_ != Kind::Button && kind_ != Kind::MenuButton && !press_);
+    if (press_) {
+        press_->setIcon(ToolIcons::icon(t.image()));
+        press_->setToolTip(qs(t.tip()));
+        press_->setVisible(!pm.isNull());
+    }
     const QString caption = qs(t.caption());
     if (caption_) caption_->setText(caption);
     if (auto* b = qobject_cast<QAbstractButton*>(main_)) {

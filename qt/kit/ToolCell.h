@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QLabel;
+class QToolButton;
 class QMenu;
 
 namespace qv {
@@ -58,6 +59,7 @@ private:
     QWidget* main_ = nullptr;
     QLabel* caption_ = nullptr;
     QLabel* icon_ = nullptr;
+    QToolButton* press_ = nullptr;  // a text tool's picture: a click on it clicks the tool
     QMenu* menu_ = nullptr;
 };
 

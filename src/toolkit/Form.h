@@ -79,6 +79,8 @@ public:
     [[nodiscard]] Label* label(const std::string& name) const { return lookup(labels_, name); }
     [[nodiscard]] TabStrip* tabStrip(const std::string& name) const { return lookup(tabStrips_, name); }
     [[nodiscard]] const std::map<std::string, Sheet*>& sheets() const { return sheets_; }
+    [[nodiscard]] const std::map<std::string, Grid*>& grids() const { return grids_; }
+    [[nodiscard]] const std::map<std::string, TabStrip*>& tabStrips() const { return tabStrips_; }
 
     // The forms loaded now, oldest first (the error path unloads them all).
     static std::vector<std::shared_ptr<Form>> openForms();

@@ -76,7 +76,7 @@ void Sheet::click(Tool& t) {
     if (!enabled_ || !t.enabled()) return;
     // Choosing an entry of a drop-down list puts its caption in the list.
     if (t.type() == ttOption && t.parent() && t.parent()->type() != ttOption) {
-        userEdit(*t.parent(), t.caption());
+        userChoose(*t.parent(), t.caption());
         return;
     }
     if (t.type() == ttOption) {
@@ -106,6 +106,15 @@ bool Sheet::beginEdit(Tool& t) {
 
 void Sheet::endEdit(Tool& t) {
     if (enabled_ && t.enabled()) AfterEdit(t);
+}
+
+void Sheet::userChoose(Tool& t, const std::string& text) {
+    if (!beginEdit(t)) {
+        notify();  // a view shows the text it had again
+        return;
+    }
+    userEdit(t, text);
+    endEdit(t);
 }
 
 void Sheet::userEdit(Tool& t, const std::string& text) {

@@ -52,12 +52,14 @@ public:
     bool beginEdit(Tool& t);
     // The user has finished typing into a tool (left it or pressed Enter).
     void endEdit(Tool& t);
+    // A whole edit at once, as choosing a drop-down entry is: begin, text, end.
+    void userChoose(Tool& t, const std::string& text);
 
     Event<Tool&> Click;
     Event<Tool&> DblClick;
-    Event<Tool&, bool&> BeforeEdit;  // tool, cancel
-    Event<Tool&> AfterEdit;
     Event<Tool&, const std::string&> Change;  // tool, property name ("Value")
+    Event<Tool&, bool&> BeforeEdit;            // the user is about to edit a tool's text; true cancels
+    Event<Tool&> AfterEdit;                    // the user's edit of a tool's text has ended
     Event<> Changed;                           // anything a view shows changed
 
 private:

@@ -6,6 +6,7 @@
 #include "installer/StoreInstaller.h"
 #include "kit/ToolCell.h"
 #include "session/globals/SessionGlobals.h"
+#include "view/HostSession.h"
 #include "view/HostWindow.h"
 
 namespace qv {
@@ -41,6 +42,12 @@ void HostFixture::openNewTask(StepRunner& steps) {
     steps.onFinished([] { StepRunner::closeAll(); });
     steps.start();
     host().window().newTask();
+}
+
+void HostFixture::openTask(StepRunner& steps, const std::string& key) {
+    steps.onFinished([] { StepRunner::closeAll(); });
+    steps.start();
+    host().session().openTask(key);
 }
 
 ToolCell* HostFixture::cell(const QString& form, const QString& name) {

@@ -29,6 +29,8 @@ protected:
 
     // Runs the steps while the host opens a New Task; returns when it closed.
     void openNewTask(StepRunner& steps);
+    // The same for a stored task in the Existing Task dialog.
+    void openTask(StepRunner& steps, const std::string& key);
     // The cell of a tool in a form's window.
     [[nodiscard]] static ToolCell* cell(const QString& form, const QString& name);
     [[nodiscard]] static bool shown(const QString& form) { return StepRunner::formWindow(form) != nullptr; }

@@ -54,6 +54,9 @@ TEST_F(HostList, ShowsFiltersAndDropsDeletedTasks) {
     w.refresh();
     EXPECT_EQ(list.rowCount(), 0);
     EXPECT_TRUE(TaskTableModel::deadlineText("1899-12-30T00:00:00.000").isEmpty());
+    EXPECT_EQ(TaskTableModel::deadlineText("2026-03-15T16:59:59.998"), "2026-03-15 17:00");
+    EXPECT_EQ(TaskTableModel::deadlineText("2026-03-15T16:59:29.000"), "2026-03-15 16:59");
+    EXPECT_EQ(TaskTableModel::deadlineText("2026-03-15T23:59:59.998"), "2026-03-16");
 }
 
 }  // namespace

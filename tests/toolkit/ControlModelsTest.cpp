@@ -120,4 +120,49 @@ TEST(Grid, RowsColumnsAndSelection) {
     EXPECT_EQ(g.selectedRow(), -1);
 }
 
+TEST(Grid, EditModeFilterAndButtons) {
+    Grid g("gridSked");
+    const int32_t a = g.addColumn("A", "Alpha");
+    const int32_t b = g.addColumn("B", "Beta");
+    g.addRow({"1", "x"});
+    g.addRow({"2", "y"});
+    EXPECT_EQ(g.columnOf("ALPHA"), a) << "keys are found whatever their case";
+    g.setColumnPosition(a, 5);
+    EXPECT_EQ(g.shownColumns(), (std::vector<int32_t>{b, a}));
+    g.setColumnVisible(b, false);
+    EXPECT_EQ(g.shownColumns(), (std::vector<int32_t>{a}));
+
+    // Shown text passes the filter, except the cell being edited.
+    g.setDisplayFilter([](int32_t, int32_t, const std::string& v) { return "<" + v + ">"; });
+    EXPECT_EQ(g.displayText(0, a), "<1>");
+    g.beginEdit(0, a);
+    EXPECT_EQ(g.displayText(0, a), "1");
+    EXPECT_EQ(g.displayText(1, a), "<2>");
+
+    // A refused edit keeps the cell; an accepted one tells after the change.
+    std::vector<std::string> seen;
+    g.BeforeCellUpdate.connect([&](int32_t, int32_t, const std::string& text, bool& cancel) { cancel = text == "no"; });
+    g.AfterCellUpdate.connect([&](int32_t r, int32_t c) { seen.push_back(g.cell(r, c)); });
+    EXPECT_FALSE(g.commitEdit("no"));
+    EXPECT_FALSE(g.editing());
+    EXPECT_EQ(g.cell(0, a), "1");
+    EXPECT_FALSE(g.commitEdit("3")) << "nothing to commit outside edit mode";
+    g.beginEdit(0, a);
+    EXPECT_TRUE(g.commitEdit("3"));
+    EXPECT_EQ(seen, (std::vector<std::string>{"3"}));
+
+    int clicks = 0;
+    g.ClickCellButton.connect([&](int32_t r, int32_t c) { clicks += r * 10 + c + 1; });
+    g.clickCellButton(1, b);
+    EXPECT_EQ(clicks, 12);
+
+    // Several rows selected: the first picked is the selected row.
+    g.selectRows({1, 0});
+    EXPECT_EQ(g.selectedRow(), 1);
+    EXPECT_EQ(g.selectedRows().size(), 2u);
+    g.setRows({});
+    EXPECT_TRUE(g.selectedRows().empty());
+    EXPECT_THROW(g.selectRows({0}), Failure);
+}
+
 }  // namespace qv

@@ -33,6 +33,14 @@ ChecklistLink::~ChecklistLink() {
     smtCKActions_.Click.disconnect(clickId_);
 }
 
+void ChecklistLink::buildTools(Sheet& s) {
+    s.add(ttButton, "NEW", "New");
+    s.add(ttSeparator, "S1");
+    s.add(ttButton, "PICK", "Pick...");
+    s.add(ttSeparator, "S2").setVisible(false);
+    s.add(ttButton, "EDIT", "Edit...").setVisible(false);
+}
+
 const char* ChecklistLink::module() const {
     return owner_.name().c_str();
 }

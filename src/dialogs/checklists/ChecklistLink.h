@@ -49,6 +49,9 @@ public:
     ChecklistLink(const ChecklistLink&) = delete;
     ChecklistLink& operator=(const ChecklistLink&) = delete;
 
+    // The tools of smtCKActions as a task dialog's template has them.
+    static void buildTools(Sheet& smtCKActions);
+
     void smtCKActions_Click(Tool& t);
     void ckPicker_CKPicked(const std::string& key);
     void ckPicker_Cancel();

@@ -1,6 +1,7 @@
 #include "dialogs/newtask/NewTaskControls.h"
 
 #include "dialogs/shared/PrintingMenu.h"
+#include "dialogs/checklists/ChecklistLink.h"
 
 namespace qv {
 
@@ -8,7 +9,7 @@ NewTaskControls::NewTaskControls() {
     buildActions();
     buildOther();
     buildReady();
-    buildChecklistActions();
+    ChecklistLink::buildTools(smtCKActions);
     buildPanes();
     spellCK.setReadOnly(true);
     lblTaskSaved.setVisible(false);
@@ -54,14 +55,6 @@ void NewTaskControls::buildReady() {
     s.add(ttTextBox, "POINTS");
 }
 
-void NewTaskControls::buildChecklistActions() {
-    auto& s = smtCKActions;
-    s.add(ttButton, "NEW", "New");
-    s.add(ttSeparator, "S1");
-    s.add(ttButton, "PICK", "Pick...");
-    s.add(ttSeparator, "S2").setVisible(false);
-    s.add(ttButton, "EDIT", "Edit...").setVisible(false);
-}
 
 void NewTaskControls::buildPanes() {
     for (const char* name :

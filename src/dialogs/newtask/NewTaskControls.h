@@ -45,7 +45,6 @@ private:
     void buildActions();
     void buildOther();
     void buildReady();
-    void buildChecklistActions();
     void buildPanes();
 };
 

@@ -8,7 +8,6 @@
 #include "dialogs/shared/SheetPicks.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
-#include "store/clsStatusList.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
@@ -179,31 +178,11 @@ std::string NewTaskFields::utilNewTaskGUID() {
 
 void NewTaskFields::setUtilNewTaskGUID(const std::string& guid) { g().CurrentTaskGUID = guid; }
 
-int32_t NewTaskFields::countPlusOne(const std::string& query) {
-    clsStatusList list;
-    RecordsetPtr rs;
-    list.SetSQL(query);
-    if (!list.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
-    const int32_t count = rs->RecordCount();
-    rs->Close();
-    return count + 1;
-}
+int32_t NewTaskFields::utilCustSortQV() { return sort_.utilCustSortQV(); }
 
-int32_t NewTaskFields::utilCustSortQV() {
-    if (custSortQV_ < 1) custSortQV_ = countPlusOne("SELECT tskGUIDID from TASKS");
-    return custSortQV_;
-}
+int32_t NewTaskFields::utilCustCur() { return sort_.utilCustCur(); }
 
-int32_t NewTaskFields::utilCustCur() {
-    if (custCur_ < 1) custCur_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskCURRENT=TRUE");
-    return custCur_;
-}
-
-int32_t NewTaskFields::utilCustProj() {
-    if (custProj_ < 1)
-        custProj_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskProjectKey = " + sqlLiteral(utilProjectKey(), '"'));
-    return custProj_;
-}
+int32_t NewTaskFields::utilCustProj() { return sort_.utilCustProj(utilProjectKey()); }
 
 void NewTaskFields::writeDeadTime(const std::string& text) {
     writingDeadTime_ = true;

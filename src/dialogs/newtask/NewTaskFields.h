@@ -7,6 +7,7 @@
 #include <string>
 
 #include "dialogs/checklists/ChecklistLink.h"
+#include "dialogs/shared/CustomSortNumbers.h"
 #include "dialogs/shared/TaskRecord.h"
 
 namespace qv {
@@ -59,16 +60,12 @@ public:
     int32_t KeywordCount = 0;
 
 private:
-    [[nodiscard]] static int32_t countPlusOne(const std::string& query);
-
     NewTaskControls& c_;
     TaskRecord rec_;
     int32_t imp_ = kNothingChosen;
     int32_t diff_ = kNothingChosen;
     int32_t status_ = kNothingChosen;
-    int32_t custSortQV_ = 0;
-    int32_t custCur_ = 0;
-    int32_t custProj_ = 0;
+    CustomSortNumbers sort_{CustomSortNumbers::Counter::StatusList};
     std::string keywordList_;
     bool writingDeadTime_ = false;
 };

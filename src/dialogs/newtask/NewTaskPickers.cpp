@@ -2,8 +2,6 @@
 
 #include <cmath>
 
-#include "dialogs/add/frmAddKeyword.h"
-#include "dialogs/add/frmAddProject.h"
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/KeywordSheet.h"
@@ -18,7 +16,7 @@ namespace {
 double today() { return std::floor(clock().now()); }
 }  // namespace
 
-NewTaskPickers::NewTaskPickers(frmTask3& f) : f_(f) {}
+NewTaskPickers::NewTaskPickers(frmTask3& f) : f_(f), add_(f) {}
 
 NewTaskPickers::~NewTaskPickers() = default;
 
@@ -85,26 +83,13 @@ void NewTaskPickers::fNewKeyword_KeywordAdded() {
     f_.KeywordAdded();
 }
 
-// The Add Project dialog stays open for several projects.
 void NewTaskPickers::openAddProject() {
-    fNewProject = std::make_shared<frmAddProject>();
-    fNewProject->ProjectAdded.connect([this](const std::string& name) { fNewProject_ProjectAdded(name); });
-    fNewProject->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
-    fNewProject->SetTaskPrintSetting(g().TaskPrintSetting);
-    fNewProject->showModal(&f_);
-    fNewProject->unload();
-    fNewProject.reset();
+    add_.openAddProject([this](const std::string& name) { fNewProject_ProjectAdded(name); },
+                        [this] { f_.GotErrExitNow(); });
 }
 
 void NewTaskPickers::openAddKeyword() {
-    fNewKeyword = std::make_shared<frmAddKeyword>();
-    fNewKeyword->KeywordAdded.connect([this] { fNewKeyword_KeywordAdded(); });
-    fNewKeyword->GotErrExitNow.connect([this] { f_.GotErrExitNow(); });
-    fNewKeyword->LoadCategories();
-    fNewKeyword->showModal(&f_);
-    fNewKeyword->unload();
-    fNewKeyword.reset();
-    g().SettingUp = false;
+    add_.openAddKeyword([this] { fNewKeyword_KeywordAdded(); }, [this] { f_.GotErrExitNow(); });
 }
 
 }  // namespace qv

@@ -3,14 +3,13 @@
 // entry, adding a project or keyword on the way, and the deadline's small
 // behaviours.
 
-#include <memory>
 #include <string>
+
+#include "dialogs/shared/AddPickers.h"
 
 namespace qv {
 
 class frmTask3;
-class frmAddProject;
-class frmAddKeyword;
 class Tool;
 
 class NewTaskPickers {
@@ -36,8 +35,7 @@ private:
     void clearDeadline();
 
     frmTask3& f_;
-    std::shared_ptr<frmAddProject> fNewProject;
-    std::shared_ptr<frmAddKeyword> fNewKeyword;
+    AddPickers add_;
 };
 
 }  // namespace qv

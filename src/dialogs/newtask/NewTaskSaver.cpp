@@ -5,6 +5,7 @@
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/KeywordSheet.h"
+#include "dialogs/shared/TaskColumns.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
@@ -86,26 +87,8 @@ void NewTaskSaver::writeColumns(Recordset& rs) {
     // A task born completed is done today, whatever the date box said.
     const double done = r.Status == 0 ? std::floor(clock().now()) : r.DateDone;
     rs.Fields("tskDoneDate") = std::lround(done) == 1 ? Value() : Value(Date{done});
-    rs.Fields("tskDesc") = Value(r.Desc);
-    rs.Fields("tskProject") = Value(r.Project);
-    rs.Fields("tskProjectKey") = Value(r.ProjectKey);
     if (g().TaskMode == 6) rs.Fields("tskTaskCatGUID") = Value(g().TaskCatGUID);
-    rs.Fields("tskDifficulty") = Value(r.Diff);
-    rs.Fields("tskImp") = Value(r.Imp);
-    rs.Fields("tskTimeNeeded") = Value(r.TimeNeeded);
-    rs.Fields("tskCurrent") = Value(r.IsCurrent);
-    rs.Fields("tskHasSchedule") = Value(false);
-    rs.Fields("tskNotes") = Value(r.Notes);
-    rs.Fields("tskHasNotes") = Value(r.HasNotes);
-    rs.Fields("tskCreatedDate") = Value(Date{r.CreatedDate});
-    rs.Fields("tskLastMod") = Value(Date{r.LastMod});
-    rs.Fields("tskGUIDID") = Value(r.TaskGUID);
-    rs.Fields("tskPossPoints") = Value(fields.utilPossPoints);
-    if (r.Deadline > kNoDate) rs.Fields("tskDeadline") = Value(Date{r.Deadline});
-    rs.Fields("tskCustSortQV") = Value(r.CustSortQV);
-    if (r.IsCurrent) rs.Fields("tskCustSortCUR") = Value(r.CustCur);
-    rs.Fields("tskCustSortProj") = Value(r.CustProj);
-    rs.Fields("tskHasChecklist") = Value(r.HasChecklist);
+    TaskColumns::writeNew(rs, r, fields.utilPossPoints);
 }
 
 // The two tables name the link column differently; the schema's own names.
@@ -122,12 +105,8 @@ bool NewTaskSaver::writeKeywords() {
     const std::string guid = f_.fields().utilNewTaskGUID();
     links.SetSQLKey("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(guid));
     if (!links.GetDataKEY(rs)) return false;
-    const auto ticked = KeywordSheet::tickedIn(f_.fields().record().KeywordList);
-    const std::string taskText = f_.controls().spellTask.text();
-    for (const auto& t : f_.controls().smtKeywords.tools()) {
-        if (!KeywordSheet::isKeyword(*t) || !ticked.count(TextCase::upper(t->key()))) continue;
-        KeywordSheet::addLink(*rs, *t, taskText, guid);
-    }
+    KeywordSheet::addLinksFromBag(*rs, f_.controls().smtKeywords, f_.fields().record().KeywordList,
+                                  f_.controls().spellTask.text(), guid);
     rs->Close();
     return true;
 }

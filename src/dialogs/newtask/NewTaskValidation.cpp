@@ -39,8 +39,7 @@ bool NewTaskValidation::ValidateTask() {
 
 void NewTaskValidation::PossTallyPoints() {
     const TaskRecord& r = f_.fields().record();
-    const int32_t points =
-        PointsTally::tally(g().PointsTable, r.Imp, r.Diff, r.TimeNeeded, r.HasChecklist, r.HasSchedule);
+    const int32_t points = PointsTally::tally(r);
     f_.controls().smtReady.tool("POINTS").setText(std::to_string(points));
     f_.fields().utilPossPoints = points;
 }

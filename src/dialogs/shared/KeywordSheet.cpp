@@ -68,18 +68,18 @@ bool KeywordSheet::isKeyword(const Tool& tool) {
     return tool.type() != ttHeading && tool.type() != ttButton && !tool.key().empty();
 }
 
+// One pass over the links, then one look-up per link: a sheet of
+// thousands of keywords is not walked once per link.
 bool KeywordSheet::tickFromLinks(Sheet& sheet, const std::string& taskGUID) {
     clsKeywords keywords;
     RecordsetPtr rs;
     keywords.SetSQL(kLinksQuery + sqlLiteral(taskGUID));
     if (!keywords.GetData(rs)) return false;
-    const bool anyRow = rs->RecordCount() > 0;
-    for (const auto& t : sheet.tools()) {
-        if (!anyRow) break;
-        for (rs->MoveFirst(); !rs->EOF_(); rs->MoveNext())
-            if (rs->Fields("ktKEYGUID").value().toText() == t->key()) t->setChecked(true);
-    }
+    std::unordered_set<std::string> linked;
+    for (; !rs->EOF_(); rs->MoveNext()) linked.insert(rs->Fields("ktKEYGUID").value().toText());
     rs->Close();
+    for (const auto& key : linked)
+        if (Tool* t = sheet.find(key)) t->setChecked(true);
     return true;
 }
 
@@ -92,6 +92,13 @@ void KeywordSheet::addLink(Recordset& rs, const Tool& keyword, const std::string
     rs.Fields("ktTASKGUID") = Value(taskGUID);
     rs.Update();
     rs.UpdateBatch(adAffectAllChapters);
+}
+
+void KeywordSheet::addLinksFromBag(Recordset& rs, const Sheet& sheet, const std::string& bag,
+                                   const std::string& taskText, const std::string& taskGUID) {
+    const auto ticked = tickedIn(bag);
+    for (const auto& t : sheet.tools())
+        if (isKeyword(*t) && ticked.count(TextCase::upper(t->key()))) addLink(rs, *t, taskText, taskGUID);
 }
 
 }  // namespace qv

@@ -32,6 +32,9 @@ public:
     // Appends one TaskKeywords row for a keyword tool and writes it.
     static void addLink(Recordset& rs, const Tool& keyword, const std::string& taskText,
                         const std::string& taskGUID);
+    // One link per keyword of the sheet that the bag holds as true.
+    static void addLinksFromBag(Recordset& rs, const Sheet& sheet, const std::string& bag,
+                                const std::string& taskText, const std::string& taskGUID);
 };
 
 }  // namespace qv

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "dialogs/shared/TaskRecord.h"
+#include "session/globals/SessionGlobals.h"
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -30,6 +32,10 @@ int32_t PointsTally::tally(const std::array<int32_t, 15>& table, int32_t imp, in
     if (hasChecklist) add(table[13]);
     if (hasSchedule) add(table[14]);
     return static_cast<int32_t>(sum);
+}
+
+int32_t PointsTally::tally(const TaskRecord& r) {
+    return tally(g().PointsTable, r.Imp, r.Diff, r.TimeNeeded, r.HasChecklist, r.HasSchedule);
 }
 
 }  // namespace qv

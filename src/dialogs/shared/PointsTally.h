@@ -7,11 +7,16 @@
 
 namespace qv {
 
+struct TaskRecord;
+
 class PointsTally {
 public:
     // Throws Failure(Overflow) when the sum leaves 32 bits.
     [[nodiscard]] static int32_t tally(const std::array<int32_t, 15>& table, int32_t imp, int32_t diff,
                                        int32_t timeNeeded, bool hasChecklist, bool hasSchedule);
+
+    // A packed task's points from the session's PointsTable.
+    [[nodiscard]] static int32_t tally(const TaskRecord& r);
 
     // The table positions, exposed for the dialogs' tests of the classes.
     [[nodiscard]] static int32_t impIndex(int32_t imp);

@@ -77,6 +77,26 @@ bool ProjectSheet::refill(Sheet& sheet, const std::string& newName) {
     return true;
 }
 
+bool ProjectSheet::fillList(Tool& list, bool disableMop) {
+    clsVLProjectsList source;
+    auto rs = openProjects(source);
+    if (!rs) return false;
+    list.clearItems();
+    if (rs->RecordCount() > 0) resizeArrays(rs->RecordCount());
+    for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
+        const std::string key = rs->Fields("prjGUIDID").value().toText();
+        const std::string name = rs->Fields("prjProject").value().toText();
+        Tool& entry = list.addItem(ttOption, "PRJ-" + key, ZapAmps(name));
+        entry.setTag(key);
+        if (disableMop && key == g().MOP) entry.setEnabled(false);
+        storeRow(n, key, name);
+    }
+    rs->Close();
+    list.addItem(ttDropSeparator, {}, {});
+    list.addItem(ttButton, kNewProjectKey, "New Project");
+    return true;
+}
+
 // A sheet left as it was gets a second button, which can carry no key.
 void ProjectSheet::addClosingTools(Sheet& sheet) {
     sheet.add(ttSeparator);

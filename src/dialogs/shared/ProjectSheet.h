@@ -8,6 +8,7 @@
 namespace qv {
 
 class Sheet;
+class Tool;
 
 class ProjectSheet {
 public:
@@ -21,6 +22,12 @@ public:
     // one named newName (compared after ZapAmps) checked. With no rows the
     // sheet stays and only gains the closing tools again.
     static bool refill(Sheet& sheet, const std::string& newName);
+
+    // The Existing Task dialog's drop-down list: every project an entry
+    // keyed "PRJ-" and its key, tagged with the key, "Archived" included,
+    // then a separator and "New Project". At setup (disableMop) the MOP
+    // project's entry is disabled; after an added project none is.
+    static bool fillList(Tool& list, bool disableMop);
 
 private:
     static void addClosingTools(Sheet& sheet);

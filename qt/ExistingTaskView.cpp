@@ -1,0 +1,83 @@
+#include "ExistingTaskView.h"
+
+#include <QTextEdit>
+#include <QVBoxLayout>
+
+#include "kit/GridView.h"
+#include "kit/PaneBuilder.h"
+#include "kit/SplitterView.h"
+#include "kit/TabStripView.h"
+#include "toolkit/Form.h"
+#include "toolkit/Splitter.h"
+
+namespace qv {
+
+namespace {
+const std::vector<std::vector<int>> kColumns{{0, 1}, {2, 3}, {4, 5, 6}};
+const std::vector<int> kFooter{7};
+const std::vector<int> kColumnStretch{3, 6, 3};
+}  // namespace
+
+ExistingTaskView::ExistingTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
+    setObjectName("frmExistingTask.view");
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(4, 4, 4, 4);
+    Splitter* model = form.splitter("splitTask");
+    if (!model) return;
+    splitter_ = new SplitterView(*model, kColumns, kFooter, this);
+    for (int i = 0; i < model->paneCount(); ++i) splitter_->setPaneWidget(i, buildPane(i));
+    if (auto* columns = qobject_cast<QSplitter*>(splitter_->widget(0)))
+        for (int c = 0; c < columns->count(); ++c) columns->setStretchFactor(c, kColumnStretch[static_cast<size_t>(c)]);
+    column->addWidget(splitter_, 1);
+}
+
+// Typing goes to the task's text first.
+void ExistingTaskView::showEvent(QShowEvent* e) {
+    FormView::showEvent(e);
+    if (focused_) return;
+    focused_ = true;
+    if (auto* task = findChild<QTextEdit*>("spellTask")) task->setFocus(Qt::OtherFocusReason);
+}
+
+QWidget* ExistingTaskView::buildPane(int index) {
+    PaneBuilder build(form(), this);
+    switch (index) {
+    case 0: return build.sheet("smtABOUT");
+    case 1: return build.editorPane("lblNotes", "SpellNotes");
+    case 2: return build.editorPane("lblTask", "spellTask", "smtReady");
+    case 3: return buildTabs();
+    case 5: return build.sheet("smtTimes");
+    case 6: return build.sheet("smtKeywords");
+    case 7: return build.sheet("smtActions", SheetWidget::Style::Toolbar);
+    default: return new QWidget(this);
+    }
+}
+
+QWidget* ExistingTaskView::buildTabs() {
+    TabStrip* strip = form().tabStrip("Tabs1");
+    if (!strip) return buildSchedule();
+    tabs_ = new TabStripView(*strip, this);
+    tabs_->addPanel(PaneBuilder(form(), tabs_).editorPane("lblCk", "spellCK", "smtCKActions"));
+    tabs_->addPanel(buildSchedule());
+    return tabs_;
+}
+
+QWidget* ExistingTaskView::buildSchedule() {
+    auto* panel = new QWidget(this);
+    panel->setObjectName("paneTab1");
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(2, 2, 2, 2);
+    column->setSpacing(2);
+    PaneBuilder inside(form(), panel);
+    column->addWidget(inside.sheet("smtSkedTimes", SheetWidget::Style::Toolbar));
+    if (Grid* grid = form().grid("gridSked")) {
+        schedule_ = new GridView(*grid, panel);
+        column->addWidget(schedule_, 1);
+    } else {
+        column->addStretch(1);
+    }
+    column->addWidget(inside.sheet("smtSkedBtns", SheetWidget::Style::Toolbar));
+    return panel;
+}
+
+}  // namespace qv

@@ -1,0 +1,171 @@
+#include "dialogs/existingtask/ExistingTaskActions.h"
+
+#include "dialogs/existingtask/ExistingTaskDelete.h"
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/TaskPrinter.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/HelpViewer.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+#include "values/StopwatchDisplay.h"
+#include "values/TimeValues.h"
+#include "values/WindowGeometry.h"
+
+namespace qv {
+
+namespace {
+constexpr int32_t kHelpTopic = 601;
+const char* const kDiscardTask = "Discard changes made to this Task?";
+const char* const kCancelUpdating = "Cancel updating the current task?";
+const char* const kNotATime = "That value was not recognized as a time period like 1:00.";
+
+bool ask(const char* text, int32_t icon) { return ui().msgBox(text, vbYesNo | icon, kProgramTitle) == vbYes; }
+}  // namespace
+
+ExistingTaskActions::ExistingTaskActions(frmExistingTask& f)
+    : f_(f), stopwatch_(std::make_unique<StopwatchDisplay>(f.controls().smtTimes.tool("TIMER"), f.controls().Timer1)) {}
+
+ExistingTaskActions::~ExistingTaskActions() = default;
+
+void ExistingTaskActions::smtActions_Click(Tool& tool) {
+    const std::string& key = tool.key();
+    if (key == "RESETL") f_.resetLayout();
+    else if (key == "HELP") help();
+    else if (key == "PRINT") print(false);
+    else if (key == "PRINTPREVIEW") print(true);
+    else if (key == "PAGESETUP") pageSetup();
+    else if (key == "DONE") leave();
+    else if (key == "UPDATE") save(false);
+    else if (key == "DELETE") ExistingTaskDelete(f_).deleteTask();
+}
+
+void ExistingTaskActions::save(bool byKey) {
+    const int32_t mode = g().TaskMode;
+    if (mode == 1) {
+        if (!f_.UpdateTask()) return;
+        if (f_.fields().record().Status != 0) {
+            if (!byKey) ui().doEvents();
+            f_.TaskUpdated();
+        } else {
+            f_.TaskIsDone();
+        }
+    } else if (mode == 5) {
+        if (!f_.SaveToTaskCat()) return;
+        if (byKey) f_.TaskUpdated();
+        else f_.NewTaskCatTask();
+    } else {
+        return;
+    }
+    f_.controls().smtActions.tool("UPDATE").setEnabled(false);
+    f_.TaskCanceled(g().CurrentTaskGUID);
+    f_.CloseTaskForm();
+}
+
+// The checklist questions stay, though nothing sets CheckListChanged today.
+bool ExistingTaskActions::leave() {
+    const auto& ck = f_.fields().checklist;
+    if (ck.CheckListMode == 1 && ck.CheckListChanged) {
+        if (!ask("Discard new Checklist?", 0)) return false;
+    } else if (ck.CheckListMode == 2 && ck.CheckListChanged) {
+        if (!ask("Discard changes in Checklist?", vbQuestion)) return false;
+    }
+    if (f_.controls().smtActions.tool("UPDATE").enabled() && f_.fields().IsDirty)
+        if (!ask(kDiscardTask, vbQuestion)) return false;
+    f_.TaskCanceled(g().CurrentTaskGUID);
+    f_.CloseTaskForm();
+    return true;
+}
+
+// Enter saves whether or not "UPDATE" is enabled: the check inside decides.
+void ExistingTaskActions::Form_KeyDown(int32_t keyCode, bool& swallowed) {
+    if (keyCode == vbKeyReturn) {
+        save(true);
+        swallowed = true;
+    } else if (keyCode == vbKeyEscape) {
+        swallowed = leave();
+    }
+}
+
+// The close box asks its own question, tests only "UPDATE" and tells no
+// TaskCanceled.
+void ExistingTaskActions::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
+    if (unloadMode == 0 && f_.controls().smtActions.tool("UPDATE").enabled() && !ask(kCancelUpdating, 0)) {
+        cancel = true;
+        return;
+    }
+    stopStopwatch();
+    f_.fields().closeTaskRow();
+    WindowGeometry::forExistingTask(f_).onClose();
+}
+
+void ExistingTaskActions::stopStopwatch() { f_.controls().Timer1.setEnabled(false); }
+
+void ExistingTaskActions::help() {
+    if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
+}
+
+void ExistingTaskActions::print(bool preview) {
+    if (preview) f_.printer().DoPrintPreview();
+    else f_.printer().DoPrint();
+}
+
+void ExistingTaskActions::pageSetup() {
+    struct Lower {
+        ~Lower() { g().SettingUp = false; }
+    } lower;
+    f_.printer().PageSetup();
+}
+
+void ExistingTaskActions::enableUpdate() { f_.controls().smtActions.tool("UPDATE").setEnabled(true); }
+
+// "ADDFROMTIMER" reads the clock text, whose two colons make it 0: the
+// total stays as it was, also with the stopwatch running.
+void ExistingTaskActions::smtTimes_Click(Tool& tool) {
+    auto& c = f_.controls();
+    const std::string& key = tool.key();
+    if (key == "TIMER") {
+        const bool on = tool.tag() == "ON";
+        tool.setTag(on ? "OFF" : "ON");
+        tool.setImage(on ? "GRAY" : "INUSE");
+        if (on) stopwatch_->StopTHETimer();
+        else stopwatch_->StartTHETimer();
+    } else if (key == "COPYTIMENEEDED") {
+        const std::string needed = c.smtABOUT.tool("NEEDED").text();
+        c.smtABOUT.tool("SPENT").setText(needed);
+        c.smtTimes.tool("TIMESPENT").setText(needed);
+    } else if (key == "ADDFROMTIMER") {
+        Tool& spent = c.smtTimes.tool("TIMESPENT");
+        spent.setText(SetTimeFormat(FormatCTasTime(spent.text()) + FormatCTasTime(c.smtTimes.tool("TIMER").text())));
+        c.smtABOUT.tool("SPENT").setText(spent.text());
+    } else {
+        return;
+    }
+    enableUpdate();
+}
+
+void ExistingTaskActions::smtTimes_Change() { enableUpdate(); }
+
+void ExistingTaskActions::smtTimes_AfterEdit(Tool& tool) {
+    if (g().SettingUp || tool.key() != "TIMESPENT") return;
+    auto& c = f_.controls();
+    if (!IsTimeValue(tool.text())) {
+        DialogMessages::inform(kNotATime);
+        tool.setText("0:00");
+        return;
+    }
+    g().SettingUp = true;
+    c.smtABOUT.tool("SPENT").setText(tool.text());
+    g().SettingUp = false;
+    f_.ValidateTask();
+    f_.fields().IsDirty = true;
+    enableUpdate();
+}
+
+void ExistingTaskActions::Timer2_Timer() {
+    f_.SetVisibleTab(f_.fields().VisibleTab);
+    f_.controls().Timer2.setEnabled(false);
+}
+
+}  // namespace qv

@@ -1,0 +1,200 @@
+#include "dialogs/existingtask/ExistingTaskLoader.h"
+
+#include <cmath>
+
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/ExistingTaskKeywords.h"
+#include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/ProjectSheet.h"
+#include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/TrimtoLen.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/clsCheckLists.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
+#include "values/CNull.h"
+#include "values/DateFormats.h"
+#include "values/DateTimeFormatter.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+const char* const kSpellSettings = "TarnvikQuorvel";
+const char* const kLostChecklist = "The checklist formerly associated with this task could not be found.";
+constexpr int32_t kRed = 255;
+constexpr std::size_t kChecklistCaptionLimit = 80;
+constexpr int32_t kNoCurrentRecord = 3021;
+
+const std::string& level(const std::array<std::string, 5>& list, int32_t n) {
+    if (n < 0 || n >= static_cast<int32_t>(list.size())) throw Failure(err::SubscriptOutOfRange, "Subscript out of range");
+    return list[static_cast<std::size_t>(n)];
+}
+
+std::string text(Recordset& row, const char* column) { return CNull::NVLStr(row.Fields(column).value()); }
+}  // namespace
+
+bool ExistingTaskLoader::fillLists() {
+    auto& c = f_.controls();
+    g().SettingUp = true;
+    if (!assignDateFormats({&c.ctDeadline, &c.ctTheDateDone}, "frmExistingTask")) return false;
+    setSpellChecking();
+    const auto& s = g();
+    SheetPicks::fillList(c.smtABOUT.tool("STATUS"), "STATUS-", s.StatusList);
+    SheetPicks::fillList(c.smtABOUT.tool("IMP"), "IMP-",
+                         std::vector<std::string>(s.ImportanceList.begin(), s.ImportanceList.end()));
+    // The entries of "DIFF" are "DIF-": three letters, not the tool's key.
+    SheetPicks::fillList(c.smtABOUT.tool("DIFF"), "DIF-",
+                         std::vector<std::string>(s.DifficultyList.begin(), s.DifficultyList.end()));
+    if (!ProjectSheet::fillList(c.smtABOUT.tool("PROJECT"), true)) return false;
+    return f_.keywords().build();
+}
+
+void ExistingTaskLoader::setSpellChecking() {
+    auto& c = f_.controls();
+    const bool on = g().SpellCheckOn;
+    for (TextEditor* e : {&c.spellTask, &c.SpellNotes}) {
+        e->setSpellCheckOn(on);
+        if (on) e->bindSettings(kSpellSettings);
+    }
+}
+
+// The row stays open as TaskRow for the dialog's life. A key that finds no
+// row fails on the first field read and takes the error path.
+void ExistingTaskLoader::GetETASK() {
+    auto& fields = f_.fields();
+    g().SettingUp = true;
+    if (!fields.openTaskRow()) return;
+    Recordset& row = *fields.TaskRow;
+    if (row.EOF_()) throw Failure(kNoCurrentRecord, "Either BOF or EOF is True, or the current record has been deleted.");
+    fillTexts(row);
+    fillPicks(row);
+    fillTimes(row);
+    fillDeadline(row);
+    fillStatus(row);
+    f_.initSked();
+    if (CNull::NVLBool(row.Fields("tskHasSchedule").value())) {
+        f_.CountUpSked();
+        fields.utilHasSchedule = true;
+    } else {
+        fields.utilHasSchedule = false;
+    }
+    fillChecklist(row);
+    f_.keywords().tickFromStore();
+    g().SettingUp = false;
+}
+
+void ExistingTaskLoader::fillTexts(Recordset& row) {
+    auto& c = f_.controls();
+    auto& r = f_.fields().record();
+    r.Desc = text(row, "tskDesc");
+    c.spellTask.setText(r.Desc);
+    const Value points = row.Fields("tskPossPoints").value();
+    c.smtReady.tool("POINTS").setCaption(points.isNull() ? std::string() : std::to_string(points.toInt32()));
+    r.Notes = text(row, "tskNotes");
+    c.SpellNotes.setText(r.Notes);
+}
+
+// A level beyond its list is a bounds failure, as a stored 5 would be.
+void ExistingTaskLoader::fillPicks(Recordset& row) {
+    auto& c = f_.controls();
+    auto& r = f_.fields().record();
+    const auto& s = g();
+    Tool& project = c.smtABOUT.tool("PROJECT");
+    project.setText(text(row, "tskProject"));
+    project.setTag(text(row, "tskProjectKey"));
+    const int32_t imp = row.Fields("tskImp").value().toInt32();
+    c.smtABOUT.tool("IMP").setText(level(s.ImportanceList, imp));
+    c.smtABOUT.tool("IMP").setTag(std::to_string(imp));
+    const int32_t diff = row.Fields("tskDifficulty").value().toInt32();
+    c.smtABOUT.tool("DIFF").setText(level(s.DifficultyList, diff));
+    c.smtABOUT.tool("DIFF").setTag(std::to_string(diff));
+    Tool& current = c.smtABOUT.tool("ISCURRENT");
+    r.IsCurrent = CNull::NVLBool(row.Fields("tskCurrent").value());
+    current.setText(r.IsCurrent ? "Yes" : "No");
+    current.setTag(r.IsCurrent ? "TRUE" : "FALSE");
+}
+
+void ExistingTaskLoader::fillTimes(Recordset& row) {
+    auto& c = f_.controls();
+    auto& r = f_.fields().record();
+    const auto show = [&](const char* key, int32_t minutes) {
+        Tool& t = c.smtABOUT.tool(key);
+        t.setText(SetTimeFormat(minutes));
+        t.setTag(t.text());
+    };
+    r.TimeNeeded = CNull::NVLLng(row.Fields("tskTimeNeeded").value());
+    show("NEEDED", r.TimeNeeded);
+    r.TimeScheduled = CNull::NVLLng(row.Fields("tskTimeScheduled").value());
+    show("SCHEDULED", r.TimeScheduled);
+    r.TimeSpent = CNull::NVLLng(row.Fields("tskTimeSpent").value());
+    show("SPENT", r.TimeSpent);
+    c.smtTimes.tool("TIMESPENT").setText(c.smtABOUT.tool("SPENT").text());
+}
+
+// A midnight deadline shows no time; one at or past now shows red and bold.
+void ExistingTaskLoader::fillDeadline(Recordset& row) {
+    const Value stored = row.Fields("tskDeadline").value();
+    if (stored.isNull()) return;
+    const double deadline = stored.toDate().serial;
+    if (deadline <= kNoDate) return;
+    auto& c = f_.controls();
+    c.ctDeadline.setValue(deadline);
+    const double timeOfDay = deadline - std::floor(deadline);
+    if (timeOfDay > 0) c.smtABOUT.tool("DEADTIME").setText(DateTimeFormatter::current().longTime(timeOfDay));
+    if (clock().now() >= deadline) {
+        for (const char* key : {"DEADLINE", "DEADTIME"}) {
+            c.smtABOUT.tool(key).setForeColor(kRed);
+            c.smtABOUT.tool(key).setBold(true);
+        }
+    }
+    f_.fields().record().Deadline = deadline;
+}
+
+// The first four statuses show their fixed words whatever the list says.
+void ExistingTaskLoader::fillStatus(Recordset& row) {
+    static const char* const kFixedWords[] = {"Completed", "In Progress", "On Hold", "Defined"};
+    auto& c = f_.controls();
+    const int32_t status = CNull::NVLLng(row.Fields("tskStatus").value());
+    Tool& tool = c.smtABOUT.tool("STATUS");
+    Tool& done = c.smtReady.tool("DONE");
+    f_.fields().record().Status = status;
+    if (status >= 0 && status <= 3) {
+        tool.setText(kFixedWords[status]);
+    } else {
+        const auto& list = g().StatusList;
+        if (status < 0 || static_cast<std::size_t>(status) >= list.size()) return;
+        tool.setText(list[static_cast<std::size_t>(status)]);
+    }
+    tool.setTag(std::to_string(status));
+    tool.setBold(status == 0);
+    done.setChecked(status == 0);
+}
+
+void ExistingTaskLoader::fillChecklist(Recordset& row) {
+    auto& ck = f_.fields().checklist;
+    const std::string key = text(row, "tskTCheckListGUID");
+    ck.utilCheckListExists = false;
+    if (key.empty()) return;
+    clsCheckLists source;
+    source.SetSQL("SELECT ckName, ckDesc, ckContent from CHECKLISTS WHERE ckGUIDID=" + sqlLiteral(key));
+    RecordsetPtr rs;
+    if (!source.GetDataKEY(rs)) return;
+    if (rs->EOF_()) {
+        DialogMessages::inform(kLostChecklist);
+        return;
+    }
+    const std::string name = rs->Fields("ckName").value().toText();
+    ck.utilCheckListExists = true;
+    ck.utilChecklistKey = key;
+    ck.utilChecklistName = name;
+    f_.controls().lblCk.setCaption(" Checklist: " + TrimtoLen(name, kChecklistCaptionLimit));
+    f_.controls().spellCK.setText(rs->Fields("ckContent").value().toText());
+    f_.setCKEditMode(1);
+    rs->Close();
+}
+
+}  // namespace qv

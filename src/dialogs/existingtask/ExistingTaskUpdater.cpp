@@ -1,0 +1,148 @@
+#include "dialogs/existingtask/ExistingTaskUpdater.h"
+
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/ExistingTaskKeywords.h"
+#include "dialogs/existingtask/frmExistingTask.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
+#include "store/SaveTransaction.h"
+#include "store/clsNewTask.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Ui.h"
+#include "values/CNull.h"
+#include "values/TextCase.h"
+#include "values/TextChars.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+constexpr std::size_t kGuidLength = 36;
+const char* const kHistory[] = {"tskTimeN0", "tskTimeN1", "tskTimeN2", "tskTimeN3", "tskTimeN4"};
+}  // namespace
+
+// Only the columns below are assigned, so a change another process made to
+// any other column of the row (the scheduled time, the sort numbers) stays.
+// The row and its keyword links are one save, committed before the host
+// hears of it: the Outlook task too is told once the save stands. Links
+// that fail leave the row saved and the old links whole.
+bool ExistingTaskUpdater::UpdateTask() {
+    const double now = clock().now();
+    if (!f_.ValidateTask()) return false;
+    auto& fields = f_.fields();
+    if (!takeTimeSpent()) return false;
+    std::string outlookEntry;
+    std::string taskKey;
+    {
+        SaveTransaction save;
+        if (!fields.TaskRow && !fields.openTaskRow()) return false;
+        Recordset& row = *fields.TaskRow;
+        writeColumns(row, now);
+        row.Update();
+        row.UpdateBatch(adAffectAllChapters);
+        row.UpdateBatch(adAffectAllChapters);
+        readOutlookEntry(outlookEntry, taskKey);
+        fields.closeTaskRow();
+        save.keepSoFar();
+        f_.keywords().rewriteLinks();
+        save.commit();
+    }
+    ui().doEvents();
+    if (!outlookEntry.empty()) f_.FireOneOutlookTaskUpdate(outlookEntry, taskKey);
+    ui().doEvents();
+    fields.IsDirty = false;
+    return true;
+}
+
+void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {
+    auto& fields = f_.fields();
+    const TaskRecord& r = fields.record();
+    row.Fields("tskDesc") = Value(r.Desc);
+    row.Fields("tskProject") = Value(r.Project);
+    row.Fields("tskProjectKey") = Value(r.ProjectKey);
+    row.Fields("tskStatus") = Value(r.Status);
+    if (r.DateDone > kNoDate) row.Fields("tskDoneDate") = Value(Date{r.DateDone});
+    row.Fields("tskTimeSpent") = Value(r.TimeSpent);
+    shiftCatalogHistory(row);
+    row.Fields("tskImp") = Value(r.Imp);
+    row.Fields("tskDifficulty") = Value(r.Diff);
+    row.Fields("tskTimeNeeded") = Value(r.TimeNeeded);
+    row.Fields("tskNotes") = Value(r.Notes + "");
+    const std::string current = TextCase::upper(f_.controls().smtABOUT.tool("ISCURRENT").text());
+    row.Fields("tskCurrent") = Value(current == "YES");
+    row.Fields("tskHasSchedule") = Value(fields.SkedRowCount >= 1);
+    writeChecklist(row);
+    row.Fields("tskHasNotes") = Value(!r.Notes.empty());
+    row.Fields("tskPossPoints") = Value(fields.utilPossPoints);
+    row.Fields("tskLastMod") = Value(Date{now});
+    // A cleared deadline stays in the row.
+    if (r.Deadline > kNoDate) row.Fields("tskDeadline") = Value(Date{r.Deadline});
+    if (row.Fields("tskStatus").value().toInt32() == 0) row.Fields("tskWasImported") = Value(false);
+}
+
+// "0:00" on the times sheet leaves the stored Time Spent as it was loaded,
+// and so does the loaded text itself: a time of days or weeks does not read
+// back to its minutes, and an untouched time must not lose them. A changed
+// time the dialog can't read back is refused as the check refuses it,
+// rather than written over the stored time as -86.
+bool ExistingTaskUpdater::takeTimeSpent() {
+    auto& c = f_.controls();
+    auto& fields = f_.fields();
+    const std::string timer = c.smtTimes.tool("TIMESPENT").text();
+    if (timer == "0:00" || timer == c.smtABOUT.tool("SPENT").tag()) return true;
+    c.smtABOUT.tool("SPENT").setText(timer);
+    fields.setUtilTimeSpent(FormatCTasTime(c.smtABOUT.tool("SPENT").text()));
+    fields.record().TimeSpent = fields.utilTimeSpent();
+    if (fields.record().TimeSpent != kNothingChosen) return true;
+    c.smtActions.tool("UPDATE").setEnabled(false);
+    fields.IsDirty = false;
+    return false;
+}
+
+// A key is written only when the link was made or picked in this dialog.
+void ExistingTaskUpdater::writeChecklist(Recordset& row) {
+    auto& fields = f_.fields();
+    if (fields.record().HasChecklist) {
+        row.Fields("tskHasChecklist") = Value(true);
+        const int32_t mode = fields.checklist.CheckListMode;
+        if (mode == 1 || mode == 2) row.Fields("tskTCheckListGUID") = Value(fields.checklist.utilChecklistKey);
+    } else {
+        row.Fields("tskHasChecklist") = Value(false);
+        row.Fields("tskTCheckListGUID") = Value(std::string());
+    }
+}
+
+// Each save of a finished task moves the history on, also a second save of
+// the same task. The 16-bit read makes a spent time over 32767 minutes an
+// overflow.
+void ExistingTaskUpdater::shiftCatalogHistory(Recordset& row) {
+    const std::string catalogKey = CNull::NVLStr(row.Fields("tskTaskCatGUID").value());
+    if (charCount(catalogKey) != kGuidLength || row.Fields("tskStatus").value().toInt32() != 0) return;
+    clsNewTask source;
+    RecordsetPtr item;
+    source.SetSQL("SELECT tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4 from TASKSCAT WHERE "
+                  "tskGUIDID = " + sqlLiteral(catalogKey, '"'));
+    if (!source.GetData(item) || !item) throw Failure(err::ObjectRequired, "Object required");
+    if (item->RecordCount() == 1) {
+        for (int i = 4; i > 0; --i)
+            item->Fields(kHistory[i]) = Value(CNull::NVLInt(item->Fields(kHistory[i - 1]).value()));
+        item->Fields(kHistory[0]) = Value(CNull::NVLInt(row.Fields("tskTimeSpent").value()));
+        item->Update();
+        item->UpdateBatch(adAffectAllChapters);
+    }
+    item->Close();
+}
+
+// The row read again after the write: its Outlook entry, with integration on.
+void ExistingTaskUpdater::readOutlookEntry(std::string& entry, std::string& taskKey) {
+    auto& fields = f_.fields();
+    if (!fields.openTaskRow()) return;
+    Recordset& row = *fields.TaskRow;
+    if (!g().OutlookIntegrationOn || row.EOF_()) return;
+    entry = CNull::NVLStr(row.Fields("tskOUTEntityID").value());
+    taskKey = row.Fields("tskGUIDID").value().toText();
+}
+
+}  // namespace qv

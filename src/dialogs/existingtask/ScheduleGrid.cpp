@@ -1,0 +1,331 @@
+#include "dialogs/existingtask/ScheduleGrid.h"
+
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "dialogs/shared/TaskRecord.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/ErrorPath.h"
+#include "store/clsTaskSchedule.h"
+#include "toolkit/Clock.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Ports.h"
+#include "toolkit/Sheet.h"
+#include "toolkit/Tool.h"
+#include "values/CCreateGuid.h"
+#include "values/Convert.h"
+#include "values/DateTimeFormatter.h"
+#include "values/TimeValues.h"
+
+namespace qv {
+
+namespace {
+
+constexpr const char* kStart = "taStartTime";
+constexpr const char* kEnd = "taEndTime";
+constexpr const char* kWorked = "taWasWorked";
+constexpr const char* kMinutes = "taTimeWorked";
+constexpr const char* kKey = "taGUIDID";
+constexpr const char* kCalc = "CalcColumn";
+constexpr const char* kBtn = "BtnColumn";
+constexpr const char* kFake = "FakeColumn";
+constexpr const char* kButtonText = ">>>";
+// Just short of an hour (59 minutes and about 59.8 seconds): a new slot
+// still reads one hour once rounded to minutes.
+constexpr double kNewSlotLength = 0.041664;
+
+struct Shown {
+    const char* key;
+    const char* header;
+    int32_t position;
+    Grid::CellStyle style;
+    double layoutFactor;
+    double resizeFactor;  // 0: the resize leaves the width alone
+};
+
+constexpr Shown kShown[] = {
+    {kWorked, "Done?", 1, Grid::CellStyle::CheckBox, 0.06, 0},
+    {kStart, "Start", 2, Grid::CellStyle::Edit, 0.275, 0.25},
+    {kEnd, "End", 3, Grid::CellStyle::Edit, 0.275, 0.25},
+    {kCalc, "Duration", 4, Grid::CellStyle::Edit, 0.1, 0.1},
+    {kBtn, ">>", 5, Grid::CellStyle::Button, 0.05, 0.12},
+    {kFake, "Actual Time Spent", 7, Grid::CellStyle::Edit, 0.2, 0.2},
+};
+
+constexpr const char* kHidden[] = {"taGUIDID", "taTaskGUIDID", "taProject", "taProjectGUIDID",
+                                   "taTaskDesc", "taImp", "taDifficulty", kMinutes};
+
+std::string cellText(const Value& v) {
+    switch (v.kind()) {
+    case Value::Kind::Date: return DateTimeFormatter::current().generalDate(v.toDate().serial);
+    case Value::Kind::Bool: return v.toBool() ? "True" : "False";
+    default: return v.toText();
+    }
+}
+
+bool isChecked(const std::string& text) { return !text.empty() && text != "0" && text != "False"; }
+
+std::string trimmed(std::string s) {
+    const auto b = s.find_first_not_of(' ');
+    if (b == std::string::npos) return {};
+    return s.substr(b, s.find_last_not_of(' ') - b + 1);
+}
+
+}  // namespace
+
+ScheduleGrid::ScheduleGrid(Sheet& smtABOUT, Sheet& smtSkedTimes, Sheet& smtTimes, Hooks hooks)
+    : smtABOUT_(smtABOUT), smtSkedTimes_(smtSkedTimes), smtTimes_(smtTimes), hooks_(std::move(hooks)) {
+    grid_.BeforeCellUpdate.connect([this](int32_t r, int32_t c, const std::string& text, bool& cancel) {
+        trapped("gridSked_BeforeCellUpdate", [&] { BeforeCellUpdate(r, c, text, cancel); });
+    });
+    grid_.AfterCellUpdate.connect(
+        [this](int32_t r, int32_t c) { trapped("gridSked_AfterCellUpdate", [&] { AfterCellUpdate(r, c); }); });
+    grid_.ClickCellButton.connect(
+        [this](int32_t r, int32_t c) { trapped("gridSked_ClickCellButton", [&] { ClickCellButton(r, c); }); });
+    grid_.setDisplayFilter([this](int32_t, int32_t c, const std::string& v) { return AfterGetValue(c, v); });
+}
+
+ScheduleGrid::~ScheduleGrid() = default;
+
+void ScheduleGrid::trapped(const char* procedure, const std::function<void()>& body) {
+    if (hooks_.trapped) hooks_.trapped(procedure, body);
+    else trap("frmExistingTask", procedure, body);
+}
+
+int32_t ScheduleGrid::col(const char* key) const { return grid_.columnOf(key); }
+
+std::string ScheduleGrid::skedQuery(const std::string& taskKey) {
+    return "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, TASKAPPTS.taTimeWorked, "
+           "TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, "
+           "TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, TASKAPPTS.taProject, TASKAPPTS.taImp, "
+           "TASKAPPTS.taDifficulty"
+           " From TASKAPPTS"
+           " Where (((TASKAPPTS.taTaskGUIDID) = " +
+           sqlLiteral(taskKey, '"') + "))" + " ORDER BY TASKAPPTS.taStartTime DESC;";
+}
+
+void ScheduleGrid::initSked() {
+    source_ = std::make_unique<clsTaskSchedule>();
+    source_->SetSQL(skedQuery(g().CurrentTaskGUID));
+    rs_ = nullptr;
+    source_->Class_GetDataMember("Recordset", rs_);
+    if (!rs_) {
+        grid_.clearRows();
+        return;
+    }
+    const int32_t count = source_->GetRowCount();
+    if (grid_.columnCount() == 0) InitializeLayout();
+    loadRows();
+    grid_.setCaption("Task Appointments: " + std::to_string(count));
+    setCount(count);
+}
+
+void ScheduleGrid::setCount(int32_t count) {
+    skedRowCount_ = count;
+    if (hooks_.countChanged) hooks_.countChanged(count);
+}
+
+void ScheduleGrid::killSked() {
+    rs_ = nullptr;
+    source_.reset();
+    grid_.clearRows();
+}
+
+// The query's columns as they come, then the three the dialog adds.
+void ScheduleGrid::InitializeLayout() {
+    const int32_t fields = rs_->FieldCount();
+    for (int32_t i = 0; i < fields; ++i) {
+        const std::string name = rs_->FieldAt(i).Name();
+        grid_.addColumn(name, name);
+    }
+    boundColumns_ = fields;
+    for (const char* key : {kCalc, kBtn, kFake}) grid_.addColumn(key, key);
+    for (const char* key : kHidden)
+        if (int32_t c = col(key); c >= 0) {
+            grid_.setColumnVisible(c, false);
+            grid_.setColumnPosition(c, 100);
+        }
+    if (int32_t c = col(kMinutes); c >= 0) {
+        grid_.setColumnCaption(c, "Time Spent");
+        grid_.setColumnPosition(c, 6);
+    }
+    for (const Shown& s : kShown)
+        if (int32_t c = col(s.key); c >= 0) {
+            grid_.setColumnCaption(c, s.header);
+            grid_.setColumnPosition(c, s.position);
+            grid_.setColumnStyle(c, s.style);
+        }
+    applyLayoutWidths();
+}
+
+void ScheduleGrid::applyLayoutWidths() {
+    const double w = grid_.extentWidth();
+    laidOut_ = grid_.columnCount() > 0 && w > 0;
+    for (const Shown& s : kShown)
+        if (int32_t c = col(s.key); c >= 0) grid_.setColumnWidth(c, roundLong(s.layoutFactor * w));
+}
+
+void ScheduleGrid::applyResizeWidths() {
+    if (grid_.columnCount() == 0) return;
+    const double w = grid_.extentWidth();
+    for (const Shown& s : kShown)
+        if (int32_t c = col(s.key); c >= 0 && s.resizeFactor > 0)
+            grid_.setColumnWidth(c, roundLong(s.resizeFactor * w));
+}
+
+void ScheduleGrid::loadRows() {
+    std::vector<Grid::Row> rows;
+    const auto columns = static_cast<std::size_t>(grid_.columnCount());
+    const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
+    auto& rs = *rs_;
+    if (!rs.EOF_()) rs.MoveFirst();
+    while (!rs.EOF_()) {
+        Grid::Row& row = rows.emplace_back();
+        row.cells.resize(columns);
+        std::optional<double> from, to, worked = 0.0;
+        for (int32_t i = 0; i < boundColumns_; ++i) {
+            const Value v = rs.FieldAt(i).value();
+            row.cells[static_cast<std::size_t>(i)] = cellText(v);
+            if (v.isNull()) continue;
+            if (i == start) from = v.toDate().serial;
+            else if (i == end) to = v.toDate().serial;
+            else if (i == minutes) worked = v.toDouble();
+        }
+        fillUnbound(row.cells, from, to, worked);
+        rs.MoveNext();
+    }
+    grid_.setRows(std::move(rows));
+}
+
+// InitializeRow: the planned minutes, rounded half to even, as time text;
+// the button's text; the time spent as time text.
+void ScheduleGrid::fillUnbound(std::vector<std::string>& cells, std::optional<double> start,
+                               std::optional<double> end, std::optional<double> minutes) const {
+    std::string duration;
+    if (start && end) duration = SetTimeFormat(roundLong((*end - *start) * 1440.0));
+    cells[static_cast<std::size_t>(col(kCalc))] = std::move(duration);
+    cells[static_cast<std::size_t>(col(kBtn))] = kButtonText;
+    cells[static_cast<std::size_t>(col(kFake))] = SetTimeFormat(minutes.value_or(0.0));
+}
+
+void ScheduleGrid::InitializeRow(int32_t row) {
+    std::vector<std::string> cells = grid_.row(row).cells;
+    const std::string& worked = cells[static_cast<std::size_t>(col(kMinutes))];
+    fillUnbound(cells, tryToDate(grid_.cell(row, col(kStart))), tryToDate(grid_.cell(row, col(kEnd))),
+                worked.empty() ? std::optional<double>(0.0) : tryToDouble(worked));
+    for (const char* key : {kCalc, kBtn, kFake}) {
+        const int32_t c = col(key);
+        grid_.setCell(row, c, cells[static_cast<std::size_t>(c)]);
+    }
+}
+
+void ScheduleGrid::CountUpSked() {
+    if (grid_.rowCount() == 0) return;
+    const int32_t calc = col(kCalc);
+    int64_t sum = FormatCTasTime(grid_.cell(0, calc));
+    int32_t count = 1;
+    for (int32_t r = 1; r < grid_.rowCount(); ++r) {
+        sum += FormatCTasTime(grid_.cell(r, calc));
+        if (sum > INT32_MAX || sum < INT32_MIN || count == INT32_MAX) throw Failure(err::Overflow, "Overflow");
+        ++count;
+    }
+    setCount(count);
+    smtABOUT_.tool("SCHEDULED").setText(SetTimeFormat(static_cast<double>(sum)));
+}
+
+void ScheduleGrid::BeforeCellUpdate(int32_t, int32_t column, const std::string& text, bool& cancel) {
+    const std::string& key = grid_.column(column).field;
+    if ((key == kEnd || key == kStart) && !readsAsDate(text)) cancel = true;
+}
+
+void ScheduleGrid::AfterCellUpdate(int32_t row, int32_t column) {
+    const std::string& key = grid_.column(column).field;
+    if (key == kFake) {
+        grid_.setCell(row, col(kMinutes), std::to_string(FormatCTasTime(grid_.cell(row, column))));
+        writeField(row, col(kMinutes));
+        return;
+    }
+    if (column >= boundColumns_) return;
+    writeField(row, column);
+    if (key == kStart || key == kEnd) InitializeRow(row);
+}
+
+void ScheduleGrid::ClickCellButton(int32_t row, int32_t column) {
+    if (grid_.column(column).field != kBtn) return;
+    grid_.updateCell(row, col("fakeColumn"), grid_.cell(row, col(kCalc)));
+    InitializeRow(row);
+}
+
+// Outside edit mode a start or an end shows its time of day only.
+std::string ScheduleGrid::AfterGetValue(int32_t column, const std::string& value) const {
+    g().ScheduleTouched = true;
+    if (value.empty()) return value;
+    const std::string& key = grid_.column(column).field;
+    if (key != kStart && key != kEnd) return value;
+    const auto serial = tryToDate(value);
+    if (!serial) return value;
+    return DateTimeFormatter::current().shortTime(*serial - std::trunc(*serial));
+}
+
+// The row's cell goes to its field: dates as dates, the check as a
+// boolean, the time spent as whole minutes.
+void ScheduleGrid::writeField(int32_t row, int32_t column) {
+    if (!rs_) return;
+    const std::string& key = grid_.column(column).field;
+    const std::string& text = grid_.cell(row, column);
+    Value v{text};
+    if (text.empty()) v = Value{};
+    else if (key == kStart || key == kEnd) v = Date{tryToDate(text).value_or(0.0)};
+    else if (key == kWorked) v = isChecked(text);
+    else if (key == kMinutes) {
+        g().ScheduleTouched = true;
+        v = FormatCTasTime(text);
+    }
+    auto& rs = *rs_;
+    rs.MoveFirst();
+    for (int32_t i = 0; i < row && !rs.EOF_(); ++i) rs.MoveNext();
+    if (rs.EOF_()) return;
+    rs.Fields(key) = v;
+    rs.Update();
+    rs.UpdateBatch(adAffectAllChapters);
+}
+
+void ScheduleGrid::smtSkedBtns_Click(Tool& tool) {
+    if (tool.key() == "ADD") addAppointment();
+    else if (tool.key() == "DELETE") deleteAppointment();
+}
+
+void ScheduleGrid::addAppointment() {
+    const std::string key = CCreateGuid::guid();
+    const TaskRecord& rec = hooks_.record();
+    const std::string diffImp = trimmed(std::to_string(rec.Imp)) + trimmed(std::to_string(rec.Diff));
+    const Tool& project = smtABOUT_.tool("PROJECT");
+    const double start = clock().now();
+    if (!source_ || !source_->AddTA(key, g().CurrentTaskGUID, project.text(), project.tag(), Date{start},
+                                    Date{start + kNewSlotLength}, rec.Desc, diffImp))
+        return;
+    initSked();
+    if (hooks_.ValidateTask) hooks_.ValidateTask();
+}
+
+// Only the first of the selected rows goes, and nothing is asked.
+void ScheduleGrid::deleteAppointment() {
+    const auto& picked = grid_.selectedRows();
+    if (picked.empty() || !source_) return;
+    const std::string key = grid_.cell(picked.front(), col(kKey));
+    if (!source_->KillTA(key)) return;
+    initSked();
+    if (hooks_.ValidateTask) hooks_.ValidateTask();
+}
+
+// The strip as designed has no "SCHEDULED", so this does nothing; a strip
+// given one gets the copy.
+void ScheduleGrid::smtSkedTimes_Click(Tool& tool) {
+    if (tool.key() != "COPYTA" || !smtSkedTimes_.hasKey("SCHEDULED")) return;
+    const std::string value = smtSkedTimes_.tool("SCHEDULED").text();
+    smtSkedTimes_.tool("SPENT").setText(value);
+    smtTimes_.tool("TIMESPENT").setText(value);
+}
+
+}  // namespace qv

@@ -1,0 +1,40 @@
+#pragma once
+// Opens the Existing Task dialog through clsTask2 on a fresh store with a
+// stored task, and drives it with scripted user actions.
+
+#include <string>
+
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/newtask/NewTaskFixture.h"
+
+namespace qv {
+
+class ExistingTaskFixture : public NewTaskFixture {
+protected:
+    static constexpr const char* kTask = "99999999-0000-0000-0000-000000000009";
+    static constexpr const char* kCatalogItem = "77777777-0000-0000-0000-000000000007";
+    static constexpr const char* kChecklist = "66666666-0000-0000-0000-000000000006";
+
+    // A task in project Alpha, In Progress, importance 2, difficulty 3,
+    // 1:30 needed, 0:45 spent, with extra column assignments (SQL).
+    void addTask(const std::string& extraColumns = {}, const std::string& extraValues = {}) const;
+    void linkKeyword(const std::string& keyword) const;
+
+    void openTask(int32_t mode = 1, const std::string& guid = kTask) { open(mode, guid); }
+    frmExistingTask& eform() { return *task_.frmE(); }
+    Sheet& esheet(const std::string& name) { return *eform().sheet(name); }
+    Tool& etool(const std::string& sheetName, const std::string& key) { return *esheet(sheetName).find(key); }
+
+    void eclick(const std::string& sheetName, const std::string& key);
+    // Chooses the entry of a drop-down list tool by its caption.
+    void choose(const std::string& listKey, const std::string& caption);
+    void etype(const std::string& sheetName, const std::string& key, const std::string& text);
+    void edesc(const std::string& text) {
+        then([this, text] { eform().editor("spellTask")->userEdit(text); });
+    }
+    void ekey(int32_t code) { then([this, code] { eform().keyDown(code); }); }
+    void answer(int32_t a) { then([this, a] { scriptedUi().queueAnswer(a); }); }
+};
+
+}  // namespace qv

@@ -1,0 +1,132 @@
+// Opening a stored task in the Existing Task dialog: every field of the
+// row in its tool, the fixed status words, the red past deadline, the
+// checklist, the keyword ticks and the two modes' captions.
+
+#include "dialogs/existingtask/ExistingTaskFixture.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/Ui.h"
+#include "values/DateSerial.h"
+
+namespace qv {
+
+namespace {
+class ExistingTaskLoad : public ExistingTaskFixture {};
+}  // namespace
+
+TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
+    seed();
+    addTask(", tskDeadline", ", '2030-06-01 17:00:00.000'");
+    linkKeyword(kKeyBlue);
+    exec("UPDATE Settings SET SetSettingValue='Done' WHERE SetSettingName='STATUS1'");
+    then([this] {
+        EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Edit Task");
+        EXPECT_EQ(eform().editor("spellTask")->text(), "Paint the fence");
+        EXPECT_EQ(eform().editor("SpellNotes")->text(), "Two coats");
+        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "In Progress");
+        EXPECT_EQ(etool("smtABOUT", "STATUS").tag(), "1");
+        EXPECT_FALSE(etool("smtABOUT", "STATUS").bold());
+        EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Alpha");
+        EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha);
+        EXPECT_EQ(etool("smtABOUT", "IMP").tag(), "2");
+        EXPECT_EQ(etool("smtABOUT", "IMP").text(), g().ImportanceList[2]);
+        EXPECT_EQ(etool("smtABOUT", "DIFF").text(), g().DifficultyList[3]);
+        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").text(), "Yes");
+        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").tag(), "TRUE");
+        EXPECT_EQ(etool("smtABOUT", "NEEDED").text(), "1:30");
+        EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "0:45");
+        EXPECT_EQ(etool("smtABOUT", "SCHEDULED").text(), "0:30");
+        EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "0:45");
+        EXPECT_EQ(etool("smtReady", "POINTS").caption(), "12");
+        EXPECT_EQ(etool("smtABOUT", "DEADTIME").text(), "5:00:00 PM");
+        EXPECT_EQ(etool("smtABOUT", "DEADLINE").foreColor(), 0) << "a future deadline is not red";
+        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible());
+        EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
+        EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked());
+        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(etool("smtActions", "UPDATE").caption(), "&Update");
+        EXPECT_EQ(etool("smtABOUT", "PROJECT").items().back()->caption(), "New Project");
+        EXPECT_TRUE(etool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta) != nullptr);
+        EXPECT_FALSE(g().SettingUp);
+        eform().hide();
+    });
+    openTask();
+    EXPECT_EQ(events_.front(), "LoadingTask");
+    EXPECT_TRUE(reporter().faults().empty());
+}
+
+TEST_F(ExistingTaskLoad, CompletedPastDeadlineMidnightAndOddStatuses) {
+    seed();
+    addTask(", tskDeadline", ", '2020-06-01 00:00:00.000'");
+    exec("UPDATE TASKS SET tskStatus=0");
+    then([this] {
+        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "Completed");
+        EXPECT_TRUE(etool("smtABOUT", "STATUS").bold());
+        EXPECT_TRUE(etool("smtReady", "DONE").checked());
+        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible()) << "no Date Done row, even when completed";
+        EXPECT_EQ(etool("smtABOUT", "DEADTIME").text(), "") << "a midnight deadline has no time";
+        EXPECT_EQ(etool("smtABOUT", "DEADLINE").foreColor(), 255);
+        EXPECT_TRUE(etool("smtABOUT", "DEADTIME").bold());
+        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled()) << "the load's Done tick enables nothing";
+        eform().hide();
+    });
+    openTask();
+
+    // A status beyond the list leaves the tool empty and fails nothing.
+    exec("UPDATE TASKS SET tskStatus=42");
+    then([this] {
+        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "");
+        eform().hide();
+    });
+    openTask();
+    EXPECT_TRUE(reporter().faults().empty());
+}
+
+TEST_F(ExistingTaskLoad, ChecklistFoundOrLostAndAMissingRow) {
+    seed();
+    const std::string longName(90, 'n');
+    exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) + "', '" +
+         longName + "', 'd', 'step one')");
+    addTask(", tskTCheckListGUID, tskHasChecklist", ", '" + std::string(kChecklist) + "', 1");
+    then([this, longName] {
+        EXPECT_EQ(eform().label("lblCk")->caption(), " Checklist: " + longName.substr(0, 80) + "...");
+        EXPECT_EQ(eform().editor("spellCK")->text(), "step one");
+        EXPECT_TRUE(etool("smtCKActions", "EDIT").visible());
+        eform().hide();
+    });
+    openTask();
+    EXPECT_TRUE(scriptedUi().messages().empty());
+
+    exec("DELETE FROM CHECKLISTS");
+    scriptedUi().queueAnswer(vbOK);
+    then([this] {
+        EXPECT_FALSE(eform().fields().checklist.utilCheckListExists);
+        eform().hide();
+    });
+    openTask();
+    ASSERT_EQ(scriptedUi().messages().size(), 1u);
+    EXPECT_EQ(scriptedUi().lastMessage().text, "The checklist formerly associated with this task could not be found.");
+    EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
+
+    // A key with no row takes the error path, once, and shows nothing.
+    openTask(1, "00000000-0000-0000-0000-00000000dead");
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(reporter().faults()[0].procedure, "SetupDetails");
+    EXPECT_EQ(reporter().faults()[0].module, "frmExistingTask");
+}
+
+TEST_F(ExistingTaskLoad, ModeFiveOffersTheCatalogSaveAndTrimtoLen) {
+    seed();
+    addTask();
+    then([this] {
+        EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Create Task Catalog Item");
+        EXPECT_EQ(etool("smtActions", "UPDATE").caption(), "Save to &Task Catalog");
+        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        eform().hide();
+    });
+    openTask(5);
+    EXPECT_EQ(frmExistingTask::TrimtoLen("abcdef", 6), "abcdef");
+    EXPECT_EQ(frmExistingTask::TrimtoLen("abcdefg", 6), "abcdef...");
+    EXPECT_EQ(frmExistingTask::TrimtoLen("äöüäöüä", 6), "äöüäöü...");
+}
+
+}  // namespace qv

@@ -1,0 +1,223 @@
+// Validating and updating a stored task: what "UPDATE" writes and what it
+// leaves, the status and Done, the catalog's time history, the host's
+// events, and the checks that keep "UPDATE" disabled.
+
+#include <string>
+
+#include "dialogs/existingtask/ExistingTaskFixture.h"
+#include "session/globals/SessionGlobals.h"
+#include "toolkit/Ui.h"
+#include "values/DateSerial.h"
+
+namespace qv {
+
+namespace {
+class ExistingTaskUpdate : public ExistingTaskFixture {
+protected:
+    const std::string where = " FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'";
+    std::string column(const std::string& name) const { return readOne("SELECT " + name + where); }
+};
+}  // namespace
+
+TEST_F(ExistingTaskUpdate, ChangedDeadlineIsWrittenAndOnlyAssignedColumnsGoBack) {
+    seed();
+    addTask(", tskCustSortQV", ", 7");
+    then([this] {
+        eform().dateBox("ctDeadline")->userSetValue(46000.0);
+        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(etool("smtActions", "DONE").caption(), "D&one");
+        EXPECT_TRUE(eform().fields().IsDirty);
+        // Another process writes the scheduled time while the dialog is up.
+        exec("UPDATE TASKS SET tskTimeScheduled=555");
+        fakeClock().setNow(45310.5);
+    });
+    etype("smtABOUT", "DEADTIME", "17:00");
+    eclick("smtActions", "UPDATE");
+    openTask();
+
+    EXPECT_EQ(column("tskDeadline").substr(0, 16), "2025-12-09T16:59") << "the time goes through single precision";
+    EXPECT_EQ(column("tskLastMod"), dateserial::toIso(45310.5));
+    EXPECT_EQ(column("tskTimeScheduled"), "555") << "a column the dialog did not assign keeps the host's change";
+    EXPECT_EQ(column("tskCustSortQV"), "7");
+    EXPECT_EQ(column("tskDesc"), "Paint the fence");
+    EXPECT_EQ(column("tskTimeSpent"), "45");
+    EXPECT_EQ(column("tskCurrent"), "1");
+    EXPECT_EQ(column("tskHasSchedule"), "0");
+    EXPECT_EQ(count("TaskUpdated"), 1);
+    EXPECT_EQ(count("TaskIsDone"), 0);
+    EXPECT_EQ(events_.back(), "DoCloseTaskForm");
+    EXPECT_TRUE(reporter().faults().empty());
+}
+
+TEST_F(ExistingTaskUpdate, DoneTickCompletesTheTaskWithTodayAsDateDone) {
+    seed();
+    addTask();
+    then([this] {
+        fakeClock().setNow(45320.75);
+        esheet("smtReady").click(etool("smtReady", "DONE"));
+        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "Completed");
+        EXPECT_EQ(etool("smtABOUT", "STATUS").tag(), "0");
+        EXPECT_TRUE(etool("smtABOUT", "DATEDONE").visible());
+        EXPECT_EQ(eform().dateBox("ctTheDateDone")->value(), 45320.0);
+        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+    });
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(column("tskStatus"), "0");
+    EXPECT_EQ(column("tskDoneDate"), dateserial::toIso(45320.0));
+    EXPECT_EQ(column("tskWasImported"), "0");
+    EXPECT_EQ(count("TaskIsDone"), 1);
+    EXPECT_EQ(count("TaskUpdated"), 0);
+
+    // Back to In Progress: Date Done goes, the stored date stays.
+    choose("STATUS", "In Progress");
+    then([this] {
+        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible());
+        EXPECT_FALSE(etool("smtReady", "DONE").checked());
+        EXPECT_EQ(eform().fields().record().DateDone, 1.0);
+    });
+    ekey(vbKeyReturn);
+    openTask();
+    EXPECT_EQ(column("tskStatus"), "1");
+    EXPECT_EQ(column("tskDoneDate"), dateserial::toIso(45320.0));
+    EXPECT_EQ(count("TaskUpdated"), 1);
+}
+
+TEST_F(ExistingTaskUpdate, CompletedCatalogTaskShiftsTheTimeHistoryOnEachSave) {
+    seed();
+    exec("INSERT INTO TASKSCAT (tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4) VALUES ('" +
+         std::string(kCatalogItem) + "', 10, 20, 30, 40, 50)");
+    addTask(", tskTaskCatGUID", ", '" + std::string(kCatalogItem) + "'");
+    exec("UPDATE TASKS SET tskStatus=0");
+    const std::string item = " FROM TASKSCAT WHERE tskGUIDID='" + std::string(kCatalogItem) + "'";
+    const auto history = [&] {
+        std::string h;
+        for (int i = 0; i < 5; ++i) h += readOne("SELECT tskTimeN" + std::to_string(i) + item) + " ";
+        return h;
+    };
+    etype("smtABOUT", "NEEDED", "2:00");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(history(), "45 10 20 30 40 ");
+    EXPECT_EQ(count("TaskIsDone"), 1);
+
+    etype("smtTimes", "TIMESPENT", "1:05");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(history(), "65 45 10 20 30 ") << "a second save moves the history again";
+    EXPECT_EQ(column("tskTimeSpent"), "65");
+
+    // A spent time beyond 16 bits overflows the history and takes the
+    // error path; nothing of the save is committed.
+    exec("UPDATE TASKS SET tskTimeSpent=40000");
+    etype("smtABOUT", "NEEDED", "3:00");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(reporter().faults()[0].procedure, "UpdateTask");
+    EXPECT_EQ(column("tskTimeSpent"), "40000");
+    EXPECT_EQ(column("tskTimeNeeded"), "120");
+    EXPECT_EQ(history(), "65 45 10 20 30 ");
+}
+
+TEST_F(ExistingTaskUpdate, ChecksKeepUpdateDisabledAndTellWhatIsMissing) {
+    seed();
+    addTask();
+    edesc(std::string(256, 'x'));
+    then([this] {
+        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_TRUE(scriptedUi().messages().empty()) << "a long description is refused silently";
+        EXPECT_TRUE(eform().fields().IsDirty) << "a handled edit stays dirty";
+        eform().editor("spellTask")->userEdit(std::string(255, 'x'));
+        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        scriptedUi().queueAnswer(vbOK);
+        esheet("smtABOUT").userChoose(etool("smtABOUT", "DEADTIME"), "half past");
+        EXPECT_EQ(scriptedUi().lastMessage().text, "Deadline Time needs to be a recognizable time.");
+        EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
+        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(etool("smtActions", "DONE").caption(), "D&one") << "the caption stays once a check passed";
+        esheet("smtABOUT").userChoose(etool("smtABOUT", "DEADTIME"), "");
+        // Points: importance 2, difficulty 3, the time class of 90 minutes.
+        const auto& p = g().PointsTable;
+        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[11]));
+        esheet("smtABOUT").userChoose(etool("smtABOUT", "NEEDED"), "0:10");
+        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[10]));
+        esheet("smtABOUT").userChoose(etool("smtABOUT", "NEEDED"), "2:00");
+        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[12]));
+    });
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(column("tskDesc"), std::string(255, 'x'));
+    EXPECT_EQ(column("tskTimeNeeded"), "120");
+
+    // A stored time of weeks does not read back to its minutes: left as it
+    // is, it keeps them; a time of days typed anew is refused unwritten.
+    exec("UPDATE TASKS SET tskTimeSpent=40000");
+    edesc("Paint it twice");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(column("tskTimeSpent"), "40000");
+    EXPECT_EQ(column("tskDesc"), "Paint it twice");
+    edesc("Paint it thrice");
+    then([this] { etool("smtTimes", "TIMESPENT").setText("2 Days"); });
+    eclick("smtActions", "UPDATE");
+    then([this] {
+        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        eform().hide();
+    });
+    openTask();
+    EXPECT_EQ(column("tskTimeSpent"), "40000");
+    EXPECT_EQ(column("tskDesc"), "Paint it twice");
+    EXPECT_TRUE(reporter().faults().empty());
+}
+
+TEST_F(ExistingTaskUpdate, OutlookIsToldOnlyWithIntegrationAndAnEntry) {
+    seed();
+    addTask(", tskOUTEntityID", ", 'OUT-1'");
+    exec("UPDATE Settings SET SetSettingValue='True' WHERE SetSettingName='Integrate Outlook Tasks'");
+    edesc("Paint the gate");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    ASSERT_EQ(count("Fire1OutlookTaskUpdate"), 1);
+    EXPECT_EQ(column("tskDesc"), "Paint the gate");
+
+    exec("UPDATE Settings SET SetSettingValue='False' WHERE SetSettingName='Integrate Outlook Tasks'");
+    edesc("Paint the shed");
+    eclick("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(count("Fire1OutlookTaskUpdate"), 1);
+}
+
+TEST_F(ExistingTaskUpdate, EscapeAsksAfterAValidEditAndCloseBoxAsksItsOwn) {
+    seed();
+    addTask();
+    edesc("Paint the gate");
+    answer(vbNo);
+    ekey(vbKeyEscape);
+    then([this] {
+        EXPECT_EQ(scriptedUi().lastMessage().text, "Discard changes made to this Task?");
+        EXPECT_EQ(scriptedUi().lastMessage().style, vbYesNo | vbQuestion);
+        EXPECT_TRUE(eform().visible());
+        EXPECT_EQ(eform().editor("spellTask")->text(), "Paint the gate");
+    });
+    answer(vbNo);
+    then([this] { eform().requestClose(); });
+    then([this] {
+        EXPECT_EQ(scriptedUi().lastMessage().text, "Cancel updating the current task?");
+        EXPECT_EQ(scriptedUi().lastMessage().style, vbYesNo);
+        EXPECT_TRUE(eform().visible());
+    });
+    answer(vbYes);
+    ekey(vbKeyEscape);
+    openTask();
+    EXPECT_EQ(column("tskDesc"), "Paint the fence");
+    EXPECT_EQ(count("DoCloseTaskForm"), 2);
+    EXPECT_EQ(count("TaskUpdated"), 0);
+
+    // Untouched, Cancel asks nothing.
+    eclick("smtActions", "DONE");
+    openTask();
+    EXPECT_EQ(scriptedUi().messages().size(), 3u);
+}
+
+}  // namespace qv

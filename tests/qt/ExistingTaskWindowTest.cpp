@@ -1,0 +1,164 @@
+// The Existing Task dialog driven through its real window, from the host:
+// the schedule grid, the stopwatch and the layout file.
+#include <filesystem>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QSplitter>
+#include <QSplitterHandle>
+#include <QTabBar>
+#include <QTableView>
+#include <QTest>
+#include <QTextEdit>
+
+#include "HostFixture.h"
+#include "kit/GridModel.h"
+#include "kit/GridView.h"
+#include "kit/SplitterView.h"
+#include "kit/TabStripView.h"
+#include "kit/ToolCell.h"
+#include "toolkit/Grid.h"
+
+namespace qv {
+namespace {
+
+const QString kForm = "frmExistingTask";
+constexpr const char* kTask = "99999999-0000-0000-0000-000000000009";
+
+class ExistingTaskWindow : public HostFixture {
+protected:
+    void SetUp() override {
+        HostFixture::SetUp();
+        exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Home')");
+        exec(std::string("INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, "
+                         "tskDifficulty, tskTimeNeeded, tskTimeSpent, tskCurrent, tskHasSchedule, tskCreatedDate) "
+                         "VALUES ('") + kTask + "', 'Paint the fence', 'Home', 'AAAAAAAA-0000-0000-0000-000000000001', "
+             "1, 2, 3, 90, 0, 1, 0, '2026-01-05 08:00:00.000')");
+    }
+    static QWidget* window() { return StepRunner::formWindow(kForm); }
+    static GridView* grid() { return window() ? window()->findChild<GridView*>("gridSked") : nullptr; }
+    static QTableView* table() { return grid()->table(); }
+    static QModelIndex at(int row, const char* key) {
+        return grid()->model()->index(row, grid()->viewColumnOf(key));
+    }
+    static QString shownAt(int row, const char* key) { return at(row, key).data().toString(); }
+    static QAbstractButton* button(const QString& name) {
+        ToolCell* c = cell(kForm, name);
+        return c ? qobject_cast<QAbstractButton*>(c->control()) : nullptr;
+    }
+    static QAbstractButton* stopwatch() {
+        return window()->findChild<QAbstractButton*>("smtTimes.TIMER.press");
+    }
+    static QString toolText(const QString& name) {
+        ToolCell* c = cell(kForm, name);
+        auto* edit = c ? c->findChild<QLineEdit*>() : nullptr;
+        return edit ? edit->text() : QString();
+    }
+    static void scheduleTab() { window()->findChild<TabStripView*>("Tabs1")->bar()->setCurrentIndex(1); }
+    static void closeAnsweringYes(StepRunner& steps) {
+        steps.then("cancel", [] { QTest::mouseClick(button("smtActions.DONE"), Qt::LeftButton); });
+        steps.when("closed", [] { return !shown(kForm); }, [] {});
+    }
+};
+
+TEST_F(ExistingTaskWindow, ScheduleAddEditButtonAndStopwatch) {
+    StepRunner steps(10000);
+    steps.when("schedule tab", [] { return grid() != nullptr; }, [] {
+        EXPECT_EQ(QApplication::focusWidget(), window()->findChild<QTextEdit*>("spellTask"))
+            << "typing starts in the task, not in " << QApplication::focusWidget()->objectName().toStdString();
+        scheduleTab();
+    }, 300);
+    steps.then("add", [] { QTest::mouseClick(button("smtSkedBtns.ADD"), Qt::LeftButton); });
+    // The new appointment is first, with its Duration.
+    steps.when("added", [] { return grid()->model()->rowCount() == 1; }, [] {
+        EXPECT_EQ(shownAt(0, "CalcColumn"), "1:00");
+        EXPECT_EQ(grid()->findChild<QLabel*>("gridSked.caption")->text(), "Task Appointments: 1");
+        // Times outside edit mode.
+        EXPECT_EQ(shownAt(0, "taStartTime").size(), 5) << shownAt(0, "taStartTime").toStdString();
+        table()->setCurrentIndex(at(0, "taStartTime"));
+        table()->edit(at(0, "taStartTime"));
+        auto* editor = qobject_cast<QLineEdit*>(table()->indexWidget(at(0, "taStartTime")));
+        ASSERT_NE(editor, nullptr);
+        EXPECT_GT(editor->text().size(), 10) << "the date while editing";
+        editor->setText("some day");
+        QTest::keyClick(editor, Qt::Key_Return);
+    });
+    std::string startBefore;
+    steps.when("start kept", [] { return !grid()->grid().editing(); }, [this, &startBefore] {
+        startBefore = text("SELECT taStartTime FROM TASKAPPTS");
+        EXPECT_EQ(shownAt(0, "taStartTime").size(), 5);
+        // ">>" stores the planned time as the time spent, in minutes.
+        QTest::mouseClick(table()->viewport(), Qt::LeftButton, {}, table()->visualRect(at(0, "BtnColumn")).center());
+    });
+    steps.when("minutes stored", [this] { return text("SELECT taTimeWorked FROM TASKAPPTS") == "60"; }, [] {
+        EXPECT_EQ(shownAt(0, "FakeColumn"), "1:00");
+        QTest::mouseClick(stopwatch(), Qt::LeftButton);
+    });
+    steps.when("ticking", [] { return toolText("smtTimes.TIMER") == "00:00:01"; }, [] {
+        QTest::mouseClick(stopwatch(), Qt::LeftButton);
+    });
+    QString stoppedAt;
+    steps.when("stopped", [] { return true; }, [&stoppedAt] { stoppedAt = toolText("smtTimes.TIMER"); }, 1300);
+    steps.then("still stopped", [&stoppedAt] { EXPECT_EQ(toolText("smtTimes.TIMER"), stoppedAt); });
+    closeAnsweringYes(steps);
+    openTask(steps, kTask);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_EQ(count("SELECT count(*) FROM TASKAPPTS"), 1);
+    EXPECT_EQ(text("SELECT taStartTime FROM TASKAPPTS"), startBefore) << "a start that is no date changes nothing";
+    EXPECT_FALSE(shown(kForm));
+}
+
+TEST_F(ExistingTaskWindow, EscapeAfterAValidEditAsksFirst) {
+    StepRunner steps;
+    int answers = 0;
+    steps.onMessageBox([&answers](QMessageBox&) { return ++answers == 1 ? QMessageBox::No : QMessageBox::Yes; });
+    steps.when("type", [] { return grid() != nullptr; },
+               [] { QTest::keyClicks(window()->findChild<QTextEdit*>("spellTask"), " twice"); }, 300);
+    steps.when("escape", [] { return button("smtActions.UPDATE") && button("smtActions.UPDATE")->isEnabled(); },
+               [] { QTest::keyClick(window(), Qt::Key_Escape); });
+    steps.when("still open after No", [&answers] { return answers == 1 && window(); },
+               [] { QTest::keyClick(window(), Qt::Key_Escape); }, 100);
+    steps.when("closed after Yes", [] { return !shown(kForm); }, [] {});
+    openTask(steps, kTask);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    ASSERT_EQ(steps.messages().size(), 2);
+    EXPECT_TRUE(steps.messages()[0].contains("Discard changes made to this Task?")) << steps.messages()[0].toStdString();
+    EXPECT_EQ(text("SELECT tskDesc FROM TASKS"), "Paint the fence") << "nothing saved";
+}
+
+TEST_F(ExistingTaskWindow, DragWritesQuorvelETaskAndTheNextWindowRestoresIt) {
+    const auto file = std::filesystem::path(folder()) / "QuorvelETask.slf";
+    auto middle = [] { return window()->findChild<SplitterView*>("splitTask")->splitters().at(3); };
+    QList<int> dragged;
+    StepRunner first;
+    first.when("drag", [] { return grid() != nullptr; }, [&] {
+        QSplitterHandle* handle = middle()->handle(1);
+        const QPoint from = handle->rect().center();
+        QTest::mousePress(handle, Qt::LeftButton, {}, from);
+        QMouseEvent move(QEvent::MouseMove, QPointF(from + QPoint(0, 50)), handle->mapToGlobal(QPointF(from + QPoint(0, 50))),
+                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(handle, &move);
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, from + QPoint(0, 50));
+    }, 300);
+    first.when("written", [&] { return std::filesystem::exists(file); }, [&] { dragged = middle()->sizes(); });
+    closeAnsweringYes(first);
+    openTask(first, kTask);
+    ASSERT_TRUE(first.skipped().isEmpty()) << first.skipped().join(", ").toStdString();
+
+    QList<int> reopened;
+    StepRunner second;
+    second.when("look", [] { return grid() != nullptr; }, [&] { reopened = middle()->sizes(); }, 300);
+    closeAnsweringYes(second);
+    openTask(second, kTask);
+    EXPECT_TRUE(second.skipped().isEmpty()) << second.skipped().join(", ").toStdString();
+    EXPECT_EQ(reopened, dragged);
+}
+
+}  // namespace
+}  // namespace qv
