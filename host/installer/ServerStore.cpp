@@ -59,6 +59,25 @@ Result run(PGconn* c, const std::string& sql, const std::vector<std::string>& pa
     return r;
 }
 
+// The server folds unquoted names to lower case; each column keeps its
+// spelling in its comment, which the component gives the logic.
+std::vector<std::string> spellings(const std::string& createTable) {
+    std::vector<std::string> out;
+    const auto open = createTable.find('(');
+    const std::string table = createTable.substr(13, createTable.find(' ', 13) - 13);
+    size_t at = open + 1;
+    while (at < createTable.size()) {
+        while (createTable[at] == ' ') ++at;
+        const auto end = createTable.find(' ', at);
+        const std::string column = createTable.substr(at, end - at);
+        out.push_back("COMMENT ON COLUMN " + table + "." + column + " IS '" + column + "'");
+        const auto comma = createTable.find(", ", end);
+        if (comma == std::string::npos) break;
+        at = comma + 2;
+    }
+    return out;
+}
+
 // A file-store statement in the server's words.
 std::string serverStatement(std::string s) {
     if (s.starts_with("CREATE TABLE ")) {
@@ -86,7 +105,16 @@ void insertSettings(PGconn* c) {
 
 std::vector<std::string> serverSchema() {
     std::vector<std::string> out;
-    for (const auto& s : storeSchema()) out.push_back(serverStatement(s));
+    for (const auto& s : storeSchema()) {
+        out.push_back(serverStatement(s));
+        if (s.starts_with("CREATE TABLE "))
+            for (auto& comment : spellings(s)) out.push_back(std::move(comment));
+    }
+    // A date cut as text reads as the file store keeps it, so that a host's
+    // checks ("SELECT substr(tskDeadline, 1, 10) ...") run on either store.
+    out.push_back(
+        "CREATE OR REPLACE FUNCTION substr(timestamp, integer, integer) RETURNS text LANGUAGE sql IMMUTABLE AS "
+        "$$ SELECT substr(to_char($1, 'YYYY-MM-DD\"T\"HH24:MI:SS.MS'), $2, $3) $$");
     return out;
 }
 

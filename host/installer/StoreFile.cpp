@@ -18,6 +18,7 @@ namespace qv {
 
 namespace {
 
+constexpr Oid kBoolOid = 16;
 constexpr Oid kTimestampOid = 1114;
 
 std::string pgError(PGconn* c) {
@@ -83,6 +84,7 @@ std::optional<std::string> StoreFile::firstValue(const std::string& sql, bool* i
             std::string text = null ? std::string() : PQgetvalue(r, 0, 0);
             if (!null && PQftype(r, 0) == kTimestampOid)
                 if (const auto serial = dateserial::fromIso(text)) text = dateserial::toIso(*serial);
+            if (!null && PQftype(r, 0) == kBoolOid) text = text == "t" ? "1" : "0";  // as the file store gives it
             out = text;
         }
         PQclear(r);

@@ -263,13 +263,15 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
 const PgConnection::TableColumns& PgConnection::tableColumns(Oid table, std::string_view context) {
     if (const auto found = tables_.find(table); found != tables_.end()) return found->second;
     const Result r = run(
-        "SELECT c.relname, a.attnum, a.attname, format_type(a.atttypid, a.atttypmod) FROM pg_attribute a "
+        "SELECT c.relname, a.attnum, a.attname, format_type(a.atttypid, a.atttypmod), "
+        "coalesce(col_description(a.attrelid, a.attnum), '') FROM pg_attribute a "
         "JOIN pg_class c ON c.oid = a.attrelid WHERE a.attrelid = $1 AND a.attnum > 0 AND NOT a.attisdropped",
         {Value(std::to_string(table))}, context);
     TableColumns t;
     for (int i = 0; i < PQntuples(r.get()); ++i) {
         t.table = PQgetvalue(r.get(), i, 0);
-        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3)};
+        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3),
+                                                            PQgetvalue(r.get(), i, 4)};
     }
     return tables_.emplace(table, std::move(t)).first->second;
 }
@@ -296,9 +298,10 @@ QueryPlan PgConnection::describe(const std::string& sql, bool withIdentity, std:
             const TableColumns& t = tableColumns(table, context);
             const auto found = t.byNumber.find(PQftablecol(res, f));
             if (found != t.byNumber.end()) {
-                col.type = FieldCodec::typeFromDecl(found->second.second.c_str());
+                col.type = FieldCodec::typeFromDecl(found->second.decl.c_str());
+                if (FieldCodec::equalsNoCase(found->second.spelling, col.name)) col.name = found->second.spelling;
                 if (table == identityTable)
-                    col.origin = found->second.first;
+                    col.origin = found->second.name;
                 else
                     clash = true;
             }

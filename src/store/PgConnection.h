@@ -57,7 +57,12 @@ private:
     using Result = std::unique_ptr<PGresult, ResultFree>;
     struct TableColumns {
         std::string table;
-        std::map<int, std::pair<std::string, std::string>> byNumber;  // attnum -> name, declared type
+        struct Column {
+            std::string name;
+            std::string decl;      // the declared type
+            std::string spelling;  // the name as the schema spells it (its comment)
+        };
+        std::map<int, Column> byNumber;  // by attnum
     };
 
     PgConnection(std::string uri, PGconn* conn);
