@@ -9,20 +9,13 @@
 struct sqlite3;
 
 #include "toolkit/FakeClock.h"
-#include "toolkit/Reporter.h"
+#include "toolkit/CountingReporter.h"
 #include "toolkit/ScriptedUi.h"
 
 namespace qv::bench {
 
 // Counts faults: a benchmark that met one is void.
-class CountingReporter : public Reporter {
-public:
-    bool report(const FaultReport&) override {
-        ++faults;
-        return true;
-    }
-    int faults = 0;
-};
+using CountingReporter = qv::CountingReporter;
 
 class BenchStore {
 public:

@@ -59,8 +59,14 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
         saveGrab(&box, QStringLiteral("message-%1").arg(++messages_));
         return 0;
     });
-    connect(&app_.session(), &HostSession::logged, this,
-            [](const QString& line) { qInfo("event: %s", qPrintable(line)); });
+    connect(&app_.session(), &HostSession::logged, this, [this](const QString& line) {
+        qInfo("event: %s", qPrintable(line));
+        // A fault ended the session (a store that can't be used): the steps
+        // left would only wait for windows that never come.
+        QTimer::singleShot(0, this, [this] {
+            if (app_.session().ended()) steps_.abandon("the component's session ended on a fault");
+        });
+    });
     steps_.then("host", [this] { shoot(&app_.window(), "host", allSizes_); });
     planNewTask();
     planSubDialogs();
@@ -72,9 +78,10 @@ DemoDriver::DemoDriver(HostApp& app, QString shotsDir, bool allSizes)
                 [this] { shoot(&app_.window(), "host-after", false); });
     planExistingTask();
     planHostHelp();
-    steps_.onFinished([] {
+    steps_.onFinished([this] {
         StepRunner::closeAll();
-        QTimer::singleShot(0, qApp, [] { QApplication::exit(0); });
+        const int code = app_.session().ended() ? 1 : 0;
+        QTimer::singleShot(0, qApp, [code] { QApplication::exit(code); });
     });
 }
 

@@ -7,9 +7,11 @@
 
 #include <QSettings>
 
+#include "installer/StoreInstaller.h"
 #include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/Connection.h"
 #include "store/Recordset.h"
 #include "store/clsTaskSchedule.h"
 #include "values/CCreateGuid.h"
@@ -98,6 +100,25 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
     } catch (const std::exception& e) {
         emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
     }
+    emit listsChanged();
+}
+
+void HostSession::useFolder(const std::string& folder) {
+    try {
+        installApplicationFolder(folder);
+    } catch (const std::exception& e) {
+        emit logged(QStringLiteral("Could not prepare %1: %2").arg(QString::fromStdString(folder), e.what()));
+        return;
+    }
+    folder_ = folder;
+    store_.setFolder(folder);
+    // The component finds its store again from the new folder's settings file.
+    g().AppPath = folder;
+    g().ConnString.clear();
+    g().DBLocation.clear();
+    Connection::releaseAll();
+    start();
+    emit logged(QStringLiteral("Using the folder %1").arg(QString::fromStdString(folder)));
     emit listsChanged();
 }
 

@@ -23,6 +23,9 @@ public:
 
     void newTask(const std::string& projectKey);
     void taskFromCatalog(const std::string& catalogKey);
+    // Points the host and the component at another program's folder (a
+    // store is installed there when it has none) and starts a fresh session.
+    void useFolder(const std::string& folder);
     // Works one appointment (mode 2): the dialog reads the slot by its key.
     void workAppointment(const std::string& appointmentKey);
     // Adds an hour's appointment to a task through the component's

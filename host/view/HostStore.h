@@ -42,6 +42,9 @@ public:
     explicit HostStore(std::string folder);
 
     [[nodiscard]] std::string path() const;
+    [[nodiscard]] const std::string& folder() const { return folder_; }
+    // Reads another program's folder from now on.
+    void setFolder(std::string folder) { folder_ = std::move(folder); }
     // Tasks in the host's order; only current ones, or one project's, when asked.
     [[nodiscard]] std::vector<TaskRow> tasks(bool currentOnly, const std::string& projectKey = {}) const;
     [[nodiscard]] std::vector<NamedRow> catalog() const;

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -63,6 +64,7 @@ void HostWindow::buildActions() {
     connect(newTask_, &QAction::triggered, this, &HostWindow::newTask);
     fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
+    connect(add("actFolder", "Store &Folder...", true), &QAction::triggered, this, &HostWindow::chooseFolder);
     bar->addSeparator();
     openTask_ = add("actOpenTask", "&Open Task", false);
     connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
@@ -272,6 +274,12 @@ void HostWindow::deleteTask() {
         log(QStringLiteral("Could not remove the task: %1").arg(e.what()));
     }
     refresh();
+}
+
+void HostWindow::chooseFolder() {
+    const QString dir = QFileDialog::getExistingDirectory(this, QStringLiteral("Folder of the Quorvel store"),
+                                                          QString::fromStdString(store_.folder()));
+    if (!dir.isEmpty()) session_.useFolder(dir.toStdString());
 }
 
 void HostWindow::log(const QString& line) {

@@ -32,6 +32,8 @@ public:
     void refresh();
     void newTask();
     void taskFromCatalog();
+    // Asks for another program's folder and uses it.
+    void chooseFolder();
     // Mode 2 on the chosen appointment of the chosen task.
     void workAppointment();
     // A new hour's appointment for the chosen task.

@@ -113,6 +113,13 @@ void StepRunner::answerMessageBox() {
     if (b) QTimer::singleShot(0, b, &QAbstractButton::click);
 }
 
+void StepRunner::abandon(const QString& why) {
+    if (done_) return;
+    qInfo("steps: stopped: %s", qPrintable(why));
+    for (; next_ < steps_.size(); ++next_) skipped_ << steps_[next_].name;
+    finish();
+}
+
 void StepRunner::finish() {
     done_ = true;
     ticker_.stop();

@@ -35,6 +35,8 @@ public:
     void onFinished(Action act) { finished_ = std::move(act); }
 
     void start();
+    // Skips every step left and finishes now (the demonstration can't go on).
+    void abandon(const QString& why);
     [[nodiscard]] bool done() const { return done_; }
     [[nodiscard]] const QStringList& skipped() const { return skipped_; }
     [[nodiscard]] const QStringList& messages() const { return messages_; }

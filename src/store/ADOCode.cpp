@@ -166,7 +166,8 @@ std::string dbLocationIn(const std::string& settingsText) {
 void locateSessionStore() {
     if (errorPathTaken()) throw Failure(err::StoreFailure, "The session has ended on an earlier fault.");
     if (!g().ConnString.empty() || ADOTest()) return;
-    if (g().DBLocation.empty()) throw Failure(err::StoreFailure, "The Quorvel data file could not be located.");
+    if (g().DBLocation.empty())
+        throw Failure(err::StoreFailure, "The Quorvel data file could not be located.");
     throw Failure(err::StoreFailure, "The Quorvel data file \"" + g().DBLocation + "\" is missing.");
 }
 
@@ -185,9 +186,9 @@ std::string pathInFolder(const std::string& folder, const std::string& name) {
 }
 
 void writeSettingsFile(const std::string& folder, const std::string& dbPath) {
-    replaceFile(pathInFolder(folder, kSettingsFileName), std::string("<Quorvel>") + kCrLf + "<DBLoc>" + kCrLf +
-                                                             dbPath + kCrLf + "</DBLoc>" + kCrLf + "</Quorvel>" +
-                                                             kCrLf);
+    replaceFile(pathInFolder(folder, kSettingsFileName), std::string("<Quorvel>") + kCrLf + "<DBLoc>" +
+                                                             kCrLf + dbPath + kCrLf + "</DBLoc>" + kCrLf +
+                                                             "</Quorvel>" + kCrLf);
 }
 
 }  // namespace qv

@@ -189,9 +189,9 @@ std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
     if (!facts.exists) {
         if (found != reg.end()) reg.erase(found);
         throw Failure(err::StoreFailure,
-                      storeProblem(path, facts.error == ENOENT
-                                             ? "is missing"
-                                             : std::string("can't be reached: ") + std::strerror(facts.error)) +
+                      storeProblem(path, facts.error == ENOENT ? "is missing"
+                                                               : std::string("can't be reached: ") +
+                                                                     std::strerror(facts.error)) +
                           ".",
                       "Store");
     }
@@ -199,7 +199,8 @@ std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
     // An empty file is not a store, and must not silently become one.
     if (facts.size == 0) throw Failure(err::StoreFailure, storeProblem(path, kNotAStore) + ".", "Store");
     if (!facts.folderWritable)
-        throw Failure(err::StoreFailure, storeProblem(path, "is read-only: its folder can't be written") + ".", "Store");
+        throw Failure(err::StoreFailure,
+                      storeProblem(path, "is read-only: its folder can't be written") + ".", "Store");
     if (found != reg.end()) {
         const Connection& c = *found->second;
         // The same file as before, with the same permission: reuse.

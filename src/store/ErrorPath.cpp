@@ -43,9 +43,9 @@ Described describeCurrent() {
 }
 
 struct PathState {
-    int sessions = 0;     // FaultSessions alive
-    bool running = false; // inside ReportError
-    bool ended = false;   // the path ran in this session
+    int sessions = 0;      // FaultSessions alive
+    bool running = false;  // inside ReportError
+    bool ended = false;    // the path ran in this session
 };
 
 PathState& state() {
@@ -89,7 +89,9 @@ FaultSession::~FaultSession() {
     if (--state().sessions == 0) state().ended = false;
 }
 
-bool errorPathTaken() { return state().running || state().ended; }
+bool errorPathTaken() {
+    return state().running || state().ended;
+}
 
 void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
                  const std::string& description, int32_t number, int32_t line,

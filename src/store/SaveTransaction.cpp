@@ -24,9 +24,13 @@ std::vector<SaveTransaction*>& openSaves() {
 
 }  // namespace
 
-SaveTransaction::SaveTransaction() : conn_(sessionStore()) { begin(); }
+SaveTransaction::SaveTransaction() : conn_(sessionStore()) {
+    begin();
+}
 
-SaveTransaction::SaveTransaction(std::shared_ptr<StoreBackend> conn) : conn_(std::move(conn)) { begin(); }
+SaveTransaction::SaveTransaction(std::shared_ptr<StoreBackend> conn) : conn_(std::move(conn)) {
+    begin();
+}
 
 void SaveTransaction::begin() {
     const std::string ctx = conn_->where("beginning a save");

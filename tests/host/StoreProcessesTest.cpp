@@ -32,7 +32,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const char* const kKeywords[] = {"AAAAAAAA-0000-0000-0000-000000000001", "AAAAAAAA-0000-0000-0000-000000000002",
+const char* const kKeywords[] = {"AAAAAAAA-0000-0000-0000-000000000001",
+                                 "AAAAAAAA-0000-0000-0000-000000000002",
                                  "AAAAAAAA-0000-0000-0000-000000000003"};
 constexpr const char* kProject = "11111111-2222-3333-4444-555555555555";
 constexpr int kSavesPerChild = 400;
@@ -57,7 +58,8 @@ std::string freshFolder() {
     if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary folder");
     installApplicationFolder(pattern);
     StoreFile store(pattern + "/QuorvelData.mdb");
-    store.exec(std::string("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject + "', 'Garden')");
+    store.exec(std::string("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject +
+               "', 'Garden')");
     for (const char* key : kKeywords)
         store.exec(std::string("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('") + key +
                    "', 'Errands', 'Word " + key[35] + "')");
@@ -84,8 +86,8 @@ std::string freshFolder() {
 
 struct Tally {
     int64_t tasks = 0;
-    int64_t halfTasks = 0;      // tasks without all three keyword rows
-    int64_t orphanLinks = 0;    // keyword rows of no task
+    int64_t halfTasks = 0;    // tasks without all three keyword rows
+    int64_t orphanLinks = 0;  // keyword rows of no task
     std::string integrity;
 };
 
@@ -94,11 +96,14 @@ Tally inspect(const std::string& folder) {
     Tally t;
     t.integrity = store.firstValue("PRAGMA integrity_check").value_or("");
     t.tasks = std::stoll(store.firstValue("SELECT COUNT(*) FROM TASKS").value_or("0"));
-    t.halfTasks = std::stoll(store.firstValue(
-        "SELECT COUNT(*) FROM TASKS WHERE (SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID=tskGUIDID) <> 3")
+    t.halfTasks = std::stoll(store
+                                 .firstValue("SELECT COUNT(*) FROM TASKS WHERE (SELECT COUNT(*) FROM "
+                                             "TaskKeywords WHERE ktTASKGUID=tskGUIDID) <> 3")
                                  .value_or("0"));
     t.orphanLinks = std::stoll(
-        store.firstValue("SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID NOT IN (SELECT tskGUIDID FROM TASKS)")
+        store
+            .firstValue(
+                "SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID NOT IN (SELECT tskGUIDID FROM TASKS)")
             .value_or("0"));
     return t;
 }
@@ -206,7 +211,8 @@ TEST(StoreLock, AShortLockDelaysTheSaveAndALongOneEndsItWithNothingHalfWritten) 
         EXPECT_NE(longHold.find("GotErrExitNow"), std::string::npos) << journal << "\n" << longHold;
         EXPECT_EQ(longHold.find("event NewTask"), std::string::npos) << journal << "\n" << longHold;
         size_t faults = 0;
-        for (size_t at = longHold.find("fault "); at != std::string::npos; at = longHold.find("fault ", at + 1))
+        for (size_t at = longHold.find("fault "); at != std::string::npos;
+             at = longHold.find("fault ", at + 1))
             ++faults;
         EXPECT_EQ(faults, 1u) << journal << "\n" << longHold;
         t = inspect(folder);

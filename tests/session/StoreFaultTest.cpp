@@ -32,7 +32,8 @@ protected:
     void TearDown() override {
         fs::permissions(folder(), fs::perms::owner_all, fs::perm_options::add);
         if (fs::exists(storePath()))
-            fs::permissions(storePath(), fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add);
+            fs::permissions(storePath(), fs::perms::owner_read | fs::perms::owner_write,
+                            fs::perm_options::add);
         TestEnv::TearDown();
     }
 
@@ -47,9 +48,9 @@ protected:
 
     // The one report of the session, which names the store and says what.
     void expectOneReport(const std::string& what) {
-        ASSERT_EQ(reporter().faults().size(), 1u) << (reporter().faults().empty()
-                                                          ? std::string("no report")
-                                                          : reporter().faults().back().description);
+        ASSERT_EQ(reporter().faults().size(), 1u)
+            << (reporter().faults().empty() ? std::string("no report")
+                                            : reporter().faults().back().description);
         const auto& d = reporter().faults()[0].description;
         EXPECT_NE(d.find("\"" + storePath() + "\""), std::string::npos) << d;
         EXPECT_NE(d.find(what), std::string::npos) << d;
@@ -106,7 +107,8 @@ TEST_F(StoreFaultTest, AReadOnlyFolderGivesOneReport) {
 TEST_F(StoreFaultTest, AMissingTableOrColumnIsNamedAndNoGeometryIsWritten) {
     exec("DROP TABLE KEYWORDS");
     const auto geometry = [this] {
-        return readOne("SELECT group_concat(SetSettingValue) FROM Settings WHERE SetSettingSection='TASKWINDOW'");
+        return readOne(
+            "SELECT group_concat(SetSettingValue) FROM Settings WHERE SetSettingSection='TASKWINDOW'");
     };
     const std::string stored = geometry();
     openAndClose();

@@ -102,5 +102,24 @@ TEST_F(StoreWithoutSettings, UnwritableSettingsFileGivesTheSettingsMessage) {
     EXPECT_TRUE(g().ConnString.empty());
 }
 
+TEST_F(StoreWithoutSettings, TheSettingsFileIsReplacedWholeAndReadWithEitherLineEnd) {
+    // Lines ended by LF alone name the same store, not a cut path.
+    const auto other = folder() + "/Other.mdb";
+    std::filesystem::copy_file(storePath(), other);
+    writeFile(settingsPath(), "<Quorvel>\n<DBLoc>\n" + other + "\n</DBLoc>\n</Quorvel>\n");
+    EXPECT_TRUE(ADOTest());
+    EXPECT_EQ(g().DBLocation, other);
+    EXPECT_TRUE(scriptedUi().messages().empty());
+    EXPECT_EQ(dbLocationIn(settingsText(other)), other);
+    EXPECT_EQ(dbLocationIn("<DBLoc>\r\n" + other + "\n</DBLoc>"), other);
+
+    // Written as CR LF, through a file beside it that is renamed over the
+    // old one: no partial file is ever left behind.
+    writeSettingsFile(folder(), storePath());
+    EXPECT_EQ(readFile(settingsPath()), settingsText(storePath()));
+    for (const auto& entry : std::filesystem::directory_iterator(folder()))
+        EXPECT_EQ(entry.path().string().find(".part"), std::string::npos) << entry.path();
+}
+
 }  // namespace
 }  // namespace qv

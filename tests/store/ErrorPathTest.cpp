@@ -2,11 +2,15 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ConsoleReporter.h"
+#include "store/ADOCode.h"
 #include "store/ErrorPath.h"
+#include "store/Recordset.h"
+#include "store/SaveTransaction.h"
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Timer.h"
 
 namespace qv {
 namespace {
@@ -83,6 +87,83 @@ TEST_F(TestEnv, ConsoleReporterLogsInTheProgramFolderAndEndsTheSession) {
     const auto log = readFile(folder() + "/QuorvelErrors.log");
     EXPECT_NE(log.find("clsSettings.GetData error 3000 at line 0: disk full"), std::string::npos);
     EXPECT_NE(log.find("m_Task.LoadSettings error 13"), std::string::npos);
+}
+
+// A dialog whose unload logic faults, as one saving its settings on a broken store does.
+class FaultingForm : public Form {
+public:
+    FaultingForm() : Form("frmTask3") { addControl("startTimer", tick); }
+    Timer tick;
+    int unloads = 0;
+
+protected:
+    void Form_Unload() override {
+        ++unloads;
+        trap("m_Task", "SaveSettings", [] { throw Failure(err::StoreFailure, "still broken"); });
+    }
+};
+
+TEST_F(TestEnv, AFaultWhileTheErrorPathRunsIsDroppedAndEveryFormStillGoes) {
+    auto form = std::make_shared<FaultingForm>();
+    form->load();
+    form->tick.setInterval(500);
+    form->tick.setEnabled(true);
+    int ticks = 0;
+    form->tick.Tick.connect([&] { ++ticks; });
+
+    ReportError("QuorvelTask2", "clsSettings", "GetData", "not a store", err::StoreFailure, 0, g().UStuff);
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_EQ(reporter().faults()[0].procedure, "GetData");
+    EXPECT_EQ(form->unloads, 1);
+    EXPECT_FALSE(form->loaded());
+    EXPECT_TRUE(Form::openForms().empty());
+    fakeClock().advance(2000);
+    EXPECT_EQ(ticks, 0) << "the closed dialog's timer still fires";
+
+    // Outside a host session each fault is its own; inside one, only the first is told.
+    EXPECT_FALSE(trap("m", "p", [] { throw Failure(1, "second"); }));
+    EXPECT_EQ(reporter().faults().size(), 2u);
+    {
+        FaultSession session;
+        EXPECT_FALSE(errorPathTaken());
+        EXPECT_FALSE(trap("m", "first", [] { throw Failure(1, "first"); }));
+        EXPECT_TRUE(errorPathTaken());
+        EXPECT_FALSE(trap("m", "after", [] { throw Failure(1, "caused by the first"); }));
+        EXPECT_THROW(locateSessionStore(), Failure);  // the store is left alone
+    }
+    EXPECT_FALSE(errorPathTaken());
+    ASSERT_EQ(reporter().faults().size(), 3u);
+    EXPECT_EQ(reporter().faults()[2].procedure, "first");
+}
+
+TEST_F(TestEnv, TheErrorPathEndsOpenSavesBeforeItTells) {
+    ASSERT_TRUE(ADOTest());
+    int64_t rowsWhenTold = -1;
+    RecordingReporter watching;
+    ports().reporter = &watching;
+    auto count = [this] { return readInt("SELECT COUNT(*) FROM PROJECTS"); };
+    auto addProject = [](const std::string& key) {
+        Recordset rs;
+        rs.Open("SELECT * from PROJECTS WHERE prjGUIDID='none'", g().ConnString, adOpenStatic, adLockBatchOptimistic);
+        rs.AddNew();
+        rs.Fields("prjGUIDID") = Value(key);
+        rs.Update();
+        rs.UpdateBatch();
+    };
+    watching.GotErrExitNow.connect([&] { rowsWhenTold = count(); });
+    trap("frmTask3", "SaveTask", [&] {
+        SaveTransaction save;
+        addProject("KEPT");
+        save.keepSoFar();
+        addProject("UNDONE");
+        // A failure trapped inside the save: the report comes while it is open.
+        ReportError("QuorvelTask2", "clsNewTask", "GetDataKEY", "gone", err::StoreFailure, 0, g().UStuff);
+        save.commit();  // already settled: nothing more happens
+    });
+    ports().reporter = &reporter();
+    EXPECT_EQ(rowsWhenTold, 1) << "the save still held the lock, or kept too much, when the user was told";
+    EXPECT_EQ(readOne("SELECT COUNT(*) FROM PROJECTS"), "1");
+    EXPECT_EQ(readOne("SELECT prjGUIDID FROM PROJECTS"), "KEPT");
 }
 
 }  // namespace

@@ -120,6 +120,34 @@ TEST_F(NewTaskSave, AddToQuorvelWritesTheRowAndKeywordsAndCarriesOver) {
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKS WHERE tskGUIDID='" + g().CurrentTaskGUID + "'"), 0);
 }
 
+TEST_F(NewTaskSave, AFailureAmongTheKeywordRowsKeepsTheTaskRowWithoutThemAndEndsTheSession) {
+    seed();
+    // The second keyword row of a task fails, after the first was written.
+    if (onServerStore()) {
+        exec("CREATE FUNCTION refuse_second() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN IF (SELECT COUNT(*) "
+             "FROM TaskKeywords WHERE ktTASKGUID = NEW.ktTASKGUID) >= 1 THEN RAISE EXCEPTION 'the disk refused'; "
+             "END IF; RETURN NEW; END $$");
+        exec("CREATE TRIGGER refuse BEFORE INSERT ON TaskKeywords FOR EACH ROW EXECUTE FUNCTION refuse_second()");
+    } else {
+        exec("CREATE TRIGGER refuse BEFORE INSERT ON TaskKeywords WHEN (SELECT COUNT(*) FROM TaskKeywords "
+             "WHERE ktTASKGUID = NEW.ktTASKGUID) >= 1 BEGIN SELECT RAISE(ABORT, 'the disk refused'); END");
+    }
+    fireTimer();
+    click("smtProj", kBeta);
+    click("smtKeywords", kKeyRed);
+    click("smtKeywords", kKeyBlue);
+    typeDescription("Half a save");
+    click("smtActions", "QV");
+    open(0);
+
+    EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKS WHERE tskDesc='Half a save'"), 1) << "the task row stays";
+    EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords"), 0) << "none of its keyword rows do";
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_NE(reporter().faults()[0].description.find("the disk refused"), std::string::npos);
+    EXPECT_EQ(count("NewTask"), 0) << "the host is not told of a save that failed";
+    EXPECT_FALSE(form().loaded());
+}
+
 TEST_F(NewTaskSave, HostKeyIsKeptAndACompletedTaskIsDoneToday) {
     seed();
     const std::string hostKey = "12345678-1234-1234-1234-123456789012";
