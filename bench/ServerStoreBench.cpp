@@ -1,7 +1,7 @@
 // The store on a PostgreSQL server over a Unix socket: SetupTask in mode 0
-// (New Task) and mode 2 (Task Appointment) on the large store, each against
+// (New Task), 1 (Existing Task) and 2 (Task Appointment) on the large store, each against
 // the same reads done with bare libpq on one open connection. The same
-// opens on the SQLite file are NewTaskBench and AppointmentBench. Needs
+// opens on the SQLite file are NewTaskBench, ExistingTaskBench and AppointmentBench. Needs
 // QV_STORE_URI (scripts/bench-server.sh starts a throw-away server).
 
 #include <benchmark/benchmark.h>
@@ -12,10 +12,13 @@
 #include <vector>
 
 #include "dialogs/appointment/frmTAS2.h"
+#include "dialogs/existingtask/ExistingTaskFields.h"
+#include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "installer/StoreFile.h"
 #include "session/clsTask2.h"
 #include "support/BenchStore.h"
+#include "support/TimeSetupTask.h"
 
 namespace {
 
@@ -110,19 +113,11 @@ BENCHMARK(BM_ServerNewTaskOpenBareLibpq)->Unit(benchmark::kMillisecond);
 void BM_ServerNewTaskOpen(benchmark::State& state) {
     auto* s = large();
     if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
-    s->use();
-    clsTask2 task;
-    const std::vector<std::string> ustuff(6);
-    for (auto _ : state) {
-        s->ui.queueAction([&task] { task.frm()->hide(); });
-        task.SetupTask(0, {}, ustuff, 1, {});
-        state.PauseTiming();
-        if (task.frm()->controls().smtKeywords.count() < bench::kLargeKeywords) state.SkipWithError("lists not filled");
-        task.frm()->unload();
-        releaseDeferred();
-        state.ResumeTiming();
-    }
-    if (s->reporter.faults) state.SkipWithError("the error path ran");
+    bench::timeSetupTask(
+        state, *s, 0, {}, {}, [](clsTask2& t) { return t.frm(); },
+        [](clsTask2& t) {
+            return t.frm()->controls().smtKeywords.count() < bench::kLargeKeywords ? "lists not filled" : "";
+        });
 }
 BENCHMARK(BM_ServerNewTaskOpen)->Unit(benchmark::kMillisecond);
 
@@ -137,20 +132,35 @@ BENCHMARK(BM_ServerAppointmentOpenBareLibpq)->Unit(benchmark::kMillisecond);
 void BM_ServerAppointmentOpen(benchmark::State& state) {
     auto* s = large();
     if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
-    s->use();
-    clsTask2 task;
-    const std::vector<std::string> ustuff(6);
-    for (auto _ : state) {
-        s->ui.queueAction([&task] { task.frmWorkTAS()->hide(); });
-        task.SetupTask(2, kSlot, ustuff, 1, {}, kSlot);
-        state.PauseTiming();
-        if (task.frmWorkTAS()->TATaskGUID != bench::kBusyTask) state.SkipWithError("the slot was not read");
-        task.frmWorkTAS()->unload();
-        releaseDeferred();
-        state.ResumeTiming();
-    }
-    if (s->reporter.faults) state.SkipWithError("the error path ran");
+    bench::timeSetupTask(
+        state, *s, 2, kSlot, kSlot, [](clsTask2& t) { return t.frmWorkTAS(); },
+        [](clsTask2& t) { return t.frmWorkTAS()->TATaskGUID != bench::kBusyTask ? "the slot was not read" : ""; });
 }
 BENCHMARK(BM_ServerAppointmentOpen)->Unit(benchmark::kMillisecond);
+
+void BM_ServerExistingTaskOpenBareLibpq(benchmark::State& state) {
+    bareReads(state, [](PGconn* c) {
+        const std::string key = bench::kBusyTask;
+        return settingsReads(c) + walk(c, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword") +
+               walk(c, "SELECT * from TASKS WHERE tskGUIDID='" + key + "'") +
+               walk(c, "SELECT taStartTime, taEndTime, taWasWorked, taTimeWorked, taTaskGUIDID, taGUIDID, "
+                       "taTaskDesc, taProjectGUIDID, taProject, taImp, taDifficulty FROM TASKAPPTS WHERE "
+                       "taTaskGUIDID='" + key + "' ORDER BY taStartTime DESC") +
+               walk(c, "SELECT * from TaskKeywords WHERE ktTASKGUID='" + key + "'");
+    });
+}
+BENCHMARK(BM_ServerExistingTaskOpenBareLibpq)->Unit(benchmark::kMillisecond);
+
+void BM_ServerExistingTaskOpen(benchmark::State& state) {
+    auto* s = large();
+    if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
+    bench::timeSetupTask(
+        state, *s, 1, bench::kBusyTask, {}, [](clsTask2& t) { return t.frmE(); },
+        [](clsTask2& t) {
+            auto& f = t.frmE()->fields();
+            return f.SkedRowCount != 200 || f.record().Desc != "Busy task" ? "task not loaded" : "";
+        });
+}
+BENCHMARK(BM_ServerExistingTaskOpen)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -8,4 +8,4 @@ build=${1:-build/release}
 dir=/tmp/qv-pg-bench-$$
 trap 'scripts/pg-server.sh stop "$dir"' EXIT
 export QV_STORE_URI=$(scripts/pg-server.sh start "$dir")
-"$build/bench/qv_bench" --benchmark_filter='NewTaskOpen|AppointmentOpen'
+"$build/bench/qv_bench" --benchmark_filter='NewTaskOpen|ExistingTaskOpen|AppointmentOpen'
