@@ -31,9 +31,12 @@ std::string serverUri() {
     return uri ? uri : "";
 }
 
-std::string series(int n) { return " FROM generate_series(0, " + std::to_string(n - 1) + ") AS i"; }
+std::string series(int n) {
+    return " FROM generate_series(0, " + std::to_string(n - 1) + ") AS i";
+}
 std::string key(const char* prefix, const char* expr) {
-    return std::string("'") + prefix + "' || lpad((" + expr + ")::text, 7, '0') || '-0000-0000-0000-000000000000'";
+    return std::string("'") + prefix + "' || lpad((" + expr +
+           ")::text, 7, '0') || '-0000-0000-0000-000000000000'";
 }
 
 // The large store of the file benchmarks, made on the server.
@@ -41,30 +44,40 @@ bench::BenchStore* makeLarge() {
     auto* s = new bench::BenchStore("server-large", serverUri());
     StoreFile store(s->storePath());
     store.exec("BEGIN");
-    store.exec("INSERT INTO PROJECTS (prjGUIDID, prjProject, prjSummary, StatusLong) SELECT " + key("P", "i") +
-               ", 'Project ' || lpad(i::text, 3, '0'), 'Bulk', 4" + series(500));
+    store.exec("INSERT INTO PROJECTS (prjGUIDID, prjProject, prjSummary, StatusLong) SELECT " +
+               key("P", "i") + ", 'Project ' || lpad(i::text, 3, '0'), 'Bulk', 4" + series(500));
     store.exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) SELECT " + key("K", "i") +
                ", 'Subject ' || lpad((i % 50)::text, 2, '0'), 'Keyword ' || lpad(i::text, 4, '0')" +
                series(bench::kLargeKeywords));
-    store.exec("INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, tskDifficulty, "
-               "tskTimeNeeded, tskTimeSpent, tskCurrent, tskPossPoints, tskCustSortQV, tskCustSortCUR, "
-               "tskCustSortProj, tskDeadline) SELECT " + key("T", "i") + ", 'Task ' || lpad(i::text, 6, '0'), "
-               "'Project ' || lpad((i % 500)::text, 3, '0'), " + key("P", "i % 500") +
-               ", i % 6, i % 5, i % 5, 30, 0, (i % 10 = 0)::int::smallint, 10, i, i, i, '1899-12-30'" +
-               series(100000));
-    store.exec(std::string("INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, "
-                           "tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent, tskPossPoints, "
-                           "tskHasSchedule, tskDeadline) VALUES ('") + bench::kBusyTask +
-               "', 'Busy task', 'Project 001', 'P0000001-0000-0000-0000-000000000000', 1, 2, 2, 90, 30, 0, 1, 10, 1, "
+    store.exec(
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, tskDifficulty, "
+        "tskTimeNeeded, tskTimeSpent, tskCurrent, tskPossPoints, tskCustSortQV, tskCustSortCUR, "
+        "tskCustSortProj, tskDeadline) SELECT " +
+        key("T", "i") +
+        ", 'Task ' || lpad(i::text, 6, '0'), "
+        "'Project ' || lpad((i % 500)::text, 3, '0'), " +
+        key("P", "i % 500") +
+        ", i % 6, i % 5, i % 5, 30, 0, (i % 10 = 0)::int::smallint, 10, i, i, i, '1899-12-30'" +
+        series(100000));
+    store.exec(std::string(
+                   "INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, "
+                   "tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent, tskPossPoints, "
+                   "tskHasSchedule, tskDeadline) VALUES ('") +
+               bench::kBusyTask +
+               "', 'Busy task', 'Project 001', 'P0000001-0000-0000-0000-000000000000', 1, 2, 2, 90, 30, 0, "
+               "1, 10, 1, "
                "'2030-01-01 12:00')");
     store.exec(std::string("INSERT INTO TaskKeywords (ktTASKGUID, ktTask, ktKEYGUID, ktKeyword) SELECT '") +
-               bench::kBusyTask + "', 'Busy task', keyGUIDID, keyKeyword FROM KEYWORDS ORDER BY keyGUIDID LIMIT 50");
-    store.exec(std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, "
-                           "taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked) SELECT ") +
-               key("A", "i") + ", '" + bench::kBusyTask +
-               "', 'Project 001', 'P0000001-0000-0000-0000-000000000000', "
-               "timestamp '2026-01-01' + (2 * i) * interval '1 hour', "
-               "timestamp '2026-01-01' + (2 * i + 1) * interval '1 hour', 'Busy task', 2, 2, 0, 0" + series(200));
+               bench::kBusyTask +
+               "', 'Busy task', keyGUIDID, keyKeyword FROM KEYWORDS ORDER BY keyGUIDID LIMIT 50");
+    store.exec(
+        std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, "
+                    "taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked) SELECT ") +
+        key("A", "i") + ", '" + bench::kBusyTask +
+        "', 'Project 001', 'P0000001-0000-0000-0000-000000000000', "
+        "timestamp '2026-01-01' + (2 * i) * interval '1 hour', "
+        "timestamp '2026-01-01' + (2 * i + 1) * interval '1 hour', 'Busy task', 2, 2, 0, 0" +
+        series(200));
     store.exec("COMMIT");
     store.exec("ANALYZE");
     return s;
@@ -123,7 +136,8 @@ BENCHMARK(BM_ServerNewTaskOpen)->Unit(benchmark::kMillisecond);
 
 void BM_ServerAppointmentOpenBareLibpq(benchmark::State& state) {
     bareReads(state, [](PGconn* c) {
-        return settingsReads(c) + walk(c, std::string("SELECT * from TASKAPPTS WHERE taGUIDID='") + kSlot + "'") +
+        return settingsReads(c) +
+               walk(c, std::string("SELECT * from TASKAPPTS WHERE taGUIDID='") + kSlot + "'") +
                walk(c, std::string("SELECT * from TASKS WHERE tskGUIDID='") + bench::kBusyTask + "'");
     });
 }
@@ -134,7 +148,9 @@ void BM_ServerAppointmentOpen(benchmark::State& state) {
     if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
     bench::timeSetupTask(
         state, *s, 2, kSlot, kSlot, [](clsTask2& t) { return t.frmWorkTAS(); },
-        [](clsTask2& t) { return t.frmWorkTAS()->TATaskGUID != bench::kBusyTask ? "the slot was not read" : ""; });
+        [](clsTask2& t) {
+            return t.frmWorkTAS()->TATaskGUID != bench::kBusyTask ? "the slot was not read" : "";
+        });
 }
 BENCHMARK(BM_ServerAppointmentOpen)->Unit(benchmark::kMillisecond);
 
@@ -143,9 +159,11 @@ void BM_ServerExistingTaskOpenBareLibpq(benchmark::State& state) {
         const std::string key = bench::kBusyTask;
         return settingsReads(c) + walk(c, "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword") +
                walk(c, "SELECT * from TASKS WHERE tskGUIDID='" + key + "'") +
-               walk(c, "SELECT taStartTime, taEndTime, taWasWorked, taTimeWorked, taTaskGUIDID, taGUIDID, "
-                       "taTaskDesc, taProjectGUIDID, taProject, taImp, taDifficulty FROM TASKAPPTS WHERE "
-                       "taTaskGUIDID='" + key + "' ORDER BY taStartTime DESC") +
+               walk(c,
+                    "SELECT taStartTime, taEndTime, taWasWorked, taTimeWorked, taTaskGUIDID, taGUIDID, "
+                    "taTaskDesc, taProjectGUIDID, taProject, taImp, taDifficulty FROM TASKAPPTS WHERE "
+                    "taTaskGUIDID='" +
+                        key + "' ORDER BY taStartTime DESC") +
                walk(c, "SELECT * from TaskKeywords WHERE ktTASKGUID='" + key + "'");
     });
 }

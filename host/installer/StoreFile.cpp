@@ -84,7 +84,8 @@ std::optional<std::string> StoreFile::firstValue(const std::string& sql, bool* i
             std::string text = null ? std::string() : PQgetvalue(r, 0, 0);
             if (!null && PQftype(r, 0) == kTimestampOid)
                 if (const auto serial = dateserial::fromIso(text)) text = dateserial::toIso(*serial);
-            if (!null && PQftype(r, 0) == kBoolOid) text = text == "t" ? "1" : "0";  // as the file store gives it
+            if (!null && PQftype(r, 0) == kBoolOid)
+                text = text == "t" ? "1" : "0";  // as the file store gives it
             out = text;
         }
         PQclear(r);

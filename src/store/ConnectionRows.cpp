@@ -131,10 +131,12 @@ int64_t Connection::insertRow(const std::string& table, const std::vector<std::s
         marks += "?";
     }
     const std::string qTable = jet::quoteIdentifier(table);
-    const std::string sql = names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
-                                          : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" + marks + ")";
+    const std::string sql = names.empty()
+                                ? "INSERT INTO " + qTable + " DEFAULT VALUES"
+                                : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" + marks + ")";
     auto st = prepare(sql, context);
-    for (size_t i = 0; i < values.size(); ++i) FieldCodec::bindValue(st.get(), static_cast<int>(i + 1), values[i]);
+    for (size_t i = 0; i < values.size(); ++i)
+        FieldCodec::bindValue(st.get(), static_cast<int>(i + 1), values[i]);
     step(*this, st.get(), context);
     return sqlite3_last_insert_rowid(handle());
 }

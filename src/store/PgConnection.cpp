@@ -164,7 +164,8 @@ std::string serverName(const std::string& uri) {
     return name;
 }
 
-PgConnection::PgConnection(std::string uri, PGconn* conn) : uri_(std::move(uri)), name_(serverName(uri_)), conn_(conn) {}
+PgConnection::PgConnection(std::string uri, PGconn* conn)
+    : uri_(std::move(uri)), name_(serverName(uri_)), conn_(conn) {}
 
 PgConnection::~PgConnection() {
     if (conn_) PQfinish(conn_);
@@ -181,7 +182,8 @@ std::shared_ptr<PgConnection> PgConnection::forUri(const std::string& uri) {
         const std::string why = conn ? firstLine(PQerrorMessage(conn)) : std::string("out of memory");
         if (conn) PQfinish(conn);
         throw Failure(err::StoreFailure,
-                      "The Quorvel data server \"" + serverName(uri) + "\" can't be reached: " + why + ".", "Store");
+                      "The Quorvel data server \"" + serverName(uri) + "\" can't be reached: " + why + ".",
+                      "Store");
     }
     std::shared_ptr<PgConnection> c(new PgConnection(uri, conn));
     // A lock is waited for as long as on the file store; dates come back as ISO text.
@@ -207,8 +209,8 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
     std::string clear;
     if (PQstatus(conn_) != CONNECTION_OK || code.starts_with("08")) {
         registry().erase(uri_);
-        clear = "The Quorvel data server \"" + name_ + "\" can't be reached: " +
-                (engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
+        clear = "The Quorvel data server \"" + name_ +
+                "\" can't be reached: " + (engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
     } else if (code == "55P03") {
         clear = store + "is busy: another program has kept it locked for more than 5 seconds";
     } else if (code == "40P01" || code == "40001") {
@@ -254,7 +256,8 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
     std::vector<const char*> values(params.size(), nullptr);
     for (size_t i = 0; i < params.size(); ++i)
         if (paramText(params[i], texts[i])) values[i] = texts[i].c_str();
-    Result r(PQexecPrepared(conn_, name.c_str(), static_cast<int>(params.size()), values.data(), nullptr, nullptr, 0));
+    Result r(PQexecPrepared(conn_, name.c_str(), static_cast<int>(params.size()), values.data(), nullptr,
+                            nullptr, 0));
     const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
     return r;
@@ -270,8 +273,8 @@ const PgConnection::TableColumns& PgConnection::tableColumns(Oid table, std::str
     TableColumns t;
     for (int i = 0; i < PQntuples(r.get()); ++i) {
         t.table = PQgetvalue(r.get(), i, 0);
-        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3),
-                                                            PQgetvalue(r.get(), i, 4)};
+        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {
+            PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3), PQgetvalue(r.get(), i, 4)};
     }
     return tables_.emplace(table, std::move(t)).first->second;
 }
@@ -299,7 +302,8 @@ QueryPlan PgConnection::describe(const std::string& sql, bool withIdentity, std:
             const auto found = t.byNumber.find(PQftablecol(res, f));
             if (found != t.byNumber.end()) {
                 col.type = FieldCodec::typeFromDecl(found->second.decl.c_str());
-                if (FieldCodec::equalsNoCase(found->second.spelling, col.name)) col.name = found->second.spelling;
+                if (FieldCodec::equalsNoCase(found->second.spelling, col.name))
+                    col.name = found->second.spelling;
                 if (table == identityTable)
                     col.origin = found->second.name;
                 else
@@ -309,7 +313,8 @@ QueryPlan PgConnection::describe(const std::string& sql, bool withIdentity, std:
         p.cols.push_back(std::move(col));
         p.fields.push_back(f);
     }
-    if (withIdentity && !clash && identityTable != InvalidOid) p.table = tableColumns(identityTable, context).table;
+    if (withIdentity && !clash && identityTable != InvalidOid)
+        p.table = tableColumns(identityTable, context).table;
     return p;
 }
 
@@ -325,7 +330,8 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     jet::SelectShape ordered = shape;
     std::string orderedSql = sql.substr(0, shape.end);
     if (shape.singleTable && !shape.aggregate && !shape.hasLimit) {
-        orderedSql += std::string(shape.orderPos == std::string::npos ? " ORDER BY " : ", ") + jet::kIdentityColumn;
+        orderedSql +=
+            std::string(shape.orderPos == std::string::npos ? " ORDER BY " : ", ") + jet::kIdentityColumn;
         ordered.end = orderedSql.size();
     }
     const std::string idSql =
@@ -368,7 +374,8 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
 
 void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
                         std::string_view context) {
-    Result r = plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, plan.selectSql.c_str()));
+    Result r =
+        plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, plan.selectSql.c_str()));
     if (!plan.isSelect) {
         const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
@@ -399,8 +406,9 @@ int64_t PgConnection::count(const QueryPlan& plan, std::string_view context) {
     return std::atoll(PQgetvalue(r.get(), 0, 0));
 }
 
-int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                                  std::string_view context, bool& read) {
+int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
+                                  const std::function<Cell*(int64_t)>& newRow, std::string_view context,
+                                  bool& read) {
     read = false;
     if (plan.probeSql.empty()) return count(plan, context);
     const Result r = run(plan.probeSql, {}, context);
@@ -428,10 +436,10 @@ int64_t PgConnection::insertRow(const std::string& table, const std::vector<std:
         cols += jet::quoteIdentifier(name);
     }
     const std::string qTable = jet::quoteIdentifier(table);
-    const std::string sql =
-        (names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
-                       : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" + placeholders(1, names.size()) + ")") +
-        " RETURNING " + jet::kIdentityColumn;
+    const std::string sql = (names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
+                                           : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" +
+                                                 placeholders(1, names.size()) + ")") +
+                            " RETURNING " + jet::kIdentityColumn;
     const Result r = run(sql, values, context);
     return PQntuples(r.get()) > 0 ? std::atoll(PQgetvalue(r.get(), 0, 0)) : 0;
 }

@@ -34,11 +34,14 @@ constexpr const char* kProject = "11111111-2222-3333-4444-555555555555";
 constexpr int kNewTasks = 15;
 constexpr int kEdits = 60;
 
-std::string ownKey(char who) { return std::string(8, who) + "-0000-0000-0000-000000000000"; }
+std::string ownKey(char who) {
+    return std::string(8, who) + "-0000-0000-0000-000000000000";
+}
 
 void writeColumn(const std::string& key, const char* column, const Value& v) {
     Recordset rs;
-    rs.Open("SELECT * from TASKS WHERE tskGUIDID='" + key + "'", g().ConnString, adOpenStatic, adLockBatchOptimistic);
+    rs.Open("SELECT * from TASKS WHERE tskGUIDID='" + key + "'", g().ConnString, adOpenStatic,
+            adLockBatchOptimistic);
     if (rs.EOF_()) throw std::runtime_error("no task " + key);
     rs.Fields(column) = v;
     rs.Update();
@@ -88,14 +91,16 @@ TEST(ServerStoreUsers, TwoProcessesEditAtOnceAndNothingIsLost) {
     const std::string uri = makeScratchServerStore(server);
     std::vector<std::string> folders;
     for (const char* name : {"a", "b"}) {
-        std::string tmpl = (fs::temp_directory_path() / ("quorvel-user-" + std::string(name) + "-XXXXXX")).string();
+        std::string tmpl =
+            (fs::temp_directory_path() / ("quorvel-user-" + std::string(name) + "-XXXXXX")).string();
         ASSERT_NE(::mkdtemp(tmpl.data()), nullptr);
         installServerApplicationFolder(tmpl, uri);
         folders.push_back(tmpl);
     }
     {
         StoreFile store(uri);
-        store.exec(std::string("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject + "', 'Garden')");
+        store.exec(std::string("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject +
+                   "', 'Garden')");
         for (const std::string& key : {std::string(kShared), ownKey('A'), ownKey('B')})
             store.exec("INSERT INTO TASKS (tskGUIDID, tskDesc, tskTimeSpent, tskImp) VALUES ('" + key +
                        "', 'start', 0, 1)");
@@ -114,8 +119,10 @@ TEST(ServerStoreUsers, TwoProcessesEditAtOnceAndNothingIsLost) {
         EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "a user's process failed: " << status;
     }
     StoreFile store(uri);
-    EXPECT_EQ(store.firstValue("SELECT COUNT(*) FROM TASKS WHERE tskDesc LIKE 'A task %'"), std::to_string(kNewTasks));
-    EXPECT_EQ(store.firstValue("SELECT COUNT(*) FROM TASKS WHERE tskDesc LIKE 'B task %'"), std::to_string(kNewTasks));
+    EXPECT_EQ(store.firstValue("SELECT COUNT(*) FROM TASKS WHERE tskDesc LIKE 'A task %'"),
+              std::to_string(kNewTasks));
+    EXPECT_EQ(store.firstValue("SELECT COUNT(*) FROM TASKS WHERE tskDesc LIKE 'B task %'"),
+              std::to_string(kNewTasks));
     const std::string shared = std::string(" FROM TASKS WHERE tskGUIDID='") + kShared + "'";
     EXPECT_EQ(store.firstValue("SELECT tskDesc" + shared), "A edit " + std::to_string(kEdits));
     EXPECT_EQ(store.firstValue("SELECT tskTimeSpent" + shared), std::to_string(kEdits));

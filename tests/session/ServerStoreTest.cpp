@@ -79,8 +79,9 @@ TEST_F(ServerStoreTest, RowsComeBackWithTheirTypesAndTheHiddenIdentityStaysHidde
 }
 
 TEST_F(ServerStoreTest, NamesCompareAndSortWithoutRegardToCaseKeysExactly) {
-    exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('k1', 'Errands', 'email'), "
-         "('k2', 'errands', 'Bank'), ('K3', 'Work', 'call')");
+    exec(
+        "INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('k1', 'Errands', 'email'), "
+        "('k2', 'errands', 'Bank'), ('K3', 'Work', 'call')");
     EXPECT_EQ(open("SELECT * FROM KEYWORDS WHERE keyKeyword = 'EMAIL'")->RecordCount(), 1);
     EXPECT_EQ(open("SELECT * FROM KEYWORDS WHERE keySubject = 'ERRANDS'")->RecordCount(), 2);
     EXPECT_EQ(open("SELECT * FROM KEYWORDS WHERE keyGUIDID = 'k3'")->RecordCount(), 0);
@@ -100,8 +101,10 @@ TEST_F(ServerStoreTest, AWriteBackTouchesOnlyTheAssignedFieldsOfItsRow) {
     rs->Fields("tskDesc") = "Mine, changed";
     rs->Update();
     rs->UpdateBatch();
-    EXPECT_EQ(readOne(std::string("SELECT tskDesc FROM TASKS WHERE tskGUIDID = '") + kTask + "'"), "Mine, changed");
-    EXPECT_EQ(readOne(std::string("SELECT tskTimeSpent FROM TASKS WHERE tskGUIDID = '") + kTask + "'"), "500");
+    EXPECT_EQ(readOne(std::string("SELECT tskDesc FROM TASKS WHERE tskGUIDID = '") + kTask + "'"),
+              "Mine, changed");
+    EXPECT_EQ(readOne(std::string("SELECT tskTimeSpent FROM TASKS WHERE tskGUIDID = '") + kTask + "'"),
+              "500");
     EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID LIKE 'BBBB%'"), "Other");
     // A row that another user removed can't be written back: told, not lost silently.
     exec(std::string("DELETE FROM TASKS WHERE tskGUIDID = '") + kTask + "'");
