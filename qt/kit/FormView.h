@@ -5,11 +5,13 @@
 #include <QSize>
 #include <QWidget>
 
+#include "Export.h"
+
 namespace qv {
 
 class Form;
 
-class FormView : public QWidget {
+class QV_EXPORT FormView : public QWidget {
     Q_OBJECT
 public:
     explicit FormView(Form& form, QWidget* parent = nullptr);

@@ -6,11 +6,12 @@
 
 #include <QLocale>
 
+#include "Export.h"
 #include "values/DateTimeFormatter.h"
 
 namespace qv {
 
-class QtDateTimeFormatter : public DateTimeFormatter {
+class QV_EXPORT QtDateTimeFormatter : public DateTimeFormatter {
 public:
     explicit QtDateTimeFormatter(QLocale locale = QLocale::system()) : locale_(std::move(locale)) {}
 

@@ -1,11 +1,12 @@
 #pragma once
 // The locale port from QLocale: metric or US units.
 
+#include "Export.h"
 #include "toolkit/LocaleInfo.h"
 
 namespace qv {
 
-class QtLocaleInfo : public LocaleInfo {
+class QV_EXPORT QtLocaleInfo : public LocaleInfo {
 public:
     [[nodiscard]] int32_t measurementSystem() const override;
 };

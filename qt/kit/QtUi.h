@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "Export.h"
 #include "toolkit/Ui.h"
 
 class QWidget;
@@ -19,7 +20,7 @@ namespace qv {
 class FormWindow;
 class ViewFactory;
 
-class QtUi : public QObject, public Ui {
+class QV_EXPORT QtUi : public QObject, public Ui {
     Q_OBJECT
 public:
     explicit QtUi(ViewFactory& views, QObject* parent = nullptr);

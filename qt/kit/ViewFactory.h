@@ -6,6 +6,8 @@
 #include <map>
 #include <string>
 
+#include "Export.h"
+
 class QWidget;
 
 namespace qv {
@@ -13,7 +15,7 @@ namespace qv {
 class Form;
 class FormView;
 
-class ViewFactory {
+class QV_EXPORT ViewFactory {
 public:
     using Maker = std::function<FormView*(Form&)>;
 

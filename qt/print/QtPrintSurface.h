@@ -6,13 +6,14 @@
 #include <functional>
 #include <string>
 
+#include "Export.h"
 #include "toolkit/PrintSurface.h"
 
 class QPrintPreviewDialog;
 
 namespace qv {
 
-class QtPrintSurface : public PrintSurface {
+class QV_EXPORT QtPrintSurface : public PrintSurface {
 public:
     struct Options {
         bool usePrinters = true;  // false: always a PDF

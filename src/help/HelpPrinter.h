@@ -5,10 +5,12 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
 // A help page laid out for printing, as the print settings string says.
-struct HelpPrintJob {
+struct QV_EXPORT HelpPrintJob {
     std::string page;        // the HTML file
     std::string baseFolder;  // relative paths inside the page resolve here
     std::string printer;
@@ -27,7 +29,7 @@ struct HelpPrintJob {
     int32_t footerColor = 0;
 };
 
-class HelpPrinter {
+class QV_EXPORT HelpPrinter {
 public:
     virtual ~HelpPrinter() = default;
     // Prints the page. With no printer installed the engine puts it in a

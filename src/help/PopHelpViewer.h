@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "Export.h"
 #include "toolkit/HelpViewer.h"
 
 namespace qv {
@@ -15,7 +16,7 @@ class HelpPrinter;
 class TourPreference;
 class frmPopHelp;
 
-class PopHelpViewer : public HelpViewer {
+class QV_EXPORT PopHelpViewer : public HelpViewer {
 public:
     explicit PopHelpViewer(HelpPrinter* printer = nullptr, TourPreference* tour = nullptr);
     ~PopHelpViewer() override;

@@ -3,13 +3,14 @@
 // prints the task reports: the page file with the help print string's
 // margins and footer. The engine tells the user where a PDF went.
 
+#include "Export.h"
 #include "help/HelpPrinter.h"
 
 namespace qv {
 
 struct PrintJob;
 
-class SurfaceHelpPrinter : public HelpPrinter {
+class QV_EXPORT SurfaceHelpPrinter : public HelpPrinter {
 public:
     void print(const HelpPrintJob& job) override;
     void preview(const HelpPrintJob& job) override;

@@ -7,9 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
+
 namespace qv {
 
-class ReportRows {
+class QV_EXPORT ReportRows {
 public:
     ReportRows() = default;
     ReportRows(int32_t columns, int32_t rows);

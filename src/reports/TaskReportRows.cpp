@@ -56,7 +56,12 @@ ReportRows TaskReportRows::existingTask(const TextEditor& spellTask, const Sheet
     pairs.emplace_back("Deadline Date:",
                        dated ? std::to_string(static_cast<int64_t>(ctDeadline.value())) : kNoDeadline);
     pairs.emplace_back("Deadline Time:", dated ? smtABOUT.at(6).text() : kNoDeadline);
-    for (int32_t position = 8; position <= 13; ++position) addAt(pairs, smtABOUT, position);
+    // The rows from "Project:" to "Time Spent:", taken by key: the sheet has
+    // no tool between the deadline's time and the project.
+    for (const char* key : {"PROJECT", "IMP", "DIFF", "NEEDED", "SCHEDULED", "SPENT"}) {
+        const Tool& t = smtABOUT.tool(key);
+        pairs.emplace_back(t.caption(), t.text());
+    }
     pairs.emplace_back("Possible Points:", points(smtReady));
     return table(pairs);
 }

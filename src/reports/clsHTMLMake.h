@@ -11,11 +11,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "reports/ReportRows.h"
 
 namespace qv {
 
-class clsHTMLMake {
+class QV_EXPORT clsHTMLMake {
 public:
     clsHTMLMake();
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
@@ -17,13 +18,13 @@ class frmTAS2;
 class Reporter;
 
 // One raised host event, for hosts and scripts that log them all.
-struct HostEvent {
+struct QV_EXPORT HostEvent {
     int32_t number = 0;
     std::string name;
     std::vector<std::string> args;
 };
 
-class clsTask2 {
+class QV_EXPORT clsTask2 {
 public:
     clsTask2();
     ~clsTask2();

@@ -4,11 +4,12 @@
 
 #include <string>
 
+#include "Export.h"
 #include "toolkit/Reporter.h"
 
 namespace qv {
 
-class ConsoleReporter : public Reporter {
+class QV_EXPORT ConsoleReporter : public Reporter {
 public:
     bool report(const FaultReport& fault) override;
 

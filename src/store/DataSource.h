@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "Export.h"
 #include "store/ErrorPath.h"
 #include "store/Recordset.h"
 #include "toolkit/Event.h"
@@ -17,14 +18,14 @@ class Reporter;
 
 // Cursor and lock set before opening, and the arguments of the open call
 // (-1 leaves the property standing).
-struct OpenParams {
+struct QV_EXPORT OpenParams {
     int32_t cursor;
     int32_t lock;
     int32_t openCursor;
     int32_t openLock;
 };
 
-class DataSource {
+class QV_EXPORT DataSource {
 public:
     virtual ~DataSource();
     DataSource(const DataSource&) = delete;

@@ -9,20 +9,22 @@
 #include <type_traits>
 #include <utility>
 
+#include "Export.h"
+
 namespace qv {
 
 // Tells the reporter of the fault, then unloads every open form. The path
 // is never re-entered: a fault raised while it runs (an unload saving its
 // settings on a broken store) is dropped, and so is every later fault of
 // the same session, which the first one caused: one report, not a storm.
-void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
+QV_EXPORT void ReportError(const std::string& project, const std::string& module, const std::string& procedure,
                  const std::string& description, int32_t number, int32_t line,
                  const std::array<std::string, 6>& UStuff);
 
 // Reports the exception in flight as a fault of module.procedure. Call it
 // only from a catch block. A null project is the component's own name.
-void reportCurrentFailure(const char* module, const char* procedure) noexcept;
-void reportCurrentFailure(const char* project, const char* module, const char* procedure) noexcept;
+QV_EXPORT void reportCurrentFailure(const char* module, const char* procedure) noexcept;
+QV_EXPORT void reportCurrentFailure(const char* project, const char* module, const char* procedure) noexcept;
 
 // A host session (the outermost SetupTask) while the object lives: the
 // first fault of the session is reported, those after it are dropped.

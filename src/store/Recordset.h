@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "values/Value.h"
 
 namespace qv {
@@ -25,7 +26,7 @@ enum AffectEnum : int32_t { adAffectCurrent = 1, adAffectGroup = 2, adAffectAll 
 enum CommandType : int32_t { adCmdText = 1 };
 
 // One field of the current row.
-class Field {
+class QV_EXPORT Field {
 public:
     Field(Recordset& rs, int index) : rs_(&rs), index_(index) {}
     [[nodiscard]] const std::string& Name() const;
@@ -42,7 +43,7 @@ private:
     int index_;
 };
 
-class Recordset {
+class QV_EXPORT Recordset {
 public:
     Recordset();
     ~Recordset();
@@ -93,6 +94,6 @@ using RecordsetPtr = std::shared_ptr<Recordset>;
 // A value as a quoted literal for splicing into a query text: the one way
 // any value goes into a query. The quote doubles inside the value, so
 // sqlLiteral("O'Brien") gives 'O''Brien' and sqlLiteral("a\"b", '"') gives "a""b".
-std::string sqlLiteral(const std::string& value, char quote = '\'');
+QV_EXPORT std::string sqlLiteral(const std::string& value, char quote = '\'');
 
 }  // namespace qv

@@ -2,12 +2,13 @@
 // Task Appointments: the public class through which the host and the
 // dialogs add and remove rows of TASKAPPTS in the set opened by GetDataKEY.
 
+#include "Export.h"
 #include "store/DataSource.h"
 #include "values/Value.h"
 
 namespace qv {
 
-class clsTaskSchedule : public DataSource {
+class QV_EXPORT clsTaskSchedule : public DataSource {
 public:
     clsTaskSchedule();
 

@@ -7,9 +7,11 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-class CColorDialog {
+class QV_EXPORT CColorDialog {
 public:
     static constexpr int32_t CC_RGBINIT = 1;
     static constexpr int32_t CC_ENABLEHOOK = 16;

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 
+#include "Export.h"
+
 namespace qv {
 
-class Clock {
+class QV_EXPORT Clock {
 public:
     virtual ~Clock() = default;
     // Local date and time as a day serial (days since 1899-12-30).

@@ -4,9 +4,11 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-class ColorChooser {
+class QV_EXPORT ColorChooser {
 public:
     virtual ~ColorChooser() = default;
     // Asks the user for a colour, starting at initial (-1: none). A non-empty

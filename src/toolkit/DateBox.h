@@ -8,11 +8,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class DateBox {
+class QV_EXPORT DateBox {
 public:
     // Date styles: the order of the parts in the text.
     enum DateStyle : int16_t { MonthDayYear = 0, DayMonthYear = 1, YearMonthDay = 2 };

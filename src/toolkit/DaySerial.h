@@ -4,9 +4,11 @@
 
 #include <cstdint>
 
+#include "Export.h"
+
 namespace qv {
 
-class DaySerial {
+class QV_EXPORT DaySerial {
 public:
     struct Civil {
         int32_t year = 1899, month = 12, day = 30;

@@ -4,11 +4,12 @@
 
 #include <string>
 
+#include "Export.h"
 #include "toolkit/LocaleInfo.h"
 
 namespace qv {
 
-class EnvLocaleInfo : public LocaleInfo {
+class QV_EXPORT EnvLocaleInfo : public LocaleInfo {
 public:
     [[nodiscard]] int32_t measurementSystem() const override;
     // The locale name that decides, or empty.

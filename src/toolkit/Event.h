@@ -7,10 +7,12 @@
 #include <utility>
 #include <vector>
 
+#include "Export.h"
+
 namespace qv {
 
 template <typename... Args>
-class Event {
+class QV_EXPORT Event {
 public:
     using Handler = std::function<void(Args...)>;
 

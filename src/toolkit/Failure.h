@@ -6,9 +6,11 @@
 #include <stdexcept>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-class Failure : public std::runtime_error {
+class QV_EXPORT Failure : public std::runtime_error {
 public:
     Failure(int32_t number, const std::string& description, std::string source = {})
         : std::runtime_error(description), number_(number), source_(std::move(source)) {}

@@ -5,11 +5,12 @@
 
 #include <cstdint>
 
+#include "Export.h"
 #include "toolkit/Clock.h"
 
 namespace qv {
 
-class FakeClock : public Clock {
+class QV_EXPORT FakeClock : public Clock {
 public:
     // Starts at 2024-01-15 09:00 with a tick count of one million.
     FakeClock();

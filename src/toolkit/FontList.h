@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
+
 namespace qv {
 
-class FontList {
+class QV_EXPORT FontList {
 public:
     virtual ~FontList() = default;
     [[nodiscard]] virtual std::vector<std::string> fontNames() const = 0;

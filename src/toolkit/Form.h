@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
@@ -26,7 +27,7 @@ enum KeyCode : int32_t { vbKeyReturn = 13, vbKeyEscape = 27, vbKeyF1 = 112 };
 // Window states as the settings keep them.
 enum WindowState : int32_t { vbNormal = 0, vbMinimized = 1, vbMaximized = 2 };
 
-class Form : public std::enable_shared_from_this<Form> {
+class QV_EXPORT Form : public std::enable_shared_from_this<Form> {
 public:
     explicit Form(std::string name);
     virtual ~Form();
@@ -136,15 +137,15 @@ private:
 };
 
 // The Ui ports' side door: they flip visibility as their windows come and go.
-class FormAccess {
+class QV_EXPORT FormAccess {
 public:
     static void setVisible(Form& f, bool v) { f.setVisible(v); }
 };
 
 // Keeps an object alive until the outermost handler on the stack returns:
 // release after unload never destroys an object whose handler still runs.
-void deferRelease(std::shared_ptr<void> object);
+QV_EXPORT void deferRelease(std::shared_ptr<void> object);
 // Drops everything deferred; called when a modal wait has returned.
-void releaseDeferred();
+QV_EXPORT void releaseDeferred();
 
 }  // namespace qv

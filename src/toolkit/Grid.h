@@ -14,11 +14,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class Grid {
+class QV_EXPORT Grid {
 public:
     enum class CellStyle { Edit, CheckBox, Button };
 

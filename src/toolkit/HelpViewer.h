@@ -5,9 +5,11 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-class HelpViewer {
+class QV_EXPORT HelpViewer {
 public:
     virtual ~HelpViewer() = default;
     virtual void openHelpPop(int32_t topic, const std::string& printSetting) = 0;

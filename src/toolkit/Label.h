@@ -5,11 +5,12 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class Label {
+class QV_EXPORT Label {
 public:
     enum Alignment : int32_t { AlignLeft = 0, AlignRight = 1, AlignCenter = 2 };
 

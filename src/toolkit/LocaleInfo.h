@@ -3,9 +3,11 @@
 
 #include <cstdint>
 
+#include "Export.h"
+
 namespace qv {
 
-class LocaleInfo {
+class QV_EXPORT LocaleInfo {
 public:
     virtual ~LocaleInfo() = default;
     // 0 metric, 1 US units.

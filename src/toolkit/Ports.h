@@ -5,6 +5,8 @@
 #include <functional>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
 class Ui;
@@ -18,7 +20,7 @@ class LocaleInfo;
 class PrinterList;
 class FontList;
 
-struct Ports {
+struct QV_EXPORT Ports {
     Ui* ui = nullptr;
     Clock* clock = nullptr;
     Reporter* reporter = nullptr;  // the default reporter of the error path
@@ -31,10 +33,10 @@ struct Ports {
     FontList* fonts = nullptr;        // none installed: no fonts
 };
 
-Ports& ports();
+QV_EXPORT Ports& ports();
 
 // Shorthands that fail loudly when a port is missing.
-Ui& ui();
-Clock& clock();
+QV_EXPORT Ui& ui();
+QV_EXPORT Clock& clock();
 
 }  // namespace qv

@@ -7,9 +7,11 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-struct PrintJob {
+struct QV_EXPORT PrintJob {
     std::string header;
     std::string footer;
     std::string footerFont;
@@ -20,7 +22,7 @@ struct PrintJob {
     std::string file;
 };
 
-class PrintSurface {
+class QV_EXPORT PrintSurface {
 public:
     virtual ~PrintSurface() = default;
     virtual void print(const PrintJob& job) = 0;

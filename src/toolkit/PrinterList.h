@@ -4,9 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
+
 namespace qv {
 
-class PrinterList {
+class QV_EXPORT PrinterList {
 public:
     virtual ~PrinterList() = default;
     [[nodiscard]] virtual std::vector<std::string> deviceNames() const = 0;

@@ -6,11 +6,12 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-struct FaultReport {
+struct QV_EXPORT FaultReport {
     std::string project;
     std::string module;
     std::string procedure;
@@ -21,7 +22,7 @@ struct FaultReport {
     std::string profile;
 };
 
-class Reporter {
+class QV_EXPORT Reporter {
 public:
     virtual ~Reporter() = default;
     // The one method; its result is ignored by the component.

@@ -4,13 +4,14 @@
 
 #include <cstddef>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
 class Reporter;
 
-class ReporterRelay {
+class QV_EXPORT ReporterRelay {
 public:
     // Listens to the reporter installed in the ports, if any.
     explicit ReporterRelay(Event<>& target);

@@ -10,13 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
 
 class FakeClock;
 
-class ScriptedUi : public Ui {
+class QV_EXPORT ScriptedUi : public Ui {
 public:
     struct Message {
         std::string text;

@@ -9,12 +9,13 @@
 #include <unordered_map>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 #include "toolkit/Tool.h"
 
 namespace qv {
 
-class Sheet {
+class QV_EXPORT Sheet {
 public:
     explicit Sheet(std::string name, std::string title = {});
     Sheet(const Sheet&) = delete;

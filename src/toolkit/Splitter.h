@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class Splitter {
+class QV_EXPORT Splitter {
 public:
     struct Pane {
         int32_t index = 0;

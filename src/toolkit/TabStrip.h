@@ -7,11 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class TabStrip {
+class QV_EXPORT TabStrip {
 public:
     explicit TabStrip(std::string name = {}, std::vector<std::string> captions = {});
     TabStrip(const TabStrip&) = delete;

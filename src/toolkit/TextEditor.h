@@ -5,11 +5,12 @@
 
 #include <string>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class TextEditor {
+class QV_EXPORT TextEditor {
 public:
     explicit TextEditor(std::string name = {});
     TextEditor(const TextEditor&) = delete;

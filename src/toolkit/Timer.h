@@ -8,11 +8,12 @@
 #include <optional>
 #include <string>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
 
-class Timer {
+class QV_EXPORT Timer {
 public:
     explicit Timer(std::string name = {});
     ~Timer();

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
 #include "toolkit/Event.h"
 
 namespace qv {
@@ -23,7 +24,7 @@ enum ToolType : int32_t {
     ttTextBox = 1400,
 };
 
-class Tool {
+class QV_EXPORT Tool {
 public:
     Tool(Sheet* sheet, Tool* parent, int32_t type, std::string key, std::string caption);
 

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
 class Form;
@@ -25,7 +27,7 @@ enum MsgStyle : int32_t {
 };
 enum MsgAnswer : int32_t { vbOK = 1, vbCancel = 2, vbAbort = 3, vbRetry = 4, vbIgnore = 5, vbYes = 6, vbNo = 7 };
 
-class Ui {
+class QV_EXPORT Ui {
 public:
     virtual ~Ui() = default;
     // Shows a message box; style is buttons + icon (+ default button).

@@ -4,11 +4,13 @@
 
 #include <cstdint>
 
+#include "Export.h"
+
 namespace qv {
 
 class Form;
 
-class WindowHandles {
+class QV_EXPORT WindowHandles {
 public:
     // The form's handle, given on first asking; 0 for a form not held by a
     // shared pointer.

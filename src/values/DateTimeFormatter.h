@@ -7,9 +7,11 @@
 #include <memory>
 #include <string>
 
+#include "Export.h"
+
 namespace qv {
 
-class DateTimeFormatter {
+class QV_EXPORT DateTimeFormatter {
 public:
     virtual ~DateTimeFormatter() = default;
 

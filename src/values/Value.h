@@ -8,14 +8,16 @@
 #include <string>
 #include <variant>
 
+#include "Export.h"
+
 namespace qv {
 
-struct Date {
+struct QV_EXPORT Date {
     double serial = 0.0;
     friend bool operator==(const Date&, const Date&) = default;
 };
 
-class Value {
+class QV_EXPORT Value {
 public:
     enum class Kind { Null, Bool, Int16, Int32, Double, Date, Text };
 

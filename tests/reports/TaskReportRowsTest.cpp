@@ -29,9 +29,11 @@ protected:
         const char* captions[] = {
             "Status:",  "Current:",    "General",     "Deadline", "Date:",      "Time:",      "Details",
             "Project:", "Importance:", "Difficulty:", "Needed:",  "Scheduled:", "Time Spent:"};
+        const char* keys[] = {"STATUS",  "ISCURRENT", "T2",   "T3",     "DEADLINE",  "DEADTIME", "T6",
+                              "PROJECT", "IMP",       "DIFF", "NEEDED", "SCHEDULED", "SPENT"};
         int n = 0;
         for (const char* c : captions) {
-            Tool& t = about.add(ttTextBox, n == 4 ? std::string("DEADLINE") : "T" + std::to_string(n), c);
+            Tool& t = about.add(ttTextBox, keys[n], c);
             t.setText("v" + std::to_string(++n));
         }
         ready.add(ttTextBox, "POINTS").setText("42");

@@ -7,10 +7,12 @@
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 #include "dialogs/existingtask/ExistingTaskLayout.h"
 #include "dialogs/existingtask/ExistingTaskLoader.h"
+#include "dialogs/existingtask/ExistingTaskReport.h"
 #include "dialogs/existingtask/ExistingTaskUpdater.h"
 #include "dialogs/existingtask/ExistingTaskValidation.h"
 #include "dialogs/existingtask/ScheduleGrid.h"
 #include "dialogs/shared/ProjectSheet.h"
+#include "dialogs/shared/ReportPrinter.h"
 #include "dialogs/shared/TaskPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
@@ -40,18 +42,24 @@ frmExistingTask::frmExistingTask()
       keywords_(std::make_unique<ExistingTaskKeywords>(*this)),
       catalog_(std::make_unique<ExistingTaskCatalogSave>(*this)),
       actions_(std::make_unique<ExistingTaskActions>(*this)),
-      ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk, fields_->checklist,
+      ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk,
+                                              fields_->checklist,
                                               ChecklistLink::Options{&c_.smtActions, {}})),
-      printer_(std::make_shared<TaskPrinter>()) {
+      // Page Setup saved here also goes to the host as its print settings.
+      printer_(std::make_shared<ReportPrinter>(*this, TaskReport::kExistingTask,
+                                               std::make_unique<ExistingTaskReport>(*this), kModule,
+                                               [this] { SavePrintInfoNowHere(); })) {
     sked_ = std::make_unique<ScheduleGrid>(
         c_.smtABOUT, c_.smtSkedTimes, c_.smtTimes,
-        ScheduleGrid::Hooks{[this]() -> const TaskRecord& {
-                                PackATask();
-                                return fields_->record();
-                            }, [this] { ValidateTask(); },
-                            [this](int32_t n) { fields_->SkedRowCount = n; },
-                            [this](const char* procedure, const std::function<void()>& body) { trapped(procedure, body); }});
-    layout_ = std::make_unique<ExistingTaskLayout>(*this, c_.splitTask, c_.Tabs1, *sked_, fields_->VisibleTab);
+        ScheduleGrid::Hooks{
+            [this]() -> const TaskRecord& {
+                PackATask();
+                return fields_->record();
+            },
+            [this] { ValidateTask(); }, [this](int32_t n) { fields_->SkedRowCount = n; },
+            [this](const char* procedure, const std::function<void()>& body) { trapped(procedure, body); }});
+    layout_ =
+        std::make_unique<ExistingTaskLayout>(*this, c_.splitTask, c_.Tabs1, *sked_, fields_->VisibleTab);
     g().SettingUp = true;
     c_.smtABOUT.tool("DEADLINE").setHostedControl("ctDeadline");
     registerControls();
@@ -61,8 +69,8 @@ frmExistingTask::frmExistingTask()
 frmExistingTask::~frmExistingTask() = default;
 
 void frmExistingTask::registerControls() {
-    for (Sheet* s : {&c_.smtABOUT, &c_.smtKeywords, &c_.smtReady, &c_.smtActions, &c_.smtCKActions, &c_.smtSkedBtns,
-                     &c_.smtSkedTimes, &c_.smtTimes})
+    for (Sheet* s : {&c_.smtABOUT, &c_.smtKeywords, &c_.smtReady, &c_.smtActions, &c_.smtCKActions,
+                     &c_.smtSkedBtns, &c_.smtSkedTimes, &c_.smtTimes})
         addControl(s->name(), *s);
     for (TextEditor* e : {&c_.spellTask, &c_.SpellNotes, &c_.spellCK}) addControl(e->name(), *e);
     addControl("ctDeadline", c_.ctDeadline);
@@ -81,7 +89,8 @@ void frmExistingTask::wireControls() {
     auto& v = *validation_;
     c_.spellTask.Change.connect([this, &v] { trapped("spellTask_Change", [&] { v.textChanged(); }); });
     c_.SpellNotes.Change.connect([this, &v] { trapped("SpellNotes_Change", [&] { v.textChanged(); }); });
-    c_.ctDeadline.Change.connect([this, &v] { trapped("ctDeadline_Change", [&] { v.ctDeadline_Change(); }); });
+    c_.ctDeadline.Change.connect(
+        [this, &v] { trapped("ctDeadline_Change", [&] { v.ctDeadline_Change(); }); });
     c_.Timer2.Tick.connect([this] { trapped("Timer2_Timer", [&] { actions_->Timer2_Timer(); }); });
     ckLink_->GotErrExitNow.connect([this] { GotErrExitNow(); });
     wireLayout();
@@ -90,17 +99,23 @@ void frmExistingTask::wireControls() {
 void frmExistingTask::wireLayout() {
     auto& l = *layout_;
     auto& k = *sked_;
-    c_.splitTask.EndDrag.connect([this, &l] { trapped("splitTask_SplitterEndDrag", [&] { l.splitTask_SplitterEndDrag(); }); });
-    c_.Tabs1.Switching.connect([this, &l](int32_t tab) { trapped("Tabs1_Switching", [&] { l.Tabs1_Switching(tab); }); });
-    k.gridSked().Resized.connect([this, &l] { trapped("SSResizer1_ResizeComplete", [&] { l.gridSked_Resized(); }); });
-    c_.smtSkedBtns.Click.connect([this, &k](Tool& t) { trapped("smtSkedBtns_Click", [&] { k.smtSkedBtns_Click(t); }); });
-    c_.smtSkedTimes.Click.connect([this, &k](Tool& t) { trapped("smtSkedTimes_Click", [&] { k.smtSkedTimes_Click(t); }); });
+    c_.splitTask.EndDrag.connect(
+        [this, &l] { trapped("splitTask_SplitterEndDrag", [&] { l.splitTask_SplitterEndDrag(); }); });
+    c_.Tabs1.Switching.connect(
+        [this, &l](int32_t tab) { trapped("Tabs1_Switching", [&] { l.Tabs1_Switching(tab); }); });
+    k.gridSked().Resized.connect(
+        [this, &l] { trapped("SSResizer1_ResizeComplete", [&] { l.gridSked_Resized(); }); });
+    c_.smtSkedBtns.Click.connect(
+        [this, &k](Tool& t) { trapped("smtSkedBtns_Click", [&] { k.smtSkedBtns_Click(t); }); });
+    c_.smtSkedTimes.Click.connect(
+        [this, &k](Tool& t) { trapped("smtSkedTimes_Click", [&] { k.smtSkedTimes_Click(t); }); });
 }
 
 void frmExistingTask::wireSheets() {
     auto& a = *actions_;
     auto& v = *validation_;
-    c_.smtActions.Click.connect([this, &a](Tool& t) { trapped("smtActions_Click", [&] { a.smtActions_Click(t); }); });
+    c_.smtActions.Click.connect(
+        [this, &a](Tool& t) { trapped("smtActions_Click", [&] { a.smtActions_Click(t); }); });
     c_.smtABOUT.Change.connect([this](Tool& t, const std::string& property) {
         trapped("smtABOUT_Change", [&] { smtABOUT_Change(t, property); });
     });
@@ -119,16 +134,18 @@ void frmExistingTask::wireSheets() {
         }
         trapped("smtABOUT_Click", [&] { v.smtABOUT_Click(); });
     });
-    c_.smtReady.Click.connect([this, &v](Tool& t) { trapped("smtReady_Click", [&] { v.smtReady_Click(t); }); });
+    c_.smtReady.Click.connect(
+        [this, &v](Tool& t) { trapped("smtReady_Click", [&] { v.smtReady_Click(t); }); });
     c_.smtKeywords.Click.connect(
         [this](Tool& t) { trapped("smtKeywords_Click", [&] { keywords_->smtKeywords_Click(t); }); });
-    c_.smtTimes.Click.connect([this, &a](Tool& t) { trapped("smtTimes_Click", [&] { a.smtTimes_Click(t); }); });
-    c_.smtTimes.Change.connect([this, &a](Tool&, const std::string&) {
-        trapped("smtTimes_Change", [&] { a.smtTimes_Change(); });
-    });
+    c_.smtTimes.Click.connect(
+        [this, &a](Tool& t) { trapped("smtTimes_Click", [&] { a.smtTimes_Click(t); }); });
+    c_.smtTimes.Change.connect(
+        [this, &a](Tool&, const std::string&) { trapped("smtTimes_Change", [&] { a.smtTimes_Change(); }); });
     // The stopwatch's clock is the program's to write.
     c_.smtTimes.BeforeEdit.connect([](Tool& t, bool& cancel) { cancel = cancel || t.key() == "TIMER"; });
-    c_.smtTimes.AfterEdit.connect([this, &a](Tool& t) { trapped("smtTimes_AfterEdit", [&] { a.smtTimes_AfterEdit(t); }); });
+    c_.smtTimes.AfterEdit.connect(
+        [this, &a](Tool& t) { trapped("smtTimes_AfterEdit", [&] { a.smtTimes_AfterEdit(t); }); });
 }
 
 // Nothing while the program fills the tools.
@@ -194,7 +211,9 @@ bool frmExistingTask::SaveToTaskCat() {
     return trapped("SaveToTaskCat", [&] { return catalog_->SaveToTaskCat(); });
 }
 
-void frmExistingTask::setCKEditMode(int16_t mode) { ckLink_->setCKEditMode(mode); }
+void frmExistingTask::setCKEditMode(int16_t mode) {
+    ckLink_->setCKEditMode(mode);
+}
 
 std::string frmExistingTask::TrimtoLen(const std::string& text, std::size_t limit) {
     return qv::TrimtoLen(text, limit);
@@ -212,14 +231,20 @@ void frmExistingTask::CountUpSked() {
 // The window's place, then the stored layout and the pane limits.
 void frmExistingTask::placeLayout() {
     const auto& w = g().ETaskWindow;
-    if (w[4] == vbMinimized) setWindowState(vbMaximized);
-    else if (w[4] == vbNormal || w[4] == vbMaximized) move(w[1], w[0], w[2], w[3]);
+    if (w[4] == vbMinimized)
+        setWindowState(vbMaximized);
+    else if (w[4] == vbNormal || w[4] == vbMaximized)
+        move(w[1], w[0], w[2], w[3]);
     layout_->load();
 }
 
-void frmExistingTask::resetLayout() { layout_->resetLayout(); }
+void frmExistingTask::resetLayout() {
+    layout_->resetLayout();
+}
 
-void frmExistingTask::SetVisibleTab(int16_t tab) { layout_->SetVisibleTab(tab); }
+void frmExistingTask::SetVisibleTab(int16_t tab) {
+    layout_->SetVisibleTab(tab);
+}
 
 void frmExistingTask::setPrinter(std::shared_ptr<TaskPrinter> printer) {
     if (printer) printer_ = std::move(printer);

@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "Export.h"
+
 namespace qv {
 
 class clsTask2;
@@ -16,7 +18,7 @@ inline constexpr const char* kProgramTitle = "Quorvel - Version 1.14";
 // The project name given to the reporter.
 inline constexpr const char* kProjectName = "QuorvelTask2";
 
-struct SessionGlobals {
+struct QV_EXPORT SessionGlobals {
     // Session entry (SetupTask).
     int32_t TaskMode = 0;
     std::string CurrentTaskGUID;
@@ -68,9 +70,9 @@ struct SessionGlobals {
 };
 
 // The globals of this process' component.
-SessionGlobals& g();
+QV_EXPORT SessionGlobals& g();
 
 // Puts every global back to its initial value (a fresh component load).
-void resetGlobals();
+QV_EXPORT void resetGlobals();
 
 }  // namespace qv
