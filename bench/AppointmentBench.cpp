@@ -11,6 +11,7 @@
 #include "dialogs/appointment/frmTAS2.h"
 #include "session/clsTask2.h"
 #include "support/BenchStore.h"
+#include "support/TimeSetupTask.h"
 #include "toolkit/TextEditor.h"
 
 namespace {
@@ -39,21 +40,9 @@ void BM_AppointmentOpenBareReads(benchmark::State& state) {
 BENCHMARK(BM_AppointmentOpenBareReads)->Unit(benchmark::kMillisecond);
 
 void BM_AppointmentOpen(benchmark::State& state) {
-    auto& s = bench::largeStore();
-    s.use();
-    clsTask2 task;
-    const std::vector<std::string> ustuff(6);
-    for (auto _ : state) {
-        // The modal wait returns at once: the first scripted step hides the form.
-        s.ui.queueAction([&task] { task.frmWorkTAS()->hide(); });
-        task.SetupTask(2, kSlot, ustuff, 1, {}, kSlot);
-        state.PauseTiming();
-        if (task.frmWorkTAS()->TATaskGUID != bench::kBusyTask) state.SkipWithError("the slot was not read");
-        task.frmWorkTAS()->unload();
-        releaseDeferred();
-        state.ResumeTiming();
-    }
-    if (s.reporter.faults) state.SkipWithError("the error path ran");
+    bench::timeSetupTask(
+        state, bench::largeStore(), 2, kSlot, kSlot, [](clsTask2& t) { return t.frmWorkTAS(); },
+        [](clsTask2& t) { return t.frmWorkTAS()->TATaskGUID != bench::kBusyTask ? "the slot was not read" : ""; });
 }
 BENCHMARK(BM_AppointmentOpen)->Unit(benchmark::kMillisecond);
 

@@ -14,6 +14,7 @@
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/BenchStore.h"
+#include "support/TimeSetupTask.h"
 #include "toolkit/Form.h"
 #include "values/Settings.h"
 
@@ -43,22 +44,12 @@ void BM_ExistingTaskOpenBareReads(benchmark::State& state) {
 BENCHMARK(BM_ExistingTaskOpenBareReads)->Unit(benchmark::kMillisecond);
 
 void BM_ExistingTaskOpen(benchmark::State& state) {
-    auto& s = largeStore();
-    s.use();
-    clsTask2 task;
-    const std::vector<std::string> ustuff(6);
-    for (auto _ : state) {
-        // The modal wait returns at once: the first scripted step hides the form.
-        s.ui.queueAction([&task] { task.frmE()->hide(); });
-        task.SetupTask(1, bench::kBusyTask, ustuff, 1, {});
-        state.PauseTiming();
-        auto& f = task.frmE()->fields();
-        if (f.SkedRowCount != 200 || f.record().Desc != "Busy task") state.SkipWithError("task not loaded");
-        task.frmE()->unload();
-        releaseDeferred();
-        state.ResumeTiming();
-    }
-    if (s.reporter.faults) state.SkipWithError("the error path ran");
+    bench::timeSetupTask(
+        state, largeStore(), 1, bench::kBusyTask, {}, [](clsTask2& t) { return t.frmE(); },
+        [](clsTask2& t) {
+            auto& f = t.frmE()->fields();
+            return f.SkedRowCount != 200 || f.record().Desc != "Busy task" ? "task not loaded" : "";
+        });
 }
 BENCHMARK(BM_ExistingTaskOpen)->Unit(benchmark::kMillisecond);
 

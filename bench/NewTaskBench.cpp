@@ -14,6 +14,7 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "installer/StoreInstaller.h"
 #include "support/BenchStore.h"
+#include "support/TimeSetupTask.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
@@ -43,20 +44,11 @@ void BM_NewTaskOpenBareReads(benchmark::State& state) {
 BENCHMARK(BM_NewTaskOpenBareReads)->Unit(benchmark::kMillisecond);
 
 void BM_NewTaskOpen(benchmark::State& state) {
-    auto& s = largeStore();
-    s.use();
-    clsTask2 task;
-    const std::vector<std::string> ustuff(6);
-    for (auto _ : state) {
-        // The modal wait returns at once: the first scripted step hides the form.
-        s.ui.queueAction([&task] { task.frm()->hide(); });
-        task.SetupTask(0, {}, ustuff, 1, {});
-        state.PauseTiming();
-        if (task.frm()->controls().smtKeywords.count() < bench::kLargeKeywords) state.SkipWithError("lists not filled");
-        task.frm()->unload();
-        releaseDeferred();
-        state.ResumeTiming();
-    }
+    bench::timeSetupTask(
+        state, largeStore(), 0, {}, {}, [](clsTask2& t) { return t.frm(); },
+        [](clsTask2& t) {
+            return t.frm()->controls().smtKeywords.count() < bench::kLargeKeywords ? "lists not filled" : "";
+        });
 }
 BENCHMARK(BM_NewTaskOpen)->Unit(benchmark::kMillisecond);
 

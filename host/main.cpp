@@ -11,6 +11,7 @@
 #include "app/AppFolder.h"
 #include "help/HelpTopics.h"
 #include "installer/StoreInstaller.h"
+#include "store/PgConnection.h"
 #include "view/DemoDriver.h"
 #include "view/HostApp.h"
 #include "view/HostTour.h"
@@ -19,9 +20,12 @@
 namespace {
 
 constexpr const char* kUsage =
-    "Usage: quorvel [--home DIR] [--install-store] [--screenshots]\n"
+    "Usage: quorvel [--home DIR] [--install-store [--store URI]] [--screenshots]\n"
     "  --home DIR        the application folder (else QUORVEL_HOME, else $XDG_DATA_HOME/quorvel)\n"
     "  --install-store   install a fresh store and QuorvelSettings.txt in the folder, then exit\n"
+    "  --store URI       with --install-store: the store is on a PostgreSQL server\n"
+    "                    (postgresql://host/db or postgresql:///db?host=/socket/dir); its tables\n"
+    "                    are made where missing and the folder's settings file names the URI\n"
     "  --screenshots     run the demonstration and save every window, at its minimum and a larger\n"
     "                    size, as PNG files in DIR/screenshots; also what happens with no display\n";
 
@@ -32,6 +36,12 @@ bool has(const std::vector<std::string>& args, const char* flag) {
 // Returns false when the store could not be made.
 bool prepareFolder(const qv::HostOptions& opts) {
     try {
+        if (!opts.storeUri.empty()) {
+            qv::installServerApplicationFolder(opts.home, opts.storeUri);
+            std::cout << "The store on " << qv::serverName(opts.storeUri) << " is ready; " << opts.home
+                      << " uses it\n";
+            return true;
+        }
         const bool made = qv::installApplicationFolder(opts.home);
         if (opts.installStoreOnly)
             std::cout << (made ? "Installed a fresh store in " : "The store stands already in ") << opts.home << "\n";

@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "installer/SampleData.h"
+#include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "session/globals/SessionGlobals.h"
@@ -24,7 +25,17 @@ BenchStore::BenchStore(const std::string& name) {
     use();
 }
 
+BenchStore::BenchStore(const std::string& name, const std::string& serverUri) {
+    auto pattern = (std::filesystem::temp_directory_path() / ("quorvel-" + name + "-XXXXXX")).string();
+    if (!mkdtemp(pattern.data())) throw std::runtime_error("no temporary folder");
+    folder_ = pattern;
+    server_ = makeScratchServerStore(serverUri);
+    writeSettingsFile(folder_, server_);
+    use();
+}
+
 BenchStore::~BenchStore() {
+    if (!server_.empty()) dropScratchServerStore(server_);
     std::error_code ec;
     std::filesystem::remove_all(folder_, ec);
 }
@@ -38,7 +49,7 @@ void BenchStore::use() {
     ports().reporter = &reporter;
 }
 
-std::string BenchStore::storePath() const { return pathInFolder(folder_, kStoreFileName); }
+std::string BenchStore::storePath() const { return server_.empty() ? pathInFolder(folder_, kStoreFileName) : server_; }
 
 namespace {
 

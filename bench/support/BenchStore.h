@@ -20,6 +20,8 @@ using CountingReporter = qv::CountingReporter;
 class BenchStore {
 public:
     explicit BenchStore(const std::string& name);
+    // A folder whose store is a fresh scratch store on the server of serverUri.
+    BenchStore(const std::string& name, const std::string& serverUri);
     ~BenchStore();
     BenchStore(const BenchStore&) = delete;
     BenchStore& operator=(const BenchStore&) = delete;
@@ -27,6 +29,7 @@ public:
     // Fresh globals and this store's ports: benchmarks share the process.
     void use();
     [[nodiscard]] const std::string& folder() const { return folder_; }
+    // The store file's path, or the server store's URI.
     [[nodiscard]] std::string storePath() const;
 
     ScriptedUi ui;
@@ -35,6 +38,7 @@ public:
 
 private:
     std::string folder_;
+    std::string server_;
 };
 
 // The large store of the dialogs' benchmarks: 100,000 tasks, 500 projects,

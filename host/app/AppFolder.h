@@ -10,6 +10,7 @@ namespace qv {
 struct HostOptions {
     std::string home;
     bool installStoreOnly = false;
+    std::string storeUri;  // --store URI: a team store on a server
     bool headless = false;  // set when no display is reachable
     std::vector<std::string> rest;
     std::string error;  // a usage mistake, told to the user

@@ -7,8 +7,11 @@
 
 #include "installer/DefaultSettings.h"
 #include "installer/HelpPages.h"
+#include "installer/ServerStore.h"
+#include "installer/StoreFile.h"
 #include "installer/StoreSchema.h"
 #include "store/ADOCode.h"
+#include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -111,10 +114,23 @@ void installReportsFolder(const std::string& folder) {
 bool installApplicationFolder(const std::string& folder) {
     std::filesystem::create_directories(folder);
     installReportsFolder(folder);
+    // A folder whose settings file names a server has no store file to make.
+    if (isServerUri(storeLocationOf(folder))) {
+        installHelpPages(folder, helpPagesSource());
+        return false;
+    }
     const bool made = installStore(folder);
     if (made || !std::filesystem::exists(pathInFolder(folder, kSettingsFileName))) installSettingsFile(folder);
     installHelpPages(folder, helpPagesSource());
     return made;
+}
+
+void installServerApplicationFolder(const std::string& folder, const std::string& uri) {
+    std::filesystem::create_directories(folder);
+    installReportsFolder(folder);
+    installServerStore(uri);
+    writeSettingsFile(folder, uri);
+    installHelpPages(folder, helpPagesSource());
 }
 
 }  // namespace qv

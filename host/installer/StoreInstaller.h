@@ -23,4 +23,9 @@ void installReportsFolder(const std::string& folder);
 // untouched. True when a store was made.
 bool installApplicationFolder(const std::string& folder);
 
+// A program's folder whose store is on a server: the folder, its reports
+// folder and help pages, the store's tables where missing, and the settings
+// file naming the URI.
+void installServerApplicationFolder(const std::string& folder, const std::string& uri);
+
 }  // namespace qv

@@ -1,5 +1,6 @@
 #include "script/ScriptRunner.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -7,10 +8,13 @@
 #include <optional>
 #include <stdexcept>
 
+#include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
 #include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
+#include "store/ADOCode.h"
+#include "store/PgConnection.h"
 #include "reports/PrintSettings.h"
 #include "script/PdfPages.h"
 #include "script/ScriptHelp.h"
@@ -134,6 +138,8 @@ ScriptRunner::~ScriptRunner() {
     ports().clock = nullptr;
     ports().reporter = nullptr;
     if (ownsFolder_) {
+        PgConnection::releaseAll();
+        dropScratchServerStore(storePath());
         std::error_code ec;
         std::filesystem::remove_all(folder_, ec);
     }
@@ -194,8 +200,13 @@ void ScriptRunner::ensureStore() {
     if (!mkdtemp(templ.data())) throw std::runtime_error("cannot make a temporary folder");
     folder_ = templ;
     ownsFolder_ = true;
-    installStore(folder_);
-    installSettingsFile(folder_);
+    // QV_STORE_URI: the scenario runs on a fresh scratch store of that server.
+    if (const char* server = std::getenv("QV_STORE_URI"); server && *server) {
+        writeSettingsFile(folder_, makeScratchServerStore(server));
+    } else {
+        installStore(folder_);
+        installSettingsFile(folder_);
+    }
     installReportsFolder(folder_);
     installHelpPages(folder_, helpPagesSource());
     g().AppPath = folder_;
@@ -539,7 +550,7 @@ void ScriptRunner::expectWindow(const ScriptLine& l) {
 // expect row "SELECT ..." VALUE: the first column of the first row.
 // expect rows "SELECT ..." N: the number of rows.
 void ScriptRunner::expectRow(const ScriptLine& l, bool count) {
-    const auto sql = count ? "SELECT COUNT(*) FROM (" + l.word(2) + ")" : l.word(2);
+    const auto sql = count ? "SELECT COUNT(*) FROM (" + l.word(2) + ") AS counted" : l.word(2);
     const auto actual = queryOne(sql);
     if (actual == l.word(3)) return pass();
     fail(l, "the store gives \"" + actual + "\", not \"" + l.word(3) + "\"");
@@ -597,6 +608,6 @@ std::string ScriptRunner::queryOne(const std::string& sql) const {
     return isNull ? "(null)" : *value;
 }
 
-std::string ScriptRunner::storePath() const { return (std::filesystem::path(folder_) / "QuorvelData.mdb").string(); }
+std::string ScriptRunner::storePath() const { return storeLocationOf(folder_); }
 
 }  // namespace qv

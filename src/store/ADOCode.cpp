@@ -11,6 +11,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
@@ -134,7 +135,8 @@ bool locateStore() {
         if (retries == 2) return false;
         if (!fileExists(settingsPath())) pointAtDefaultStore();
         path = dbLocationIn(readWholeFile(settingsPath()));
-        if (fileExists(path)) break;
+        // A server is not looked for here: its first open says whether it answers.
+        if (isServerUri(path) || fileExists(path)) break;
         ++retries;
         ui().msgBox(lostStoreMessage(path), vbCritical, kProgramTitle);
         pointAtDefaultStore();

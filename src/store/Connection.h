@@ -18,6 +18,8 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "store/StoreBackend.h"
+
 namespace qv {
 
 // The path inside a ConnString of the form
@@ -32,7 +34,7 @@ std::string storeProblem(const std::string& path, std::string_view what);
 // store, read-only, a table or column missing; empty for any other fault.
 std::string describeFault(const std::string& path, int code, const std::string& engineMessage);
 
-class Connection {
+class Connection : public StoreBackend {
 public:
     // The connection for the store that a ConnString names (cached per path).
     static std::shared_ptr<Connection> forConnString(const std::string& connString);
@@ -42,7 +44,7 @@ public:
     static void release(const std::string& path);
     static void releaseAll();
 
-    ~Connection();
+    ~Connection() override;
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
@@ -76,13 +78,26 @@ public:
     // Runs a text that returns no rows.
     void exec(const char* sql, std::string_view context);
 
-    // A fresh number for a savepoint name on this connection.
-    [[nodiscard]] uint64_t nextSavepoint() { return ++savepoints_; }
+    // The store engine's side of a Recordset (ConnectionRows.cpp).
+    QueryPlan plan(const std::string& jetSource) override;
+    void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+              std::string_view context) override;
+    int64_t count(const QueryPlan& plan, std::string_view context) override;
+    void removeRow(const std::string& table, int64_t id, std::string_view context) override;
+    int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
+                      const std::vector<Value>& values, std::string_view context) override;
+    int64_t updateRow(const std::string& table, const std::vector<std::string>& names,
+                      const std::vector<Value>& values, int64_t id, std::string_view context) override;
+    [[nodiscard]] bool inTransaction() const override;
+    // IMMEDIATE: the write lock is waited for here, before anything is written.
+    [[nodiscard]] const char* beginText() const override { return "BEGIN IMMEDIATE"; }
+    void exec(const std::string& sql, std::string_view context) override { exec(sql.c_str(), context); }
+    void execQuiet(const std::string& sql) noexcept override;
 
     // Throws the failure of the connection's last error.
     [[noreturn]] void fail(std::string_view context) const;
     // "... in the store file "<path>"": a context naming the file.
-    [[nodiscard]] std::string where(std::string_view what) const;
+    [[nodiscard]] std::string where(std::string_view what) const override;
 
 private:
     Connection(std::string path, sqlite3* db, bool readOnly, uint64_t dev, uint64_t ino);
@@ -102,7 +117,6 @@ private:
     uint64_t dev_ = 0;
     uint64_t ino_ = 0;
     uint64_t tick_ = 0;
-    uint64_t savepoints_ = 0;
     std::unordered_map<std::string, std::unique_ptr<Entry>> cache_;
 };
 

@@ -240,7 +240,11 @@ SelectShape analyse(std::string_view sql) {
     return shape;
 }
 
-std::string withRowid(std::string_view sql, const SelectShape& shape) {
+std::string withRowid(std::string_view sql, const SelectShape& shape, std::string_view identity) {
+    return withColumns(sql, shape, std::string(identity) + " AS " + kRowidColumn);
+}
+
+std::string withColumns(std::string_view sql, const SelectShape& shape, std::string_view columns) {
     if (!shape.isSelect || !shape.singleTable || shape.aggregate || shape.fromPos == std::string::npos)
         return {};
     std::string out;
@@ -249,8 +253,8 @@ std::string withRowid(std::string_view sql, const SelectShape& shape) {
     while (!out.empty() &&
            (out.back() == ' ' || out.back() == '\n' || out.back() == '\t' || out.back() == '\r'))
         out.pop_back();
-    out += ", rowid AS ";
-    out += kRowidColumn;
+    out += ", ";
+    out += columns;
     out.push_back(' ');
     out.append(sql.substr(shape.fromPos, shape.end - shape.fromPos));
     return out;
@@ -261,7 +265,40 @@ std::string countQuery(std::string_view sql, const SelectShape& shape) {
     if (shape.orderPos != std::string::npos && !shape.hasLimit && shape.orderPos < end) end = shape.orderPos;
     std::string out = "SELECT COUNT(*) FROM (";
     out.append(sql.substr(0, end));
-    out += ")";
+    out += ") AS qv_counted";
+    return out;
+}
+
+std::string forPostgres(std::string_view s) {
+    std::string out;
+    out.reserve(s.size());
+    size_t i = 0;
+    while (i < s.size()) {
+        const char c = s[i];
+        if (c == '\'' || c == '"' || c == '`' || c == '[') {
+            const size_t end = skipQuoted(s, i, c == '[' ? ']' : c);
+            out.append(s.substr(i, end - i));
+            i = end;
+        } else if (startsComment(s, i)) {
+            const size_t end = skipComment(s, i);
+            out.append(s.substr(i, end - i));
+            i = end;
+        } else if (isWordChar(c)) {
+            size_t end = i;
+            while (end < s.size() && isWordChar(s[end])) ++end;
+            const std::string_view w = s.substr(i, end - i);
+            if (equalsUpper(w, "TRUE"))
+                out += "1";
+            else if (equalsUpper(w, "FALSE"))
+                out += "0";
+            else
+                out.append(w);
+            i = end;
+        } else {
+            out.push_back(c);
+            ++i;
+        }
+    }
     return out;
 }
 

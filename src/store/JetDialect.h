@@ -34,10 +34,19 @@ SelectShape analyse(std::string_view sql);
 
 // The name of the added rowid column.
 inline constexpr const char* kRowidColumn = "__qv_rowid";
+// The hidden identity column of every table of a server store.
+inline constexpr const char* kIdentityColumn = "qv_rowid";
 
-// The SELECT with the base table's rowid added as its last column, or an
-// empty text when the shape has no single base table.
-std::string withRowid(std::string_view sql, const SelectShape& shape);
+// The SELECT with the base table's rowid (or the named identity column)
+// added as its last column, or an empty text when the shape has no single
+// base table.
+std::string withRowid(std::string_view sql, const SelectShape& shape, std::string_view identity = "rowid");
+// The same with any columns added at the end of the column list.
+std::string withColumns(std::string_view sql, const SelectShape& shape, std::string_view columns);
+
+// A translated text as PostgreSQL reads it: TRUE and FALSE outside literals
+// become 1 and 0, since yes/no columns hold 0/1 there as on the file store.
+std::string forPostgres(std::string_view sql);
 
 // "SELECT COUNT(*) FROM (<query>)", without a trailing ORDER BY that can't
 // change the count.

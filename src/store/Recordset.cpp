@@ -1,7 +1,5 @@
 #include "store/Recordset.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -9,10 +7,9 @@
 #include <limits>
 #include <string_view>
 
-#include "store/Connection.h"
 #include "store/FieldCodec.h"
-#include "store/JetDialect.h"
 #include "store/RowStore.h"
+#include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
 #include "values/DateSerial.h"
 
@@ -52,11 +49,7 @@ constexpr int32_t kErrOpen = 3705;
                   "Recordset");
 }
 
-struct Column {
-    std::string name;
-    FieldType type = FieldType::Expr;
-    std::string origin;  // the base table's column, empty for an expression
-};
+using Column = ColumnInfo;
 
 // Assigned values of a row: they override the cells as read.
 struct Edit {
@@ -87,13 +80,9 @@ struct Row {
 struct Recordset::Impl {
     bool open = false;
     std::string source;
-    std::shared_ptr<Connection> conn;
-    std::string selectSql;  // what a load runs: with the rowid when the set can write back
-    std::string countSql;   // counts the rows without reading them
-    bool isSelect = true;
-    std::vector<Column> cols;
-    int rowidCol = -1;     // statement column of the rowid
-    std::string table;     // base table for writes; empty when the set can't write back
+    std::shared_ptr<StoreBackend> conn;
+    QueryPlan plan;  // what a load runs and what the set can write back
+    const std::vector<Column>& cols = plan.cols;
     bool readOnly = true;  // opened with adLockReadOnly
     bool batch = true;     // writes wait for UpdateBatch
 
@@ -129,49 +118,27 @@ struct Recordset::Impl {
         editIsAddNew = false;
     }
 
-    void load() {
-        reset();
-        Connection::Statement st = conn->prepare(selectSql, context("reading"));
-        sqlite3_stmt* stmt = st.get();
-        const size_t n = cols.size();
-        int rc;
-        while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+    // Where the engine puts each row it reads.
+    [[nodiscard]] std::function<Cell*(int64_t)> rowSink() {
+        return [this](int64_t id) {
             Row& row = rows.emplace_back();
-            Cell* cells = store.cells(n);
+            row.rowid = id;
+            Cell* cells = store.cells(cols.size());
             row.cells = cells;
-            if (rowidCol >= 0) row.rowid = sqlite3_column_int64(stmt, rowidCol);
-            for (size_t c = 0; c < n; ++c) {
-                sqlite3_value* v = sqlite3_column_value(stmt, static_cast<int>(c));
-                Cell& cell = cells[c];
-                cell.kind = static_cast<uint8_t>(sqlite3_value_type(v));
-                switch (cell.kind) {
-                    case SQLITE_INTEGER:
-                        cell.i = sqlite3_value_int64(v);
-                        break;
-                    case SQLITE_FLOAT:
-                        cell.d = sqlite3_value_double(v);
-                        break;
-                    case SQLITE_TEXT: {
-                        const auto* p = sqlite3_value_text(v);
-                        cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
-                        cell.text = store.copy(p, cell.len);
-                        break;
-                    }
-                    case SQLITE_BLOB: {
-                        const void* p = sqlite3_value_blob(v);
-                        cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
-                        cell.text = store.copy(p, cell.len);
-                        break;
-                    }
-                    default:
-                        break;
-                }
-            }
-        }
-        if (rc != SQLITE_DONE) conn->fail(context("reading"));
+            return cells;
+        };
+    }
+
+    void loaded_() {
         loaded = true;
         visible = rows.size();
         pos = 0;
+    }
+
+    void load() {
+        reset();
+        conn->read(plan, store, rowSink(), context("reading"));
+        loaded_();
     }
 
     void ensureLoaded() {
@@ -184,7 +151,7 @@ struct Recordset::Impl {
         if (pos >= rows.size() || !rows[pos].visible()) throwNoCurrent();
     }
 
-    [[nodiscard]] bool updatable() const { return !table.empty() && rowidCol >= 0; }
+    [[nodiscard]] bool updatable() const { return !plan.table.empty() && plan.withIdentity; }
 
     void requireWritable() const {
         if (readOnly || !updatable()) throwNotUpdatable();
@@ -192,7 +159,7 @@ struct Recordset::Impl {
 
     [[nodiscard]] Value decode(const Cell& cell, FieldType type) const {
         switch (cell.kind) {
-            case SQLITE_INTEGER: {
+            case kCellInteger: {
                 const int64_t i = cell.i;
                 switch (type) {
                     case FieldType::Bool:
@@ -213,7 +180,7 @@ struct Recordset::Impl {
                 }
                 break;
             }
-            case SQLITE_FLOAT:
+            case kCellFloat:
                 switch (type) {
                     case FieldType::Bool:
                         return Value(cell.d != 0.0);
@@ -224,8 +191,8 @@ struct Recordset::Impl {
                     default:
                         return Value(cell.d);
                 }
-            case SQLITE_TEXT:
-            case SQLITE_BLOB: {
+            case kCellText:
+            case kCellBlob: {
                 const std::string_view text(cell.text, cell.len);
                 if (type == FieldType::Date) {
                     if (auto serial = dateserial::fromIso(text)) return Value(Date{*serial});
@@ -319,8 +286,31 @@ struct Recordset::Impl {
                row.state == RowState::Deleted;
     }
 
-    void step(sqlite3_stmt* stmt, const std::string& ctx) {
-        if (sqlite3_step(stmt) != SQLITE_DONE) conn->fail(ctx);
+    void writeRow(Row& row, int64_t& newId, const std::string& ctx) {
+        const std::string& table = plan.table;
+        if (row.state == RowState::Deleted) {
+            conn->removeRow(table, row.rowid, ctx);
+            return;
+        }
+        const bool added = row.state == RowState::New;
+        std::vector<std::string> names;
+        std::vector<Value> values;
+        for (size_t c = 0; c < cols.size(); ++c) {
+            if (!(added ? row.edit->has[c] : row.edit->dirty[c])) continue;
+            names.push_back(cols[c].origin);
+            values.push_back(row.edit->vals[c]);
+        }
+        if (added) {
+            newId = conn->insertRow(table, names, values, ctx);
+            return;
+        }
+        if (names.empty()) return;
+        if (conn->updateRow(table, names, values, row.rowid, ctx) == 0)
+            throw Failure(err::StoreFailure,
+                          "Row cannot be located for updating. Some values may have "
+                          "been changed since it was last read. (" +
+                              ctx + ")",
+                          "Recordset");
     }
 
     // Writes every pending change in one transaction: all or nothing.
@@ -331,70 +321,19 @@ struct Recordset::Impl {
         if (work.empty()) return;
         if (readOnly || !updatable()) throwNotUpdatable();
 
-        sqlite3* db = conn->handle();
-        const std::string qTable = jet::quoteIdentifier(table);
-        const std::string ctx =
-            conn->where("writing the changes of table " + table + " of \"" + source + "\"");
-        const bool outer = sqlite3_get_autocommit(db) != 0;
-        conn->exec(outer ? "BEGIN IMMEDIATE" : "SAVEPOINT qv_batch", ctx);
+        const std::string ctx = conn->where("writing the changes of table " + plan.table + " of \"" + source + "\"");
+        const bool outer = !conn->inTransaction();
+        conn->exec(outer ? std::string(conn->beginText()) : std::string("SAVEPOINT qv_batch"), ctx);
         std::vector<int64_t> newIds(work.size(), 0);
         try {
-            for (size_t k = 0; k < work.size(); ++k) {
-                Row& row = rows[work[k]];
-                if (row.state == RowState::Deleted) {
-                    auto st = conn->prepare("DELETE FROM " + qTable + " WHERE rowid=?", ctx);
-                    sqlite3_bind_int64(st.get(), 1, row.rowid);
-                    step(st.get(), ctx);
-                } else if (row.state == RowState::New) {
-                    std::string names;
-                    std::string marks;
-                    for (size_t c = 0; c < cols.size(); ++c) {
-                        if (!row.edit->has[c]) continue;
-                        if (!names.empty()) {
-                            names += ", ";
-                            marks += ", ";
-                        }
-                        names += jet::quoteIdentifier(cols[c].origin);
-                        marks += "?";
-                    }
-                    const std::string sql =
-                        names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
-                                      : "INSERT INTO " + qTable + " (" + names + ") VALUES (" + marks + ")";
-                    auto st = conn->prepare(sql, ctx);
-                    int b = 1;
-                    for (size_t c = 0; c < cols.size(); ++c)
-                        if (row.edit->has[c]) FieldCodec::bindValue(st.get(), b++, row.edit->vals[c]);
-                    step(st.get(), ctx);
-                    newIds[k] = sqlite3_last_insert_rowid(db);
-                } else {
-                    std::string sets;
-                    for (size_t c = 0; c < cols.size(); ++c) {
-                        if (!row.edit->dirty[c]) continue;
-                        if (!sets.empty()) sets += ", ";
-                        sets += jet::quoteIdentifier(cols[c].origin) + "=?";
-                    }
-                    if (sets.empty()) continue;
-                    auto st = conn->prepare("UPDATE " + qTable + " SET " + sets + " WHERE rowid=?", ctx);
-                    int b = 1;
-                    for (size_t c = 0; c < cols.size(); ++c)
-                        if (row.edit->dirty[c]) FieldCodec::bindValue(st.get(), b++, row.edit->vals[c]);
-                    sqlite3_bind_int64(st.get(), b, row.rowid);
-                    step(st.get(), ctx);
-                    if (sqlite3_changes(db) == 0)
-                        throw Failure(err::StoreFailure,
-                                      "Row cannot be located for updating. Some values may have "
-                                      "been changed since it was last read. (" +
-                                          ctx + ")",
-                                      "Recordset");
-                }
-            }
+            for (size_t k = 0; k < work.size(); ++k) writeRow(rows[work[k]], newIds[k], ctx);
             conn->exec(outer ? "COMMIT" : "RELEASE qv_batch", ctx);
         } catch (...) {
             if (outer) {
-                sqlite3_exec(db, "ROLLBACK", nullptr, nullptr, nullptr);
+                conn->execQuiet("ROLLBACK");
             } else {
-                sqlite3_exec(db, "ROLLBACK TO qv_batch", nullptr, nullptr, nullptr);
-                sqlite3_exec(db, "RELEASE qv_batch", nullptr, nullptr, nullptr);
+                conn->execQuiet("ROLLBACK TO qv_batch");
+                conn->execQuiet("RELEASE qv_batch");
             }
             throw;
         }
@@ -443,68 +382,16 @@ void Recordset::Open(const std::string& source, const std::string& connString, i
     const int32_t effCursor = cursor != -1 ? cursor : CursorType;
     const int32_t effLock = lock != -1 ? lock : LockType;
 
-    auto conn = Connection::forConnString(connString);
-    const std::string sql = jet::translate(source);
-    const jet::SelectShape shape = jet::analyse(sql);
-    const std::string ctx = conn->where("opening the query \"" + source + "\"");
-
-    Connection::Statement st;
-    std::string chosen;
-    bool withRowid = false;
-    if (shape.isSelect) {
-        std::string rowidSql = jet::withRowid(sql, shape);
-        if (!rowidSql.empty()) {
-            st = conn->tryPrepare(rowidSql);
-            if (st) {
-                chosen = std::move(rowidSql);
-                withRowid = true;
-            }
-        }
-    }
-    if (!st) {
-        chosen = shape.isSelect ? sql.substr(0, shape.end) : sql;
-        st = conn->prepare(chosen, ctx);
-    }
-
-    sqlite3_stmt* stmt = st.get();
-    const int total = sqlite3_column_count(stmt);
-    const int n = withRowid ? total - 1 : total;
-    std::vector<Column> cols;
-    cols.reserve(static_cast<size_t>(std::max(n, 0)));
-    std::string table;
-    bool tableClash = false;
-    for (int c = 0; c < n; ++c) {
-        Column col;
-        const char* name = sqlite3_column_name(stmt, c);
-        col.name = name ? name : "";
-        col.type = FieldCodec::typeFromDecl(sqlite3_column_decltype(stmt, c));
-        const char* t = sqlite3_column_table_name(stmt, c);
-        const char* o = sqlite3_column_origin_name(stmt, c);
-        if (withRowid && t && o) {
-            if (table.empty())
-                table = t;
-            else if (!FieldCodec::equalsNoCase(table, t))
-                tableClash = true;
-            col.origin = o;
-        }
-        cols.push_back(std::move(col));
-    }
-    st = Connection::Statement();  // hand the statement back
-
+    auto conn = StoreBackend::forConnString(connString);
     auto d = std::make_unique<Impl>();
+    d->plan = conn->plan(source);
     d->source = source;
     d->conn = std::move(conn);
-    d->selectSql = std::move(chosen);
-    d->isSelect = shape.isSelect;
-    d->countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
-    d->cols = std::move(cols);
-    d->rowidCol = withRowid ? n : -1;
-    d->table = tableClash ? std::string() : table;
     d->readOnly = effLock == adLockReadOnly || effLock == adLockUnspecified;
     d->batch = effLock == adLockBatchOptimistic;
     d->open = true;
     // A text that is no SELECT runs now, as the platform's Open runs it.
-    if (!d->isSelect) d->load();
+    if (!d->plan.isSelect) d->load();
 
     CursorType = effCursor;
     LockType = effLock;
@@ -522,17 +409,15 @@ int32_t Recordset::State() const {
 
 int32_t Recordset::RecordCount() {
     d_->requireOpen();
-    if (!d_->loaded && !d_->countSql.empty()) {
-        Connection::Statement st = d_->conn->tryPrepare(d_->countSql);
-        if (st) {
-            const int rc = sqlite3_step(st.get());
-            if (rc == SQLITE_ROW) {
-                const int64_t n = sqlite3_column_int64(st.get(), 0);
-                return n > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
-                                                               : static_cast<int32_t>(n);
-            }
-            d_->conn->fail(d_->context("counting the rows of"));
-        }
+    if (!d_->loaded) {
+        bool read = false;
+        d_->reset();
+        const int64_t n =
+            d_->conn->countOrRead(d_->plan, d_->store, d_->rowSink(), d_->context("counting the rows of"), read);
+        if (read) d_->loaded_();
+        if (!read && n >= 0)
+            return n > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
+                                                           : static_cast<int32_t>(n);
     }
     d_->ensureLoaded();
     return static_cast<int32_t>(d_->visible);
@@ -649,7 +534,7 @@ void Recordset::Delete(int32_t affect) {
 void Recordset::Requery(int32_t /*options*/) {
     d_->requireOpen();
     d_->reset();
-    if (!d_->isSelect) d_->load();
+    if (!d_->plan.isSelect) d_->load();
 }
 
 const std::string& Recordset::Source() const {

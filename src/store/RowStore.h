@@ -9,7 +9,11 @@
 
 namespace qv {
 
-// One stored cell as SQLite gave it; text lives in the set's RowStore.
+// What a stored cell holds (SQLite's own numbers, which its engine gives).
+enum CellKind : uint8_t { kCellInteger = 1, kCellFloat = 2, kCellText = 3, kCellBlob = 4, kCellNull = 5 };
+
+// One stored cell as the engine gave it; text lives in the set's RowStore.
+// A zeroed cell (kind 0) reads as null.
 struct Cell {
     union {
         int64_t i;

@@ -1,21 +1,19 @@
 #include "store/SaveTransaction.h"
 
-#include <sqlite3.h>
-
 #include <algorithm>
 #include <vector>
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
-#include "store/Connection.h"
+#include "store/StoreBackend.h"
 
 namespace qv {
 
 namespace {
 
-std::shared_ptr<Connection> sessionStore() {
+std::shared_ptr<StoreBackend> sessionStore() {
     locateSessionStore();
-    return Connection::forConnString(g().ConnString);
+    return StoreBackend::forConnString(g().ConnString);
 }
 
 // The saves open now, outermost first.
@@ -30,19 +28,18 @@ SaveTransaction::SaveTransaction() : conn_(sessionStore()) {
     begin();
 }
 
-SaveTransaction::SaveTransaction(std::shared_ptr<Connection> conn) : conn_(std::move(conn)) {
+SaveTransaction::SaveTransaction(std::shared_ptr<StoreBackend> conn) : conn_(std::move(conn)) {
     begin();
 }
 
 void SaveTransaction::begin() {
     const std::string ctx = conn_->where("beginning a save");
-    outer_ = sqlite3_get_autocommit(conn_->handle()) != 0;
+    outer_ = !conn_->inTransaction();
     if (outer_) {
-        // IMMEDIATE: the write lock is waited for here, before anything is written.
-        conn_->exec("BEGIN IMMEDIATE", ctx);
+        conn_->exec(conn_->beginText(), ctx);
     } else {
         savepoint_ = "qv_save_" + std::to_string(conn_->nextSavepoint());
-        conn_->exec(("SAVEPOINT " + savepoint_).c_str(), ctx);
+        conn_->exec("SAVEPOINT " + savepoint_, ctx);
     }
     openSaves().push_back(this);
 }
@@ -55,7 +52,7 @@ void SaveTransaction::commit() {
     if (done_) return;
     const std::string sql = outer_ ? std::string("COMMIT") : "RELEASE " + savepoint_;
     try {
-        conn_->exec(sql.c_str(), conn_->where("finishing a save"));
+        conn_->exec(sql, conn_->where("finishing a save"));
     } catch (...) {
         keep_.clear();
         fail();
@@ -69,11 +66,11 @@ void SaveTransaction::commit() {
 void SaveTransaction::keepSoFar() {
     if (done_) return;
     keep_ = "qv_keep_" + std::to_string(conn_->nextSavepoint());
-    conn_->exec(("SAVEPOINT " + keep_).c_str(), conn_->where("saving"));
+    conn_->exec("SAVEPOINT " + keep_, conn_->where("saving"));
 }
 
 void SaveTransaction::run(const std::string& sql) noexcept {
-    sqlite3_exec(conn_->handle(), sql.c_str(), nullptr, nullptr, nullptr);
+    conn_->execQuiet(sql);
 }
 
 // Undoes the save, or all of it after the keep mark, and commits what the
@@ -83,12 +80,12 @@ void SaveTransaction::fail() noexcept {
     done_ = true;
     auto& saves = openSaves();
     saves.erase(std::remove(saves.begin(), saves.end(), this), saves.end());
-    if (sqlite3_get_autocommit(conn_->handle())) return;
+    if (!conn_->inTransaction()) return;
     if (!keep_.empty()) {
         run("ROLLBACK TO " + keep_);
         run("RELEASE " + keep_);
         run(outer_ ? std::string("COMMIT") : "RELEASE " + savepoint_);
-        if (outer_ && !sqlite3_get_autocommit(conn_->handle())) run("ROLLBACK");
+        if (outer_ && conn_->inTransaction()) run("ROLLBACK");
         return;
     }
     if (outer_) {

@@ -22,14 +22,14 @@
 
 namespace qv {
 
-class Connection;
+class StoreBackend;
 
 class SaveTransaction {
 public:
     // On the session's store (located first when ConnString is still empty).
     SaveTransaction();
     // On a given connection.
-    explicit SaveTransaction(std::shared_ptr<Connection> conn);
+    explicit SaveTransaction(std::shared_ptr<StoreBackend> conn);
     ~SaveTransaction();
     SaveTransaction(const SaveTransaction&) = delete;
     SaveTransaction& operator=(const SaveTransaction&) = delete;
@@ -51,7 +51,7 @@ private:
     void fail() noexcept;
     void run(const std::string& sql) noexcept;
 
-    std::shared_ptr<Connection> conn_;
+    std::shared_ptr<StoreBackend> conn_;
     std::string savepoint_;
     std::string keep_;
     bool outer_ = false;

@@ -25,6 +25,7 @@ class StoreFaultTest : public TestEnv {
 protected:
     void SetUp() override {
         TestEnv::SetUp();
+        QV_FILE_STORE_ONLY();
         task.setTempErrReport(std::shared_ptr<Reporter>(&reporter(), [](Reporter*) {}));
         task.GotErrExitNow.connect([this] { ++exits; });
     }

@@ -182,6 +182,7 @@ TEST_F(clsTask2Test, AFaultReachesTheHostOnceAsGotErrExitNow) {
 }
 
 TEST_F(clsTask2Test, AStoreFaultWhileSettingUpEndsTheSessionWithoutShowingTheDialog) {
+    QV_FILE_STORE_ONLY();
     exec("DROP TABLE PROJECTS");
     task.SetupTask(0, "", kUStuff, 0, "");  // no action queued: showing it would fail the script
     ASSERT_FALSE(reporter().faults().empty());

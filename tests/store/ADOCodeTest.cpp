@@ -52,6 +52,7 @@ TEST_F(StoreWithoutSettings, NoSettingsFileWithStoreMakesTheFileSilently) {
 }
 
 TEST_F(TestEnv, LostStoreFallsBackToTheDefaultWithOneMessage) {
+    QV_FILE_STORE_ONLY();
     const auto lost = folder() + "/gone/QuorvelData.mdb";
     writeFile(settingsPath(), settingsText(lost));
     scriptedUi().queueAnswer(vbOK);

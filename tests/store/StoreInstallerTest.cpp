@@ -8,6 +8,10 @@ namespace {
 
 class Installer : public TestEnv {
 protected:
+    void SetUp() override {
+        TestEnv::SetUp();
+        QV_FILE_STORE_ONLY();
+    }
     int64_t sectionRows(const std::string& section) const {
         return readInt("SELECT COUNT(*) FROM Settings WHERE SetUser='1' AND SetSettingSection='" + section +
                        "'");

@@ -33,7 +33,7 @@ TEST_F(TaskSchedule, AddTAReadsImportanceFirstAndDifficultyLast) {
     EXPECT_EQ(readOne("SELECT taWasWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "0");
     EXPECT_EQ(readOne("SELECT taProjectGUIDID || taTaskDesc FROM TASKAPPTS WHERE taGUIDID='A1'"),
               "P1Paint the fence");
-    EXPECT_EQ(readOne("SELECT substr(taStartTime, 1, 16) FROM TASKAPPTS WHERE taGUIDID='A1'"),
+    EXPECT_EQ(readOne("SELECT taStartTime FROM TASKAPPTS WHERE taGUIDID='A1'").substr(0, 16),
               "2024-01-15T09:00");
     EXPECT_EQ(readOne("SELECT taTimeWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "");
 

@@ -2,17 +2,20 @@
 
 #include <stdlib.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <memory>
 #include <stdexcept>
 
+#include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
 #include "store/Connection.h"
+#include "store/PgConnection.h"
 #include "toolkit/Form.h"
 #include "toolkit/Ports.h"
 
@@ -36,6 +39,13 @@ void TestEnv::SetUp() {
     ports().ui = &ui_;
     ports().clock = &clock_;
     ports().reporter = &reporter_;
+    // QV_STORE_URI: the store is a fresh scratch store on that server.
+    const char* server = std::getenv("QV_STORE_URI");
+    if (server && *server && options_.store && options_.settingsFile) {
+        installReportsFolder(folder_);
+        writeSettingsFile(folder_, makeScratchServerStore(server));
+        return;
+    }
     if (options_.store) {
         installStore(folder_);
         installReportsFolder(folder_);
@@ -51,8 +61,16 @@ void TestEnv::TearDown() {
     ports() = Ports{};
     resetGlobals();
     Connection::releaseAll();
+    PgConnection::releaseAll();
+    if (const char* server = std::getenv("QV_STORE_URI"); server && *server)
+        dropScratchServerStore(storeLocationOf(folder_));
     std::error_code ec;
     std::filesystem::remove_all(folder_, ec);
+}
+
+bool TestEnv::onServerStore() {
+    const char* server = std::getenv("QV_STORE_URI");
+    return server && *server;
 }
 
 std::string TestEnv::storePath() const {
@@ -63,10 +81,20 @@ std::string TestEnv::settingsPath() const {
     return pathInFolder(folder_, kSettingsFileName);
 }
 
-void TestEnv::exec(const std::string& sql) const { StoreFile(storePath()).exec(sql); }
+void TestEnv::exec(const std::string& sql) const { StoreFile(storeLocationOf(folder_)).exec(sql); }
 
 std::string TestEnv::readOne(const std::string& sql) const {
-    return StoreFile(storePath()).firstValue(sql).value_or("");
+    return StoreFile(storeLocationOf(folder_)).firstValue(sql).value_or("");
+}
+
+void TestEnv::refuseWrites(const std::string& table, const std::string& event) const {
+    if (onServerStore()) {
+        exec("CREATE OR REPLACE FUNCTION qv_refuse() RETURNS trigger LANGUAGE plpgsql AS "
+             "$$ BEGIN RAISE EXCEPTION 'refused'; END $$");
+        exec("CREATE TRIGGER refuse BEFORE " + event + " ON " + table + " FOR EACH ROW EXECUTE FUNCTION qv_refuse()");
+        return;
+    }
+    exec("CREATE TRIGGER refuse BEFORE " + event + " ON " + table + " BEGIN SELECT RAISE(ABORT, 'refused'); END");
 }
 
 int64_t TestEnv::readInt(const std::string& sql) const {

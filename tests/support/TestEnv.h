@@ -11,6 +11,11 @@
 #include "toolkit/FakeClock.h"
 #include "toolkit/ScriptedUi.h"
 
+// For a test about the store file itself (its faults, its repair, its
+// installation): skipped in the server pass.
+#define QV_FILE_STORE_ONLY() \
+    if (::qv::TestEnv::onServerStore()) GTEST_SKIP() << "about the store file"
+
 namespace qv {
 
 struct TestEnvOptions {
@@ -38,6 +43,12 @@ protected:
     // The first column of the first row as text; "" for null or no row.
     [[nodiscard]] std::string readOne(const std::string& sql) const;
     [[nodiscard]] int64_t readInt(const std::string& sql) const;
+    // From now on the store refuses every UPDATE (or "INSERT") of table,
+    // as a store that fails midway.
+    void refuseWrites(const std::string& table, const std::string& event = "UPDATE") const;
+
+    // True in the suite's pass on a server store (QV_STORE_URI).
+    [[nodiscard]] static bool onServerStore();
 
     [[nodiscard]] static std::string readFile(const std::string& path);
     static void writeFile(const std::string& path, const std::string& text);

@@ -75,8 +75,10 @@ TEST_F(SettingsTest, OlderStoresGainTheirMissingRows) {
     EXPECT_EQ(rows("ETASK"), 5);
     EXPECT_EQ(value("ETASK", "meWidth", "setSettingComment"), "Left");
     EXPECT_EQ(value("ETASK", "meSplit", "SetDefault"), "2505");
-    EXPECT_EQ(readOne("SELECT group_concat(SetSettingName) FROM (SELECT SetSettingName FROM Settings WHERE "
-                      "SetSettingSection='ETASK' ORDER BY rowid)"),
+    EXPECT_EQ(readOne(onServerStore() ? "SELECT string_agg(SetSettingName, ',' ORDER BY qv_rowid) FROM Settings "
+                                        "WHERE SetSettingSection='ETASK'"
+                                      : "SELECT group_concat(SetSettingName) FROM (SELECT SetSettingName FROM "
+                                        "Settings WHERE SetSettingSection='ETASK' ORDER BY rowid)"),
               "meLeft,meHeight,meSplit,meTop,meWidth");
     EXPECT_EQ(g().ETaskWindow[0], 1000);
     EXPECT_EQ(g().ETaskWindow[1], 3705);

@@ -170,7 +170,7 @@ protected:
     // Works the slot to a save that the store refuses at the given table.
     void saveRefusedAt(const std::string& table) {
         seed();
-        sql("CREATE TRIGGER refuse BEFORE UPDATE ON " + table + " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+        refuseWrites(table);
         type("smtTimes", "TIMESPENT", "0:50");
         click("smtActions", "SAVE");
         open();

@@ -26,7 +26,8 @@ TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     seed();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) +
          "', 'List', 'd', 'c')");
-    addTask(", tskTCheckListGUID, tskHasSchedule", ", '" + std::string(kChecklist) + "', 1");
+    addTask(", tskTCheckListGUID", ", '" + std::string(kChecklist) + "'");
+    exec("UPDATE TASKS SET tskHasSchedule = 1");
     exec("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime) VALUES ('a1', '" +
          std::string(kTask) + "', '2026-01-05 09:00:00.000', '2026-01-05 10:00:00.000')");
     edesc("Paint the gate");

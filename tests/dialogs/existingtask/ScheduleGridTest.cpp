@@ -171,7 +171,7 @@ TEST_F(ScheduleGridTest, AddDeleteAndTheSumButton) {
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKAPPTS"), 2);
     grid().selectRows({1, 0});
     sked->smtSkedBtns_Click(del);
-    EXPECT_EQ(readOne("SELECT group_concat(taGUIDID) FROM TASKAPPTS WHERE taGUIDID = 'OLD'"), "");
+    EXPECT_EQ(readOne("SELECT taGUIDID FROM TASKAPPTS WHERE taGUIDID = 'OLD'"), "");
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKAPPTS"), 1);
     EXPECT_EQ(grid().caption(), "Task Appointments: 1");
     EXPECT_EQ(sked->SkedRowCount(), 1);

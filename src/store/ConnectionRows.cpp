@@ -1,0 +1,167 @@
+// The SQLite store's side of a Recordset: plans, reads and row writes.
+#include <sqlite3.h>
+
+#include <algorithm>
+
+#include "store/Connection.h"
+#include "store/JetDialect.h"
+
+namespace qv {
+
+namespace {
+
+void step(Connection& conn, sqlite3_stmt* stmt, std::string_view ctx) {
+    if (sqlite3_step(stmt) != SQLITE_DONE) conn.fail(ctx);
+}
+
+void readCell(sqlite3_stmt* stmt, int c, Cell& cell, RowStore& store) {
+    sqlite3_value* v = sqlite3_column_value(stmt, c);
+    cell.kind = static_cast<uint8_t>(sqlite3_value_type(v));
+    switch (cell.kind) {
+        case SQLITE_INTEGER:
+            cell.i = sqlite3_value_int64(v);
+            break;
+        case SQLITE_FLOAT:
+            cell.d = sqlite3_value_double(v);
+            break;
+        case SQLITE_TEXT: {
+            const auto* p = sqlite3_value_text(v);
+            cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
+            cell.text = store.copy(p, cell.len);
+            break;
+        }
+        case SQLITE_BLOB: {
+            const void* p = sqlite3_value_blob(v);
+            cell.len = static_cast<uint32_t>(sqlite3_value_bytes(v));
+            cell.text = store.copy(p, cell.len);
+            break;
+        }
+        default:
+            break;
+    }
+}
+
+}  // namespace
+
+QueryPlan Connection::plan(const std::string& jetSource) {
+    const std::string sql = jet::translate(jetSource);
+    const jet::SelectShape shape = jet::analyse(sql);
+    const std::string ctx = where("opening the query \"" + jetSource + "\"");
+
+    QueryPlan p;
+    Statement st;
+    if (shape.isSelect) {
+        std::string rowidSql = jet::withRowid(sql, shape);
+        if (!rowidSql.empty()) {
+            st = tryPrepare(rowidSql);
+            if (st) {
+                p.selectSql = std::move(rowidSql);
+                p.withIdentity = true;
+            }
+        }
+    }
+    if (!st) {
+        p.selectSql = shape.isSelect ? sql.substr(0, shape.end) : sql;
+        st = prepare(p.selectSql, ctx);
+    }
+    sqlite3_stmt* stmt = st.get();
+    const int total = sqlite3_column_count(stmt);
+    const int n = p.withIdentity ? total - 1 : total;
+    p.cols.reserve(static_cast<size_t>(std::max(n, 0)));
+    bool tableClash = false;
+    for (int c = 0; c < n; ++c) {
+        ColumnInfo col;
+        const char* name = sqlite3_column_name(stmt, c);
+        col.name = name ? name : "";
+        col.type = FieldCodec::typeFromDecl(sqlite3_column_decltype(stmt, c));
+        const char* t = sqlite3_column_table_name(stmt, c);
+        const char* o = sqlite3_column_origin_name(stmt, c);
+        if (p.withIdentity && t && o) {
+            if (p.table.empty())
+                p.table = t;
+            else if (!FieldCodec::equalsNoCase(p.table, t))
+                tableClash = true;
+            col.origin = o;
+        }
+        p.cols.push_back(std::move(col));
+    }
+    if (tableClash || !p.withIdentity) p.table.clear();
+    p.isSelect = shape.isSelect;
+    p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
+    return p;
+}
+
+void Connection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                      std::string_view context) {
+    Statement st = prepare(plan.selectSql, context);
+    sqlite3_stmt* stmt = st.get();
+    const int n = static_cast<int>(plan.cols.size());
+    int rc;
+    while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        Cell* cells = newRow(plan.withIdentity ? sqlite3_column_int64(stmt, n) : 0);
+        for (int c = 0; c < n; ++c) readCell(stmt, c, cells[c], store);
+    }
+    if (rc != SQLITE_DONE) fail(context);
+}
+
+int64_t Connection::count(const QueryPlan& plan, std::string_view context) {
+    if (plan.countSql.empty()) return -1;
+    Statement st = tryPrepare(plan.countSql);
+    if (!st) return -1;
+    if (sqlite3_step(st.get()) != SQLITE_ROW) fail(context);
+    return sqlite3_column_int64(st.get(), 0);
+}
+
+void Connection::removeRow(const std::string& table, int64_t id, std::string_view context) {
+    auto st = prepare("DELETE FROM " + jet::quoteIdentifier(table) + " WHERE rowid=?", context);
+    sqlite3_bind_int64(st.get(), 1, id);
+    step(*this, st.get(), context);
+}
+
+int64_t Connection::insertRow(const std::string& table, const std::vector<std::string>& names,
+                              const std::vector<Value>& values, std::string_view context) {
+    std::string cols;
+    std::string marks;
+    for (const auto& name : names) {
+        if (!cols.empty()) {
+            cols += ", ";
+            marks += ", ";
+        }
+        cols += jet::quoteIdentifier(name);
+        marks += "?";
+    }
+    const std::string qTable = jet::quoteIdentifier(table);
+    const std::string sql = names.empty()
+                                ? "INSERT INTO " + qTable + " DEFAULT VALUES"
+                                : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" + marks + ")";
+    auto st = prepare(sql, context);
+    for (size_t i = 0; i < values.size(); ++i)
+        FieldCodec::bindValue(st.get(), static_cast<int>(i + 1), values[i]);
+    step(*this, st.get(), context);
+    return sqlite3_last_insert_rowid(handle());
+}
+
+int64_t Connection::updateRow(const std::string& table, const std::vector<std::string>& names,
+                              const std::vector<Value>& values, int64_t id, std::string_view context) {
+    std::string sets;
+    for (const auto& name : names) {
+        if (!sets.empty()) sets += ", ";
+        sets += jet::quoteIdentifier(name) + "=?";
+    }
+    auto st = prepare("UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE rowid=?", context);
+    int b = 1;
+    for (const auto& v : values) FieldCodec::bindValue(st.get(), b++, v);
+    sqlite3_bind_int64(st.get(), b, id);
+    step(*this, st.get(), context);
+    return sqlite3_changes(handle());
+}
+
+bool Connection::inTransaction() const {
+    return sqlite3_get_autocommit(handle()) == 0;
+}
+
+void Connection::execQuiet(const std::string& sql) noexcept {
+    sqlite3_exec(handle(), sql.c_str(), nullptr, nullptr, nullptr);
+}
+
+}  // namespace qv

@@ -1,0 +1,462 @@
+#include "store/PgConnection.h"
+
+#include <charconv>
+#include <cstring>
+
+#include "store/JetDialect.h"
+#include "toolkit/Failure.h"
+#include "values/DateSerial.h"
+
+namespace qv {
+
+namespace {
+
+// Field types as the server numbers them.
+constexpr Oid kBoolOid = 16;
+constexpr Oid kInt8Oid = 20;
+constexpr Oid kInt2Oid = 21;
+constexpr Oid kInt4Oid = 23;
+constexpr Oid kTextOid = 25;
+constexpr Oid kFloat4Oid = 700;
+constexpr Oid kFloat8Oid = 701;
+constexpr Oid kVarcharOid = 1043;
+constexpr Oid kDateOid = 1082;
+constexpr Oid kTimestampOid = 1114;
+constexpr Oid kTimestampTzOid = 1184;
+constexpr Oid kNumericOid = 1700;
+
+// The most rows that RecordCount reads with their count.
+constexpr int kProbeRows = 200;
+
+std::map<std::string, std::shared_ptr<PgConnection>>& registry() {
+    static std::map<std::string, std::shared_ptr<PgConnection>> connections;
+    return connections;
+}
+
+std::string firstLine(const char* text) {
+    std::string s = text ? text : "";
+    if (s.starts_with("ERROR:  ")) s.erase(0, 8);
+    if (const auto nl = s.find('\n'); nl != std::string::npos) s.erase(nl);
+    while (!s.empty() && (s.back() == ' ' || s.back() == '.' || s.back() == '\r')) s.pop_back();
+    return s;
+}
+
+// What a field of an expression holds, from the server's type.
+FieldType typeOfOid(Oid oid) {
+    switch (oid) {
+        case kBoolOid:
+            return FieldType::Bool;
+        case kInt2Oid:
+            return FieldType::Int16;
+        case kFloat4Oid:
+        case kFloat8Oid:
+        case kNumericOid:
+            return FieldType::Double;
+        case kDateOid:
+        case kTimestampOid:
+        case kTimestampTzOid:
+            return FieldType::Date;
+        case kTextOid:
+        case kVarcharOid:
+            return FieldType::Text;
+        default:
+            return FieldType::Expr;
+    }
+}
+
+void readCell(const PGresult* res, int row, int field, Cell& cell, RowStore& store) {
+    if (PQgetisnull(res, row, field)) {
+        cell.kind = kCellNull;
+        return;
+    }
+    const char* text = PQgetvalue(res, row, field);
+    const int len = PQgetlength(res, row, field);
+    switch (PQftype(res, field)) {
+        case kBoolOid:
+            cell.kind = kCellInteger;
+            cell.i = text[0] == 't' ? 1 : 0;
+            return;
+        case kInt2Oid:
+        case kInt4Oid:
+        case kInt8Oid: {
+            int64_t i = 0;
+            if (std::from_chars(text, text + len, i).ec == std::errc()) {
+                cell.kind = kCellInteger;
+                cell.i = i;
+                return;
+            }
+            break;
+        }
+        case kFloat4Oid:
+        case kFloat8Oid:
+        case kNumericOid: {
+            double d = 0;
+            if (std::from_chars(text, text + len, d).ec == std::errc()) {
+                cell.kind = kCellFloat;
+                cell.d = d;
+                return;
+            }
+            break;
+        }
+        default:
+            break;
+    }
+    cell.kind = kCellText;
+    cell.len = static_cast<uint32_t>(len);
+    cell.text = store.copy(text, static_cast<size_t>(len));
+}
+
+// A value as the text of a bound parameter; nothing for null.
+bool paramText(const Value& v, std::string& out) {
+    switch (v.kind()) {
+        case Value::Kind::Null:
+            return false;
+        case Value::Kind::Bool:
+            out = v.toBool() ? "1" : "0";
+            return true;
+        case Value::Kind::Int16:
+        case Value::Kind::Int32:
+            out = std::to_string(v.toInt32());
+            return true;
+        case Value::Kind::Double: {
+            char buf[32];
+            const auto r = std::to_chars(buf, buf + sizeof buf, v.toDouble());
+            out.assign(buf, r.ptr);
+            return true;
+        }
+        case Value::Kind::Date:
+            out = dateserial::toIso(v.toDate().serial);
+            return true;
+        case Value::Kind::Text:
+            out = v.toText();
+            return true;
+    }
+    return false;
+}
+
+std::string placeholders(size_t from, size_t n) {
+    std::string out;
+    for (size_t i = 0; i < n; ++i) {
+        if (i) out += ", ";
+        out += "$" + std::to_string(from + i);
+    }
+    return out;
+}
+
+}  // namespace
+
+std::string serverName(const std::string& uri) {
+    char* error = nullptr;
+    PQconninfoOption* options = PQconninfoParse(uri.c_str(), &error);
+    if (error) PQfreemem(error);
+    if (!options) return uri;
+    std::string host, port, db;
+    for (PQconninfoOption* o = options; o->keyword; ++o) {
+        if (!o->val) continue;
+        if (std::strcmp(o->keyword, "host") == 0) host = o->val;
+        if (std::strcmp(o->keyword, "port") == 0) port = o->val;
+        if (std::strcmp(o->keyword, "dbname") == 0) db = o->val;
+    }
+    PQconninfoFree(options);
+    std::string name = db.empty() ? std::string("the default database") : db;
+    name += " on " + (host.empty() ? std::string("the local server") : host);
+    if (!port.empty()) name += ":" + port;
+    return name;
+}
+
+PgConnection::PgConnection(std::string uri, PGconn* conn)
+    : uri_(std::move(uri)), name_(serverName(uri_)), conn_(conn) {}
+
+PgConnection::~PgConnection() {
+    if (conn_) PQfinish(conn_);
+}
+
+std::shared_ptr<PgConnection> PgConnection::forUri(const std::string& uri) {
+    auto& reg = registry();
+    if (const auto found = reg.find(uri); found != reg.end()) {
+        if (PQstatus(found->second->conn_) == CONNECTION_OK) return found->second;
+        reg.erase(found);
+    }
+    PGconn* conn = PQconnectdb(uri.c_str());
+    if (!conn || PQstatus(conn) != CONNECTION_OK) {
+        const std::string why = conn ? firstLine(PQerrorMessage(conn)) : std::string("out of memory");
+        if (conn) PQfinish(conn);
+        throw Failure(err::StoreFailure,
+                      "The Quorvel data server \"" + serverName(uri) + "\" can't be reached: " + why + ".",
+                      "Store");
+    }
+    std::shared_ptr<PgConnection> c(new PgConnection(uri, conn));
+    // A lock is waited for as long as on the file store; dates come back as ISO text.
+    c->exec("SET lock_timeout = '5s'; SET client_min_messages = warning; SET DateStyle = 'ISO, YMD'",
+            c->where("opening"));
+    reg.emplace(uri, c);
+    return c;
+}
+
+void PgConnection::releaseAll() {
+    registry().clear();
+}
+
+std::string PgConnection::where(std::string_view what) const {
+    return std::string(what) + " in the store \"" + name_ + "\"";
+}
+
+void PgConnection::fail(const PGresult* result, std::string_view context) {
+    const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
+    const std::string code = state ? state : "";
+    const std::string engine = firstLine(result ? PQresultErrorMessage(result) : PQerrorMessage(conn_));
+    const std::string store = "The Quorvel data store \"" + name_ + "\" ";
+    std::string clear;
+    if (PQstatus(conn_) != CONNECTION_OK || code.starts_with("08")) {
+        registry().erase(uri_);
+        clear = "The Quorvel data server \"" + name_ +
+                "\" can't be reached: " + (engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
+    } else if (code == "55P03") {
+        clear = store + "is busy: another program has kept it locked for more than 5 seconds";
+    } else if (code == "40P01" || code == "40001") {
+        clear = store + "refused a save that met another user's (" + engine + ")";
+    } else if (code == "42P01") {
+        clear = store + "is missing a table (" + engine + ")";
+    } else if (code == "42703") {
+        clear = store + "is missing a column (" + engine + ")";
+    } else if (code == "25006" || code == "42501") {
+        clear = store + "is read-only (" + engine + ")";
+    }
+    if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
+    throw Failure(err::StoreFailure, engine + " (" + std::string(context) + ")", "Store");
+}
+
+void PgConnection::exec(const std::string& sql, std::string_view context) {
+    Result r(PQexec(conn_, sql.c_str()));
+    const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
+}
+
+void PgConnection::execQuiet(const std::string& sql) noexcept {
+    PQclear(PQexec(conn_, sql.c_str()));
+}
+
+bool PgConnection::inTransaction() const {
+    const auto s = PQtransactionStatus(conn_);
+    return s == PQTRANS_INTRANS || s == PQTRANS_INERROR || s == PQTRANS_ACTIVE;
+}
+
+const std::string& PgConnection::prepared(const std::string& sql, std::string_view context) {
+    if (const auto found = statements_.find(sql); found != statements_.end()) return found->second;
+    const std::string name = "qv" + std::to_string(statements_.size() + 1);
+    Result r(PQprepare(conn_, name.c_str(), sql.c_str(), 0, nullptr));
+    if (!r || PQresultStatus(r.get()) != PGRES_COMMAND_OK) fail(r.get(), context);
+    return statements_.emplace(sql, name).first->second;
+}
+
+PgConnection::Result PgConnection::run(const std::string& sql, const std::vector<Value>& params,
+                                       std::string_view context) {
+    const std::string& name = prepared(sql, context);
+    std::vector<std::string> texts(params.size());
+    std::vector<const char*> values(params.size(), nullptr);
+    for (size_t i = 0; i < params.size(); ++i)
+        if (paramText(params[i], texts[i])) values[i] = texts[i].c_str();
+    Result r(PQexecPrepared(conn_, name.c_str(), static_cast<int>(params.size()), values.data(), nullptr,
+                            nullptr, 0));
+    const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
+    if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
+    return r;
+}
+
+const PgConnection::TableColumns& PgConnection::tableColumns(Oid table, std::string_view context) {
+    if (const auto found = tables_.find(table); found != tables_.end()) return found->second;
+    const Result r = run(
+        "SELECT c.relname, a.attnum, a.attname, format_type(a.atttypid, a.atttypmod), "
+        "coalesce(col_description(a.attrelid, a.attnum), '') FROM pg_attribute a "
+        "JOIN pg_class c ON c.oid = a.attrelid WHERE a.attrelid = $1 AND a.attnum > 0 AND NOT a.attisdropped",
+        {Value(std::to_string(table))}, context);
+    TableColumns t;
+    for (int i = 0; i < PQntuples(r.get()); ++i) {
+        t.table = PQgetvalue(r.get(), i, 0);
+        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {
+            PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3), PQgetvalue(r.get(), i, 4)};
+    }
+    return tables_.emplace(table, std::move(t)).first->second;
+}
+
+QueryPlan PgConnection::describe(const std::string& sql, bool withIdentity, std::string_view context) {
+    const std::string& name = prepared(sql, context);
+    Result d(PQdescribePrepared(conn_, name.c_str()));
+    if (!d || PQresultStatus(d.get()) != PGRES_COMMAND_OK) fail(d.get(), context);
+    const PGresult* res = d.get();
+    QueryPlan p;
+    p.selectSql = sql;
+    p.withIdentity = withIdentity;
+    const int total = PQnfields(res);
+    const int n = withIdentity ? total - 1 : total;
+    const Oid identityTable = withIdentity ? PQftable(res, total - 1) : InvalidOid;
+    bool clash = false;
+    for (int f = 0; f < n; ++f) {
+        ColumnInfo col;
+        col.name = PQfname(res, f);
+        if (col.name == jet::kIdentityColumn) continue;  // the logic never sees it
+        col.type = typeOfOid(PQftype(res, f));
+        const Oid table = PQftable(res, f);
+        if (table != InvalidOid) {
+            const TableColumns& t = tableColumns(table, context);
+            const auto found = t.byNumber.find(PQftablecol(res, f));
+            if (found != t.byNumber.end()) {
+                col.type = FieldCodec::typeFromDecl(found->second.decl.c_str());
+                if (FieldCodec::equalsNoCase(found->second.spelling, col.name))
+                    col.name = found->second.spelling;
+                if (table == identityTable)
+                    col.origin = found->second.name;
+                else
+                    clash = true;
+            }
+        }
+        p.cols.push_back(std::move(col));
+        p.fields.push_back(f);
+    }
+    if (withIdentity && !clash && identityTable != InvalidOid)
+        p.table = tableColumns(identityTable, context).table;
+    return p;
+}
+
+QueryPlan PgConnection::plan(const std::string& jetSource) {
+    if (const auto found = plans_.find(jetSource); found != plans_.end()) return found->second;
+    const std::string sql = jet::forPostgres(jet::translate(jetSource));
+    const jet::SelectShape shape = jet::analyse(sql);
+    const std::string ctx = where("opening the query \"" + jetSource + "\"");
+    QueryPlan p;
+    bool planned = false;
+    // Rows that the order leaves equal come in the order they were added,
+    // as from the file store.
+    jet::SelectShape ordered = shape;
+    std::string orderedSql = sql.substr(0, shape.end);
+    if (shape.singleTable && !shape.aggregate && !shape.hasLimit) {
+        orderedSql +=
+            std::string(shape.orderPos == std::string::npos ? " ORDER BY " : ", ") + jet::kIdentityColumn;
+        ordered.end = orderedSql.size();
+    }
+    const std::string idSql =
+        shape.isSelect ? jet::withRowid(orderedSql, ordered, jet::kIdentityColumn) : std::string();
+    if (!idSql.empty()) {
+        // A table without the identity column: the set is read-only. The
+        // failed attempt must not spoil a save in progress.
+        const bool guard = inTransaction();
+        if (guard) exec("SAVEPOINT qv_plan", ctx);
+        try {
+            p = describe(idSql, true, ctx);
+            planned = true;
+        } catch (const Failure&) {
+            if (!guard && PQstatus(conn_) != CONNECTION_OK) throw;
+        }
+        if (guard) {
+            if (!planned) execQuiet("ROLLBACK TO qv_plan");
+            exec("RELEASE qv_plan", ctx);
+        }
+    }
+    if (!planned) {
+        if (shape.isSelect) {
+            p = describe(sql.substr(0, shape.end), false, ctx);
+        } else {
+            p.selectSql = sql;
+            p.withIdentity = false;
+        }
+    }
+    p.isSelect = shape.isSelect;
+    p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
+    // The count beside each row (before the limit): a small set needs one question.
+    if (p.withIdentity && !shape.hasLimit)
+        p.probeSql = jet::withColumns(orderedSql, ordered,
+                                      std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn +
+                                          ", COUNT(*) OVER () AS qv_total") +
+                     " LIMIT " + std::to_string(kProbeRows);
+    if (shape.isSelect) plans_.emplace(jetSource, p);
+    return p;
+}
+
+void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                        std::string_view context) {
+    Result r =
+        plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, plan.selectSql.c_str()));
+    if (!plan.isSelect) {
+        const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
+        if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
+        return;
+    }
+    fill(plan, r.get(), PQnfields(r.get()) - 1, store, newRow);
+}
+
+void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
+                        const std::function<Cell*(int64_t)>& newRow) {
+    const int rows = PQntuples(res);
+    const size_t n = plan.cols.size();
+    for (int row = 0; row < rows; ++row) {
+        int64_t id = 0;
+        if (plan.withIdentity) {
+            const char* t = PQgetvalue(res, row, idField);
+            std::from_chars(t, t + PQgetlength(res, row, idField), id);
+        }
+        Cell* cells = newRow(id);
+        for (size_t c = 0; c < n; ++c) readCell(res, row, plan.fields[c], cells[c], store);
+    }
+}
+
+int64_t PgConnection::count(const QueryPlan& plan, std::string_view context) {
+    if (plan.countSql.empty()) return -1;
+    const Result r = run(plan.countSql, {}, context);
+    if (PQntuples(r.get()) < 1) return -1;
+    return std::atoll(PQgetvalue(r.get(), 0, 0));
+}
+
+int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
+                                  const std::function<Cell*(int64_t)>& newRow, std::string_view context,
+                                  bool& read) {
+    read = false;
+    if (plan.probeSql.empty()) return count(plan, context);
+    const Result r = run(plan.probeSql, {}, context);
+    const PGresult* res = r.get();
+    const int rows = PQntuples(res);
+    const int fields = PQnfields(res);
+    const int64_t total = rows == 0 ? 0 : std::atoll(PQgetvalue(res, 0, fields - 1));
+    if (total == rows) {
+        fill(plan, res, fields - 2, store, newRow);
+        read = true;
+    }
+    return total;
+}
+
+void PgConnection::removeRow(const std::string& table, int64_t id, std::string_view context) {
+    run("DELETE FROM " + jet::quoteIdentifier(table) + " WHERE " + jet::kIdentityColumn + " = $1",
+        {Value(std::to_string(id))}, context);
+}
+
+int64_t PgConnection::insertRow(const std::string& table, const std::vector<std::string>& names,
+                                const std::vector<Value>& values, std::string_view context) {
+    std::string cols;
+    for (const auto& name : names) {
+        if (!cols.empty()) cols += ", ";
+        cols += jet::quoteIdentifier(name);
+    }
+    const std::string qTable = jet::quoteIdentifier(table);
+    const std::string sql = (names.empty() ? "INSERT INTO " + qTable + " DEFAULT VALUES"
+                                           : "INSERT INTO " + qTable + " (" + cols + ") VALUES (" +
+                                                 placeholders(1, names.size()) + ")") +
+                            " RETURNING " + jet::kIdentityColumn;
+    const Result r = run(sql, values, context);
+    return PQntuples(r.get()) > 0 ? std::atoll(PQgetvalue(r.get(), 0, 0)) : 0;
+}
+
+int64_t PgConnection::updateRow(const std::string& table, const std::vector<std::string>& names,
+                                const std::vector<Value>& values, int64_t id, std::string_view context) {
+    std::string sets;
+    for (size_t i = 0; i < names.size(); ++i) {
+        if (i) sets += ", ";
+        sets += jet::quoteIdentifier(names[i]) + " = $" + std::to_string(i + 1);
+    }
+    std::vector<Value> params = values;
+    params.emplace_back(std::to_string(id));
+    const Result r = run("UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE " +
+                             jet::kIdentityColumn + " = $" + std::to_string(names.size() + 1),
+                         params, context);
+    return std::atoll(PQcmdTuples(r.get()));
+}
+
+}  // namespace qv

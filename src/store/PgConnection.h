@@ -1,0 +1,86 @@
+#pragma once
+// One connection per PostgreSQL server URI, shared by every Recordset that
+// opens it and kept for the life of the process. Query texts of the old
+// dialect are rewritten as on the file store, prepared once and described
+// without running; rows come back as text and are written back by the
+// hidden identity column qv_rowid of every table, with bound parameters.
+// A lock is waited for 5 s, as on the file store. A server that can't be
+// reached gives one Failure(err::StoreFailure) naming the server and the
+// reason; the connection is dropped then, so a later open tries again.
+
+#include <libpq-fe.h>
+
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+
+#include "store/StoreBackend.h"
+
+namespace qv {
+
+// "<database> on <host or socket folder>[:port]", without a password.
+std::string serverName(const std::string& uri);
+
+class PgConnection : public StoreBackend {
+public:
+    static std::shared_ptr<PgConnection> forUri(const std::string& uri);
+    static void releaseAll();
+    ~PgConnection() override;
+    PgConnection(const PgConnection&) = delete;
+    PgConnection& operator=(const PgConnection&) = delete;
+
+    QueryPlan plan(const std::string& jetSource) override;
+    void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+              std::string_view context) override;
+    int64_t count(const QueryPlan& plan, std::string_view context) override;
+    // A set of up to kProbeRows rows comes whole with its count: one round trip.
+    int64_t countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                        std::string_view context, bool& read) override;
+    void removeRow(const std::string& table, int64_t id, std::string_view context) override;
+    int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
+                      const std::vector<Value>& values, std::string_view context) override;
+    int64_t updateRow(const std::string& table, const std::vector<std::string>& names,
+                      const std::vector<Value>& values, int64_t id, std::string_view context) override;
+    [[nodiscard]] bool inTransaction() const override;
+    [[nodiscard]] const char* beginText() const override { return "BEGIN"; }
+    void exec(const std::string& sql, std::string_view context) override;
+    void execQuiet(const std::string& sql) noexcept override;
+    [[nodiscard]] std::string where(std::string_view what) const override;
+
+    [[nodiscard]] PGconn* handle() const { return conn_; }
+
+private:
+    struct ResultFree {
+        void operator()(PGresult* r) const { PQclear(r); }
+    };
+    using Result = std::unique_ptr<PGresult, ResultFree>;
+    struct TableColumns {
+        std::string table;
+        struct Column {
+            std::string name;
+            std::string decl;      // the declared type
+            std::string spelling;  // the name as the schema spells it (its comment)
+        };
+        std::map<int, Column> byNumber;  // by attnum
+    };
+
+    PgConnection(std::string uri, PGconn* conn);
+    // The name of the prepared statement of a text, prepared on first use.
+    const std::string& prepared(const std::string& sql, std::string_view context);
+    Result run(const std::string& sql, const std::vector<Value>& params, std::string_view context);
+    QueryPlan describe(const std::string& sql, bool withIdentity, std::string_view context);
+    const TableColumns& tableColumns(Oid table, std::string_view context);
+    [[noreturn]] void fail(const PGresult* result, std::string_view context);
+    void fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
+              const std::function<Cell*(int64_t)>& newRow);
+
+    std::string uri_;
+    std::string name_;
+    PGconn* conn_ = nullptr;
+    std::unordered_map<std::string, std::string> statements_;
+    std::unordered_map<std::string, QueryPlan> plans_;
+    std::map<Oid, TableColumns> tables_;
+};
+
+}  // namespace qv
