@@ -159,8 +159,9 @@ TEST_F(ServerStoreTest, AnUnreachableServerIsToldOnceByNameAndReason) {
     writeSettingsFile(folder(), "postgresql:///quorvel?host=/nonexistent/qv-socket");
     resetGlobals();
     g().AppPath = folder();
-    clsTask2 task;
+    // The reporter outlives the session that listens to it.
     RecordingReporter reporter;
+    clsTask2 task;
     int exits = 0;
     task.setTempErrReport(std::shared_ptr<Reporter>(&reporter, [](Reporter*) {}));
     task.GotErrExitNow.connect([&] { ++exits; });
