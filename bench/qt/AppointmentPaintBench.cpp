@@ -26,18 +26,15 @@ constexpr const char* kSlot = "A0000000-0000-0000-0000-000000000000";
 void BM_AppointmentFirstPaint(benchmark::State& state) {
     QTemporaryDir dir;
     const std::string folder = dir.path().toStdString();
-    resetGlobals();
-    installStore(folder);
-    installSettingsFile(folder);
-    const std::string store = pathInFolder(folder, kStoreFileName);
-    fillSampleStore(store);
-    StoreFile(store).exec(std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, "
-                                      "taStartTime, taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked) "
-                                      "VALUES ('") +
-                          kSlot +
-                          "', 'T0004242-0000-0000-0000-000000000000', 'Project 242', "
-                          "'P0000242-0000-0000-0000-000000000000', '2026-11-24T09:00:00.000', "
-                          "'2026-11-24T10:30:00.000', 'Task 004242', 2, 2, 0)");
+    const std::string store = PaintProbe::sampleStore(folder, {});
+    StoreFile(store).exec(
+        std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, "
+                    "taStartTime, taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked) "
+                    "VALUES ('") +
+        kSlot +
+        "', 'T0004242-0000-0000-0000-000000000000', 'Project 242', "
+        "'P0000242-0000-0000-0000-000000000000', '2026-11-24T09:00:00.000', "
+        "'2026-11-24T10:30:00.000', 'Task 004242', 2, 2, 0)");
     HostApp host(folder, false);
     double complete = 0;
     for (auto _ : state) {

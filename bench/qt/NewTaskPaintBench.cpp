@@ -22,10 +22,7 @@ using namespace qv;
 void BM_NewTaskFirstPaint(benchmark::State& state) {
     QTemporaryDir dir;
     const std::string folder = dir.path().toStdString();
-    resetGlobals();
-    installStore(folder);
-    installSettingsFile(folder);
-    fillSampleStore(pathInFolder(folder, kStoreFileName));
+    PaintProbe::sampleStore(folder, {});
     HostApp host(folder, false);
     PaintProbe::run(state, host, "frmTask3", [&host] { host.window().newTask(); });
 }

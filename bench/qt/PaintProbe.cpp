@@ -1,18 +1,21 @@
 #include "PaintProbe.h"
 
-#include <fstream>
-
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QTimer>
-#include <unistd.h>
+#include <fstream>
 
+#include "installer/SampleData.h"
+#include "installer/StoreInstaller.h"
 #include "kit/FormWindow.h"
 #include "kit/QtUi.h"
 #include "kit/SheetWidget.h"
+#include "session/globals/SessionGlobals.h"
+#include "store/ADOCode.h"
 #include "view/HostApp.h"
 #include "view/StepRunner.h"
 
@@ -75,7 +78,8 @@ PaintTimes PaintProbe::measure(HostApp& host, const QString& form, const QString
     StepRunner steps(30000);
     steps.onMessageBox([](auto&) { return 0; });
     steps.onFinished([] { StepRunner::closeAll(); });
-    steps.when("closed", [&] { return t.completeMs >= 0 && !StepRunner::formWindow(form); }, [] {});
+    steps.when(
+        "closed", [&] { return t.completeMs >= 0 && !StepRunner::formWindow(form); }, [] {});
     steps.start();
     poll.start();
     clock.start();
@@ -85,7 +89,8 @@ PaintTimes PaintProbe::measure(HostApp& host, const QString& form, const QString
     return t;
 }
 
-void PaintProbe::run(benchmark::State& state, HostApp& host, const QString& form, const std::function<void()>& open) {
+void PaintProbe::run(benchmark::State& state, HostApp& host, const QString& form,
+                     const std::function<void()>& open) {
     double complete = 0, growth = 0;
     for (auto _ : state) {
         const PaintTimes t = measure(host, form, "smtActions.DONE", open);
@@ -101,6 +106,15 @@ void PaintProbe::run(benchmark::State& state, HostApp& host, const QString& form
     state.counters["complete_ms"] = n > 0 ? complete / n : 0;
     state.counters["rss_growth_MB"] = n > 0 ? growth / n : 0;
     StepRunner::closeAll();
+}
+
+std::string PaintProbe::sampleStore(const std::string& folder, const SampleSize& size) {
+    resetGlobals();
+    installStore(folder);
+    installSettingsFile(folder);
+    const std::string store = pathInFolder(folder, kStoreFileName);
+    fillSampleStore(store, size);
+    return store;
 }
 
 }  // namespace qv

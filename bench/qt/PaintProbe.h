@@ -5,10 +5,9 @@
 // scrolling), with the process' resident memory growth meanwhile. The
 // window is then closed by its own tool.
 
+#include <QString>
 #include <functional>
 #include <string>
-
-#include <QString>
 
 namespace benchmark {
 class State;
@@ -17,6 +16,7 @@ class State;
 namespace qv {
 
 class HostApp;
+struct SampleSize;
 
 struct PaintTimes {
     double firstPaintMs = -1;
@@ -31,7 +31,10 @@ public:
                               const std::function<void()>& open);
     // A benchmark's iterations: manual time the first paint; the counters
     // complete_ms and rss_growth_MB the means of the rest.
-    static void run(benchmark::State& state, HostApp& host, const QString& form, const std::function<void()>& open);
+    static void run(benchmark::State& state, HostApp& host, const QString& form,
+                    const std::function<void()>& open);
+    // A fresh program folder with a store filled to size; the store's path.
+    static std::string sampleStore(const std::string& folder, const SampleSize& size);
     // Resident memory of this process, in megabytes.
     [[nodiscard]] static double residentMb();
 };
