@@ -284,7 +284,7 @@ void DemoDriver::scheduleTwenty(const std::string& taskKey) const {
                ", " + sqlLiteral(taskKey) + ", " + iso(start) + ", " + iso(end) + ", " + (i < 12 ? "1" : "0") + ", " +
                (i < 12 ? std::to_string(60 + (i % 4) * 30) : "NULL") + ", 1, 1);";
     }
-    StoreFile(app_.folder() + "/QuorvelData.mdb").exec(sql);
+    StoreFile(storeLocationOf(app_.folder())).exec(sql);
 }
 
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {

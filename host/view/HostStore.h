@@ -1,6 +1,8 @@
 #pragma once
 // The host's own reads of the shared store: the task list, the catalog, the
 // projects and the status words; and the removal of a deleted task's rows.
+// The store is the one the folder's settings file names: the store file,
+// or a team store on a server.
 
 #include <cstdint>
 #include <string>
@@ -41,7 +43,8 @@ class HostStore {
 public:
     explicit HostStore(std::string folder);
 
-    [[nodiscard]] std::string path() const;
+    // The store file's path or the server's URI.
+    [[nodiscard]] std::string location() const;
     [[nodiscard]] const std::string& folder() const { return folder_; }
     // Reads another program's folder from now on.
     void setFolder(std::string folder) { folder_ = std::move(folder); }

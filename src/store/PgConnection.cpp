@@ -423,6 +423,37 @@ int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
     return total;
 }
 
+std::vector<PgConnection::TextRow> PgConnection::textRows(const std::string& sql,
+                                                          const std::vector<std::string>& params,
+                                                          std::string_view context) {
+    std::vector<Value> values;
+    values.reserve(params.size());
+    for (const auto& p : params) values.emplace_back(p);
+    const Result r = run(sql, values, context);
+    const PGresult* res = r.get();
+    std::vector<TextRow> rows(static_cast<size_t>(PQntuples(res)));
+    const int fields = PQnfields(res);
+    for (int row = 0; row < PQntuples(res); ++row) {
+        TextRow& out = rows[static_cast<size_t>(row)];
+        out.reserve(static_cast<size_t>(fields));
+        for (int f = 0; f < fields; ++f) {
+            if (PQgetisnull(res, row, f)) {
+                out.emplace_back();
+                continue;
+            }
+            std::string text(PQgetvalue(res, row, f), static_cast<size_t>(PQgetlength(res, row, f)));
+            const Oid type = PQftype(res, f);
+            if (type == kTimestampOid || type == kDateOid) {
+                if (const auto serial = dateserial::fromIso(text)) text = dateserial::toIso(*serial);
+            } else if (type == kBoolOid) {
+                text = text == "t" ? "1" : "0";
+            }
+            out.emplace_back(std::move(text));
+        }
+    }
+    return rows;
+}
+
 void PgConnection::removeRow(const std::string& table, int64_t id, std::string_view context) {
     run("DELETE FROM " + jet::quoteIdentifier(table) + " WHERE " + jet::kIdentityColumn + " = $1",
         {Value(std::to_string(id))}, context);

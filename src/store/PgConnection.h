@@ -12,6 +12,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 
@@ -49,6 +50,14 @@ public:
     [[nodiscard]] std::string where(std::string_view what) const override;
 
     [[nodiscard]] PGconn* handle() const { return conn_; }
+
+    // Small reads and writes past the Recordset (the host's lists): a text
+    // of the server's dialect with bound parameters $1, $2, ..., prepared
+    // once. Every cell comes as text, nothing for null, a date as the file
+    // store keeps it ("2024-01-15T17:30:00.000"), yes/no as 1 or 0.
+    using TextRow = std::vector<std::optional<std::string>>;
+    std::vector<TextRow> textRows(const std::string& sql, const std::vector<std::string>& params,
+                                  std::string_view context);
 
 private:
     struct ResultFree {
