@@ -26,7 +26,7 @@ constexpr Oid kTimestampTzOid = 1184;
 constexpr Oid kNumericOid = 1700;
 
 // The most rows that RecordCount reads with their count.
-constexpr int kProbeRows = 200;
+constexpr int kProbeRows = 1000;
 
 std::map<std::string, std::shared_ptr<PgConnection>>& registry() {
     static std::map<std::string, std::shared_ptr<PgConnection>> connections;
@@ -362,11 +362,13 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     }
     p.isSelect = shape.isSelect;
     p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
-    // The count beside each row (before the limit): a small set needs one question.
+    // The first rows with the count beside each, in one question: a small
+    // set comes whole. The count is a subquery run once, so a large set is
+    // counted without being sorted or sent.
     if (p.withIdentity && !shape.hasLimit)
         p.probeSql = jet::withColumns(orderedSql, ordered,
-                                      std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn +
-                                          ", COUNT(*) OVER () AS qv_total") +
+                                      std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn + ", (" +
+                                          p.countSql + ") AS qv_total") +
                      " LIMIT " + std::to_string(kProbeRows);
     if (shape.isSelect) plans_.emplace(jetSource, p);
     return p;

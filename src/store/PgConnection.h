@@ -35,7 +35,8 @@ public:
     void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
               std::string_view context) override;
     int64_t count(const QueryPlan& plan, std::string_view context) override;
-    // A set of up to kProbeRows rows comes whole with its count: one round trip.
+    // The first rows and the count in one round trip: a set of up to
+    // kProbeRows rows (a list's size) comes whole; a larger one is counted only.
     int64_t countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
                         std::string_view context, bool& read) override;
     void removeRow(const std::string& table, int64_t id, std::string_view context) override;

@@ -87,6 +87,7 @@ struct Recordset::Impl {
     bool batch = true;     // writes wait for UpdateBatch
 
     bool loaded = false;
+    int64_t counted = -1;  // the count of a set not read yet, once asked
     RowStore store;
     std::vector<Row> rows;
     size_t pos = 0;
@@ -109,6 +110,7 @@ struct Recordset::Impl {
 
     void reset() {
         loaded = false;
+        counted = -1;
         store.clear();
         rows.clear();
         pos = 0;
@@ -409,16 +411,18 @@ int32_t Recordset::State() const {
 
 int32_t Recordset::RecordCount() {
     d_->requireOpen();
-    if (!d_->loaded) {
+    if (!d_->loaded && d_->counted < 0) {
         bool read = false;
         d_->reset();
         const int64_t n =
             d_->conn->countOrRead(d_->plan, d_->store, d_->rowSink(), d_->context("counting the rows of"), read);
         if (read) d_->loaded_();
-        if (!read && n >= 0)
-            return n > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
-                                                           : static_cast<int32_t>(n);
+        if (!read) d_->counted = n;
     }
+    // Asked again before the rows are read, the set answers without asking the store.
+    if (!d_->loaded && d_->counted >= 0)
+        return d_->counted > std::numeric_limits<int32_t>::max() ? std::numeric_limits<int32_t>::max()
+                                                                 : static_cast<int32_t>(d_->counted);
     d_->ensureLoaded();
     return static_cast<int32_t>(d_->visible);
 }

@@ -1,8 +1,9 @@
 #pragma once
 // A client-side result set over the SQLite store, offering what the old data
 // layer offered. Rows are read on first use (RecordCount alone counts
-// without loading them); changes are written back by the row's own identity
-// (rowid) and only for the fields that were assigned.
+// without loading them, and asks the store once until they are read);
+// changes are written back by the row's own identity (rowid) and only for
+// the fields that were assigned.
 
 #include <cstdint>
 #include <memory>

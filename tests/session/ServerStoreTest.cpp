@@ -91,6 +91,34 @@ TEST_F(ServerStoreTest, NamesCompareAndSortWithoutRegardToCaseKeysExactly) {
     EXPECT_EQ(order, "Bank call email ");
 }
 
+TEST_F(ServerStoreTest, ALargeSetIsCountedWithoutReadingASmallOneComesWhole) {
+    exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) SELECT 'k' || lpad(i::text, 5, '0'), "
+         "'Bulk', 'Keyword ' || i FROM generate_series(1, 2500) AS i");
+    auto large = open("SELECT keyGUIDID from KEYWORDS WHERE keySubject = 'Bulk' ORDER BY keyGUIDID");
+    EXPECT_EQ(large->RecordCount(), 2500);
+    // Counting read none of the rows: one added now is there when the set is walked.
+    exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('k99999', 'Bulk', 'Last')");
+    // Asked again before reading, the set keeps its count.
+    EXPECT_EQ(large->RecordCount(), 2500);
+    int walked = 0;
+    std::string last;
+    for (; !large->EOF_(); large->MoveNext(), ++walked) last = large->Fields("keyGUIDID").value().toText();
+    EXPECT_EQ(walked, 2501);
+    EXPECT_EQ(last, "k99999");
+    EXPECT_EQ(large->RecordCount(), 2501);
+
+    // A set the size of a list comes whole with its count, in order.
+    auto small = open("SELECT keyGUIDID from KEYWORDS WHERE keyGUIDID < 'k00004' ORDER BY keyGUIDID DESC");
+    EXPECT_EQ(small->RecordCount(), 3);
+    exec("DELETE FROM KEYWORDS WHERE keyGUIDID = 'k00002'");
+    EXPECT_EQ(small->Fields("keyGUIDID").value().toText(), "k00003");
+    small->MoveNext();
+    EXPECT_EQ(small->Fields("keyGUIDID").value().toText(), "k00002");
+    small->Requery();
+    EXPECT_EQ(small->RecordCount(), 2);
+    EXPECT_EQ(open("SELECT keyGUIDID from KEYWORDS WHERE keyGUIDID = 'none'")->RecordCount(), 0);
+}
+
 TEST_F(ServerStoreTest, AWriteBackTouchesOnlyTheAssignedFieldsOfItsRow) {
     addTask(kTask, "Mine");
     addTask("BBBBBBBB-1111-2222-3333-444444444444", "Other");
