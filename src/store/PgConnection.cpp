@@ -226,17 +226,67 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
     throw Failure(err::StoreFailure, engine + " (" + std::string(context) + ")", "Store");
 }
 
+// BEGIN costs no round trip of its own: it goes with the first statement
+// of the transaction, and a transaction that ran none sends nothing.
 void PgConnection::exec(const std::string& sql, std::string_view context) {
-    Result r(PQexec(conn_, sql.c_str()));
+    if (sql == beginText() && !inTransaction()) {
+        beginPending_ = true;
+        return;
+    }
+    if (beginPending_ && sql == "COMMIT") {
+        beginPending_ = false;
+        return;
+    }
+    Result r(PQexec(conn_, withPendingBegin(sql).c_str()));
     const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
 }
 
 void PgConnection::execQuiet(const std::string& sql) noexcept {
-    PQclear(PQexec(conn_, sql.c_str()));
+    if (beginPending_ && (sql == "ROLLBACK" || sql == "COMMIT")) {
+        beginPending_ = false;
+        return;
+    }
+    PQclear(PQexec(conn_, withPendingBegin(sql).c_str()));
+}
+
+std::string PgConnection::withPendingBegin(const std::string& sql) {
+    if (!beginPending_) return sql;
+    beginPending_ = false;
+    return "BEGIN; " + sql;
+}
+
+// BEGIN and a prepared statement in one pipeline: the first failure, else
+// the statement's result.
+PgConnection::Result PgConnection::runAfterBegin(const std::string& name, int count, const char* const* values) {
+    beginPending_ = false;
+    if (!PQenterPipelineMode(conn_)) return nullptr;
+    const bool sent = PQsendQueryParams(conn_, "BEGIN", 0, nullptr, nullptr, nullptr, nullptr, 0) &&
+                      PQsendQueryPrepared(conn_, name.c_str(), count, values, nullptr, nullptr, 0) &&
+                      PQpipelineSync(conn_);
+    Result out;
+    bool failed = false;
+    // Each query's result is followed by a null; the sync ends the pipeline.
+    for (int nulls = 0; sent && nulls < 3;) {
+        Result r(PQgetResult(conn_));
+        if (!r) {
+            if (PQstatus(conn_) != CONNECTION_OK) break;
+            ++nulls;
+            continue;
+        }
+        nulls = 0;
+        const auto status = PQresultStatus(r.get());
+        if (status == PGRES_PIPELINE_SYNC) break;
+        if (failed || status == PGRES_PIPELINE_ABORTED) continue;
+        failed = status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK;
+        out = std::move(r);
+    }
+    if (!PQexitPipelineMode(conn_) || !sent) return nullptr;
+    return out;
 }
 
 bool PgConnection::inTransaction() const {
+    if (beginPending_) return true;
     const auto s = PQtransactionStatus(conn_);
     return s == PQTRANS_INTRANS || s == PQTRANS_INERROR || s == PQTRANS_ACTIVE;
 }
@@ -256,8 +306,9 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
     std::vector<const char*> values(params.size(), nullptr);
     for (size_t i = 0; i < params.size(); ++i)
         if (paramText(params[i], texts[i])) values[i] = texts[i].c_str();
-    Result r(PQexecPrepared(conn_, name.c_str(), static_cast<int>(params.size()), values.data(), nullptr,
-                            nullptr, 0));
+    const int count = static_cast<int>(params.size());
+    Result r = beginPending_ ? runAfterBegin(name, count, values.data())
+                             : Result(PQexecPrepared(conn_, name.c_str(), count, values.data(), nullptr, nullptr, 0));
     const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
     return r;
@@ -364,7 +415,7 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
     // The first rows with the count beside each, in one question: a small
     // set comes whole. The count is a subquery run once, so a large set is
-    // counted without being sorted or sent.
+    // counted without being sorted whole or sent whole.
     if (p.withIdentity && !shape.hasLimit)
         p.probeSql = jet::withColumns(orderedSql, ordered,
                                       std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn + ", (" +
@@ -377,7 +428,7 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
 void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
                         std::string_view context) {
     Result r =
-        plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, plan.selectSql.c_str()));
+        plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
     if (!plan.isSelect) {
         const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);

@@ -79,6 +79,9 @@ private:
     // The name of the prepared statement of a text, prepared on first use.
     const std::string& prepared(const std::string& sql, std::string_view context);
     Result run(const std::string& sql, const std::vector<Value>& params, std::string_view context);
+    // A transaction's BEGIN waits for its first statement and goes with it.
+    [[nodiscard]] std::string withPendingBegin(const std::string& sql);
+    Result runAfterBegin(const std::string& name, int count, const char* const* values);
     QueryPlan describe(const std::string& sql, bool withIdentity, std::string_view context);
     const TableColumns& tableColumns(Oid table, std::string_view context);
     [[noreturn]] void fail(const PGresult* result, std::string_view context);
@@ -88,6 +91,7 @@ private:
     std::string uri_;
     std::string name_;
     PGconn* conn_ = nullptr;
+    bool beginPending_ = false;
     std::unordered_map<std::string, std::string> statements_;
     std::unordered_map<std::string, QueryPlan> plans_;
     std::map<Oid, TableColumns> tables_;

@@ -172,6 +172,23 @@ TEST_F(ServerStoreTest, ASaveIsWholeOrAbsentAndNests) {
         save.commit();
     }
     EXPECT_EQ(readOne("SELECT COUNT(*) FROM TASKS"), "2");
+    // BEGIN waits for the save's first statement; a save that wrote nothing
+    // leaves no transaction behind, and the next one is whole again.
+    auto conn = PgConnection::forUri(g().DBLocation);
+    {
+        SaveTransaction empty;
+        EXPECT_TRUE(conn->inTransaction());
+        empty.commit();
+    }
+    EXPECT_FALSE(conn->inTransaction());
+    EXPECT_EQ(PQtransactionStatus(conn->handle()), PQTRANS_IDLE);
+    {
+        SaveTransaction save;
+        addTask("EEEEEEEE-1111-2222-3333-444444444444", "Undone");
+        EXPECT_EQ(PQtransactionStatus(conn->handle()), PQTRANS_INTRANS);
+    }
+    EXPECT_FALSE(conn->inTransaction());
+    EXPECT_EQ(readOne("SELECT COUNT(*) FROM TASKS"), "2");
 }
 
 TEST_F(ServerStoreTest, InstallingAgainDropsNothing) {
