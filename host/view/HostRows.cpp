@@ -69,7 +69,8 @@ std::vector<HostRows::Row> HostRows::select(const std::string& sql, const std::v
     return server_->textRows(numbered(sql), params, server_->where("reading the host's list"));
 }
 
-std::vector<HostRows::Row> HostRows::selectFile(const std::string& sql, const std::vector<std::string>& params) {
+std::vector<HostRows::Row> HostRows::selectFile(const std::string& sql,
+                                                const std::vector<std::string>& params) {
     Stmt s = prepare(db_, sql, params);
     const int columns = sqlite3_column_count(s.get());
     std::vector<Row> rows;
@@ -92,7 +93,8 @@ void HostRows::runTogether(const std::vector<std::string>& texts, const std::str
     if (!server_) return runTogetherOnFile(texts, param);
     // A save of the component's kind: a savepoint when one is open on the connection.
     SaveTransaction save(server_);
-    for (const auto& sql : texts) (void)server_->textRows(numbered(sql), {param}, server_->where("removing a task"));
+    for (const auto& sql : texts)
+        (void)server_->textRows(numbered(sql), {param}, server_->where("removing a task"));
     save.commit();
 }
 

@@ -26,7 +26,8 @@ public:
     HostRows(const HostRows&) = delete;
     HostRows& operator=(const HostRows&) = delete;
 
-    [[nodiscard]] std::vector<Row> select(const std::string& sql, const std::vector<std::string>& params = {});
+    [[nodiscard]] std::vector<Row> select(const std::string& sql,
+                                          const std::vector<std::string>& params = {});
     // Runs every text with the one parameter: all of them or none.
     void runTogether(const std::vector<std::string>& texts, const std::string& param);
 

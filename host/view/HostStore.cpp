@@ -9,7 +9,9 @@ namespace qv {
 
 namespace {
 
-std::string text(const HostRows::Row& row, std::size_t col) { return row[col].value_or(std::string()); }
+std::string text(const HostRows::Row& row, std::size_t col) {
+    return row[col].value_or(std::string());
+}
 
 int32_t number(const HostRows::Row& row, std::size_t col, int32_t null = 0) {
     return row[col] ? static_cast<int32_t>(std::atol(row[col]->c_str())) : null;
@@ -25,7 +27,9 @@ std::vector<NamedRow> named(const std::string& location, const std::string& sql)
 
 HostStore::HostStore(std::string folder) : folder_(std::move(folder)) {}
 
-std::string HostStore::location() const { return storeLocationOf(folder_); }
+std::string HostStore::location() const {
+    return storeLocationOf(folder_);
+}
 
 std::vector<TaskRow> HostStore::tasks(bool currentOnly, const std::string& projectKey) const {
     std::string sql =
@@ -40,8 +44,9 @@ std::vector<TaskRow> HostStore::tasks(bool currentOnly, const std::string& proje
     sql += currentOnly ? " ORDER BY tskCustSortCUR" : " ORDER BY tskCustSortQV";
     std::vector<TaskRow> rows;
     for (const auto& r : HostRows(location()).select(sql, params))
-        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4, -1), text(r, 5), number(r, 6),
-                        number(r, 7), number(r, 8), number(r, 9) != 0, number(r, 10), number(r, 11)});
+        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4, -1), text(r, 5),
+                        number(r, 6), number(r, 7), number(r, 8), number(r, 9) != 0, number(r, 10),
+                        number(r, 11)});
     return rows;
 }
 
@@ -64,10 +69,11 @@ std::vector<std::string> HostStore::statusList() const {
 
 std::vector<AppointmentRow> HostStore::appointments(const std::string& taskKey) const {
     std::vector<AppointmentRow> rows;
-    for (const auto& r : HostRows(location())
-                             .select("SELECT taGUIDID, taStartTime, taEndTime, taTaskDesc, taWasWorked FROM TASKAPPTS "
-                                     "WHERE taTaskGUIDID=? ORDER BY taStartTime",
-                                     {taskKey}))
+    for (const auto& r :
+         HostRows(location())
+             .select("SELECT taGUIDID, taStartTime, taEndTime, taTaskDesc, taWasWorked FROM TASKAPPTS "
+                     "WHERE taTaskGUIDID=? ORDER BY taStartTime",
+                     {taskKey}))
         rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4) != 0});
     return rows;
 }

@@ -258,7 +258,8 @@ std::string PgConnection::withPendingBegin(const std::string& sql) {
 
 // BEGIN and a prepared statement in one pipeline: the first failure, else
 // the statement's result.
-PgConnection::Result PgConnection::runAfterBegin(const std::string& name, int count, const char* const* values) {
+PgConnection::Result PgConnection::runAfterBegin(const std::string& name, int count,
+                                                 const char* const* values) {
     beginPending_ = false;
     if (!PQenterPipelineMode(conn_)) return nullptr;
     const bool sent = PQsendQueryParams(conn_, "BEGIN", 0, nullptr, nullptr, nullptr, nullptr, 0) &&
@@ -307,8 +308,9 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
     for (size_t i = 0; i < params.size(); ++i)
         if (paramText(params[i], texts[i])) values[i] = texts[i].c_str();
     const int count = static_cast<int>(params.size());
-    Result r = beginPending_ ? runAfterBegin(name, count, values.data())
-                             : Result(PQexecPrepared(conn_, name.c_str(), count, values.data(), nullptr, nullptr, 0));
+    Result r = beginPending_
+                   ? runAfterBegin(name, count, values.data())
+                   : Result(PQexecPrepared(conn_, name.c_str(), count, values.data(), nullptr, nullptr, 0));
     const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
     if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
     return r;
@@ -427,8 +429,8 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
 
 void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
                         std::string_view context) {
-    Result r =
-        plan.isSelect ? run(plan.selectSql, {}, context) : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
+    Result r = plan.isSelect ? run(plan.selectSql, {}, context)
+                             : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
     if (!plan.isSelect) {
         const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);

@@ -20,7 +20,8 @@ constexpr const char* kProject = "11111111-2222-3333-4444-555555555555";
 
 std::vector<std::string> addTaskScript() {
     return {
-        std::string("sql \"INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject + "', 'Garden')\"",
+        std::string("sql \"INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('") + kProject +
+            "', 'Garden')\"",
         "sql \"INSERT INTO TASKSCAT (tskGUIDID, tskDesc) VALUES ('C1', 'Water the lawn')\"",
         "setup 0",
         "advance 600",
@@ -67,7 +68,8 @@ TEST(HostStoreLists, ShowTaskSavedByTheComponentAndRemoveItsRows) {
     // A date reads as the file keeps it, on either store.
     StoreFile(location).exec(
         "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taTaskDesc, taWasWorked) "
-        "VALUES ('A1', '" + key + "', '2026-03-15T09:00:00.000', '2026-03-15T10:30:00.000', 'Bulbs', 1)");
+        "VALUES ('A1', '" +
+        key + "', '2026-03-15T09:00:00.000', '2026-03-15T10:30:00.000', 'Bulbs', 1)");
     const auto appts = store.appointments(key);
     ASSERT_EQ(appts.size(), 1u);
     EXPECT_EQ(appts[0].start, "2026-03-15T09:00:00.000");

@@ -92,8 +92,9 @@ TEST_F(ServerStoreTest, NamesCompareAndSortWithoutRegardToCaseKeysExactly) {
 }
 
 TEST_F(ServerStoreTest, ALargeSetIsCountedWithoutReadingASmallOneComesWhole) {
-    exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) SELECT 'k' || lpad(i::text, 5, '0'), "
-         "'Bulk', 'Keyword ' || i FROM generate_series(1, 2500) AS i");
+    exec(
+        "INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) SELECT 'k' || lpad(i::text, 5, '0'), "
+        "'Bulk', 'Keyword ' || i FROM generate_series(1, 2500) AS i");
     auto large = open("SELECT keyGUIDID from KEYWORDS WHERE keySubject = 'Bulk' ORDER BY keyGUIDID");
     EXPECT_EQ(large->RecordCount(), 2500);
     // Counting read none of the rows: one added now is there when the set is walked.
