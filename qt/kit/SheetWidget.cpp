@@ -19,8 +19,8 @@
 
 namespace qv {
 
-SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent)
-    : QFrame(parent), sheet_(sheet), style_(style) {
+SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent, HostMaker maker)
+    : QFrame(parent), sheet_(sheet), style_(style), hostMaker_(std::move(maker)) {
     setObjectName(QString::fromStdString(sheet.name()));
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -52,12 +52,6 @@ void SheetWidget::buildTitle(QBoxLayout* outer) {
     f.setBold(true);
     title_->setFont(f);
     outer->addWidget(title_);
-}
-
-void SheetWidget::setHostMaker(HostMaker maker) {
-    hostMaker_ = std::move(maker);
-    shape_.clear();  // hosted cells must be made again
-    rebuild();
 }
 
 QWidget* SheetWidget::makeHosted(const std::string& controlName, QWidget* parent) const {

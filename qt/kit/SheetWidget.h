@@ -34,12 +34,11 @@ public:
     // Builds the widget of a control hosted inside a tool (a date box).
     using HostMaker = std::function<QWidget*(const std::string& controlName, QWidget* parent)>;
 
-    explicit SheetWidget(Sheet& sheet, Style style = Style::List, QWidget* parent = nullptr);
+    explicit SheetWidget(Sheet& sheet, Style style = Style::List, QWidget* parent = nullptr, HostMaker maker = {});
     ~SheetWidget() override;
 
     [[nodiscard]] Sheet& sheet() const { return sheet_; }
     [[nodiscard]] Style style() const { return style_; }
-    void setHostMaker(HostMaker maker);
     [[nodiscard]] QWidget* makeHosted(const std::string& controlName, QWidget* parent) const;
 
     [[nodiscard]] QSize minimumSizeHint() const override;
