@@ -8,6 +8,7 @@
 #include <QPushButton>
 
 #include "kit/FormWindow.h"
+#include "kit/SheetWidget.h"
 #include "kit/ToolCell.h"
 #include "toolkit/Form.h"
 
@@ -51,6 +52,9 @@ bool StepRunner::clickTool(const QString& form, const QString& cell) {
         a->trigger();
         return true;
     }
+    // A long sheet paints its tools as rows of a list.
+    auto* sheet = w ? w->findChild<SheetWidget*>(cell.section('.', 0, 0)) : nullptr;
+    if (sheet && sheet->activate(cell.section('.', 1).toStdString())) return true;
     qInfo("steps: %s is not there to click, or disabled", qPrintable(cell));
     return false;
 }

@@ -49,14 +49,25 @@ DateBoxView::DateBoxView(DateBox& model, QWidget* parent) : QDateEdit(parent), m
 void DateBoxView::followModel() {
     applying_ = true;
     setDisplayFormat(formatOf(model_));
-    const int firstDay = model_.firstDayOfWeek();  // 0 is Sunday
-    calendarWidget()->setFirstDayOfWeek(firstDay == 0 ? Qt::Sunday : static_cast<Qt::DayOfWeek>(firstDay));
     const QDate want = model_.hasDate() ? dateOf(model_.value()) : kEpoch;
     if (date() != want) setDate(want);
     applying_ = false;
 }
 
+// The calendar is made when the user may open it: a window of several date
+// boxes must not pay for calendars nobody looks at.
+void DateBoxView::prepareCalendar() {
+    const int firstDay = model_.firstDayOfWeek();  // 0 is Sunday
+    calendarWidget()->setFirstDayOfWeek(firstDay == 0 ? Qt::Sunday : static_cast<Qt::DayOfWeek>(firstDay));
+}
+
+void DateBoxView::keyPressEvent(QKeyEvent* e) {
+    prepareCalendar();
+    QDateEdit::keyPressEvent(e);
+}
+
 void DateBoxView::mousePressEvent(QMouseEvent* e) {
+    prepareCalendar();
     QDateEdit::mousePressEvent(e);
     // With no date the calendar opens on this month, not on the empty mark.
     if (!model_.hasDate()) {

@@ -24,9 +24,11 @@ public:
 
 protected:
     void mousePressEvent(QMouseEvent* e) override;
+    void keyPressEvent(QKeyEvent* e) override;
 
 private:
     void followModel();
+    void prepareCalendar();
     void userPicked(const QDate& d);
 
     DateBox& model_;

@@ -21,13 +21,11 @@ QWidget* PaneBuilder::missing(const std::string& name) const {
 QWidget* PaneBuilder::sheet(const std::string& name, SheetWidget::Style style) const {
     Sheet* s = form_.sheet(name);
     if (!s) return missing(name);
-    auto* w = new SheetWidget(*s, style, parent_);
     Form* form = &form_;
-    w->setHostMaker([form](const std::string& control, QWidget* parent) -> QWidget* {
+    return new SheetWidget(*s, style, parent_, [form](const std::string& control, QWidget* parent) -> QWidget* {
         DateBox* box = form->dateBox(control);
         return box ? new DateBoxView(*box, parent) : nullptr;
     });
-    return w;
 }
 
 QWidget* PaneBuilder::editor(const std::string& name) const {

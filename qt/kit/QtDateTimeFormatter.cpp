@@ -1,30 +1,30 @@
 #include "kit/QtDateTimeFormatter.h"
 
-#include <QDateTime>
+#include <cstdio>
 
 namespace qv {
 
-QDateTime QtDateTimeFormatter::toDateTime(double serial) {
+// The date alone: a local QDateTime asks the system's time zone on every
+// construction, which a schedule of thousands of rows cannot afford.
+QDate QtDateTimeFormatter::dateOf(double serial) {
     const Parts p = split(serial);
-    return {QDate(p.year, p.month, p.day), QTime(p.hour, p.minute, p.second)};
+    return {p.year, p.month, p.day};
 }
 
-bool QtDateTimeFormatter::twelveHour() const {
-    return locale_.timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive);
-}
+QtDateTimeFormatter::QtDateTimeFormatter(QLocale locale)
+    : locale_(std::move(locale)),
+      twelveHour_(locale_.timeFormat(QLocale::ShortFormat).contains(QLatin1Char('a'), Qt::CaseInsensitive)) {}
 
 std::string QtDateTimeFormatter::longDate(double serial) const {
-    return locale_.toString(toDateTime(serial).date(), QLocale::LongFormat).toStdString();
-}
-
-std::string QtDateTimeFormatter::shortTime(double serial) const {
-    // The short time is a 24-hour clock whatever the locale.
-    return toDateTime(serial).time().toString(QStringLiteral("HH:mm")).toStdString();
+    return locale_.toString(dateOf(serial), QLocale::LongFormat).toStdString();
 }
 
 std::string QtDateTimeFormatter::longTime(double serial) const {
-    if (twelveHour()) return DateTimeFormatter::longTime(serial);
-    return toDateTime(serial).time().toString(QStringLiteral("HH:mm:ss")).toStdString();
+    if (twelveHour_) return DateTimeFormatter::longTime(serial);
+    const Parts p = split(serial);
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d:%02d:%02d", p.hour, p.minute, p.second);
+    return text;
 }
 
 }  // namespace qv

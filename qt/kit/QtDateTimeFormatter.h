@@ -1,9 +1,11 @@
 #pragma once
 // The named date and time formats after the user's locale. Texts the
 // program reads back (times in tools, short dates) keep forms its own
-// reader takes; only the 12- or 24-hour clock follows the locale. The long
+// reader takes (the short time is a 24-hour clock whatever the locale);
+// only the long time's 12- or 24-hour clock follows the locale. The long
 // date, which is only read by people, is the locale's own.
 
+#include <QDate>
 #include <QLocale>
 
 #include "Export.h"
@@ -13,17 +15,15 @@ namespace qv {
 
 class QV_EXPORT QtDateTimeFormatter : public DateTimeFormatter {
 public:
-    explicit QtDateTimeFormatter(QLocale locale = QLocale::system()) : locale_(std::move(locale)) {}
+    explicit QtDateTimeFormatter(QLocale locale = QLocale::system());
 
     [[nodiscard]] std::string longDate(double serial) const override;
-    [[nodiscard]] std::string shortTime(double serial) const override;
     [[nodiscard]] std::string longTime(double serial) const override;
 
 private:
-    [[nodiscard]] static QDateTime toDateTime(double serial);
-    [[nodiscard]] bool twelveHour() const;
-
+    [[nodiscard]] static QDate dateOf(double serial);
     QLocale locale_;
+    bool twelveHour_;  // read once: the locale's time format is built anew on each ask
 };
 
 }  // namespace qv

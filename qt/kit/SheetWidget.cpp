@@ -4,20 +4,23 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QListView>
 #include <QScrollArea>
 #include <QScrollBar>
 
 #include <algorithm>
 #include <QTimer>
 
+#include "kit/SheetDelegate.h"
+#include "kit/SheetModel.h"
 #include "kit/ToolCell.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
 
 namespace qv {
 
-SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent)
-    : QFrame(parent), sheet_(sheet), style_(style) {
+SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent, HostMaker maker)
+    : QFrame(parent), sheet_(sheet), style_(style), hostMaker_(std::move(maker)) {
     setObjectName(QString::fromStdString(sheet.name()));
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -49,12 +52,6 @@ void SheetWidget::buildTitle(QBoxLayout* outer) {
     f.setBold(true);
     title_->setFont(f);
     outer->addWidget(title_);
-}
-
-void SheetWidget::setHostMaker(HostMaker maker) {
-    hostMaker_ = std::move(maker);
-    shape_.clear();  // hosted cells must be made again
-    rebuild();
 }
 
 QWidget* SheetWidget::makeHosted(const std::string& controlName, QWidget* parent) const {
@@ -119,11 +116,60 @@ void SheetWidget::rebuild() {
     // the old cells can go at once and never linger beside the new ones.
     if (scroll_) delete scroll_->takeWidget();
     else delete body_;
-    body_ = buildBody();
-    if (scroll_) scroll_->setWidget(body_);
-    else layout()->addWidget(body_);
+    body_ = nullptr;
     shape_ = shapeOfModel();
+    if (scroll_ && sheet_.tools().size() > kLongSheet) {
+        showList();
+    } else {
+        dropList();
+        body_ = buildBody();
+        if (scroll_) scroll_->setWidget(body_);
+        else layout()->addWidget(body_);
+    }
     refresh();
+}
+
+void SheetWidget::showList() {
+    scroll_->hide();
+    if (list_) {
+        model_->follow();
+        list_->show();
+        return;
+    }
+    list_ = new QListView(this);
+    list_->setObjectName(objectName() + ".list");
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->setUniformItemSizes(true);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    list_->setSelectionMode(QAbstractItemView::NoSelection);
+    list_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                           QAbstractItemView::AnyKeyPressed);
+    list_->setMouseTracking(true);
+    model_ = new SheetModel(sheet_, list_);
+    delegate_ = new SheetDelegate(*model_, *this, *list_);
+    list_->setItemDelegate(delegate_);
+    list_->setModel(model_);
+    connect(model_, &QAbstractItemModel::modelReset, this, &SheetWidget::openHostedEditors);
+    openHostedEditors();
+    static_cast<QBoxLayout*>(layout())->addWidget(list_, 1);
+}
+
+void SheetWidget::dropList() {
+    if (!list_) return;
+    if (scroll_) scroll_->show();
+    delete list_;
+    list_ = nullptr;
+    model_ = nullptr;
+    delegate_ = nullptr;
+}
+
+// A hosted control (a date box) is a widget of its own; a long list holds few.
+void SheetWidget::openHostedEditors() {
+    for (int r = 0; r < model_->rowCount(); ++r) {
+        const QModelIndex i = model_->index(r);
+        if (i.data(SheetModel::KindRole).toInt() == static_cast<int>(ToolCell::Kind::Hosted))
+            list_->openPersistentEditor(i);
+    }
 }
 
 QWidget* SheetWidget::buildBody() {
@@ -134,45 +180,21 @@ QWidget* SheetWidget::buildBody() {
     column_->setContentsMargins(2, 2, 2, 2);
     column_->setSpacing(toolbar ? 2 : 0);
     iconRow_ = nullptr;
-    built_ = 0;
-    ++generation_;
-    if (toolbar) {
-        buildCells(body, sheet_.tools().size());
-        const bool hasSpacer = std::any_of(cells_.begin(), cells_.end(),
-                                           [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; });
-        if (!hasSpacer) column_->addStretch(1);
-        return body;
-    }
-    column_->addStretch(1);
-    // A long list shows its first screen at once and grows in the idle
-    // time after: two thousand keywords must not hold up the window.
-    buildCells(body, kFirstCells);
-    if (built_ < sheet_.tools().size()) scheduleMoreCells();
+    if (!toolbar) column_->addStretch(1);
+    buildCells(body);
+    if (toolbar && std::none_of(cells_.begin(), cells_.end(),
+                                [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; }))
+        column_->addStretch(1);
     return body;
 }
 
-void SheetWidget::buildCells(QWidget* body, std::size_t count) {
+void SheetWidget::buildCells(QWidget* body) {
     const auto& tools = sheet_.tools();
-    const std::size_t end = std::min(tools.size(), built_ + count);
-    for (; built_ < end; ++built_) {
-        auto* cell = new ToolCell(*tools[built_], *this, static_cast<int>(built_) + 1, body);
+    for (std::size_t i = 0; i < tools.size(); ++i) {
+        auto* cell = new ToolCell(*tools[i], *this, static_cast<int>(i) + 1, body);
         cells_.push_back(cell);
         placeCell(column_, iconRow_, cell);
     }
-}
-
-void SheetWidget::scheduleMoreCells() {
-    QTimer::singleShot(kGrowthDelayMs, this, [this, generation = generation_] {
-        if (generation != generation_ || !body_) return;
-        buildRemainingCells(kMoreCells);
-    });
-}
-
-void SheetWidget::buildRemainingCells(std::size_t count) {
-    const std::size_t before = cells_.size();
-    buildCells(body_, count);
-    for (std::size_t i = before; i < cells_.size(); ++i) cells_[i]->refresh();
-    if (built_ < sheet_.tools().size()) scheduleMoreCells();
 }
 
 void SheetWidget::placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell) {
@@ -209,9 +231,11 @@ void SheetWidget::refresh() {
     }
     if (body_) body_->setEnabled(sheet_.enabled());
     for (ToolCell* c : cells_) c->refresh();
+    if (model_) model_->follow();
 }
 
 QSize SheetWidget::minimumSizeHint() const {
+    if (list_) return listMinimumSize();
     if (!scroll_ || !body_) return QFrame::minimumSizeHint();
     // As wide as the widest tool (the list never scrolls sideways), and
     // tall enough for the title and a few tools.
@@ -224,14 +248,38 @@ QSize SheetWidget::minimumSizeHint() const {
     return {width, titleHeight + rows + frame};
 }
 
-bool SheetWidget::complete() const { return !pending_ && built_ >= sheet_.tools().size(); }
+// As wide as the widest of the first rows: measuring every row of a long
+// list would cost what the list view saves.
+QSize SheetWidget::listMinimumSize() const {
+    int widest = 0;
+    const int sampled = std::min(model_->rowCount(), static_cast<int>(kLongSheet));
+    for (int r = 0; r < sampled; ++r) widest = std::max(widest, list_->sizeHintForIndex(model_->index(r)).width());
+    const int frame = 2 * frameWidth();
+    const int bar = list_->verticalScrollBar()->sizeHint().width();
+    const int titleWidth = title_ && !title_->isHidden() ? title_->minimumSizeHint().width() : 0;
+    const int titleHeight = title_ && !title_->isHidden() ? title_->sizeHint().height() : 0;
+    const int row = model_->rowCount() > 0 ? list_->sizeHintForRow(0) : fontMetrics().height();
+    return {std::max(widest + bar, titleWidth) + frame, titleHeight + 3 * row + frame};
+}
+
+bool SheetWidget::complete() const { return !pending_; }
 
 ToolCell* SheetWidget::cellOf(const std::string& key) {
     if (pending_ || shapeOfModel() != shape_) syncNow();
-    if (built_ < sheet_.tools().size()) buildRemainingCells(sheet_.tools().size());
     for (ToolCell* c : cells_)
         if (c->tool()->key() == key) return c;
     return nullptr;
+}
+
+bool SheetWidget::activate(const std::string& key) {
+    if (pending_ || shapeOfModel() != shape_) syncNow();
+    if (!model_) return false;
+    const QModelIndex index = model_->indexOf(key);
+    if (!index.isValid() || !(index.flags() & Qt::ItemIsEnabled)) return false;
+    list_->scrollTo(index);
+    list_->setCurrentIndex(index);
+    delegate_->activate(index);
+    return true;
 }
 
 }  // namespace qv

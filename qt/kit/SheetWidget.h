@@ -1,8 +1,9 @@
 #pragma once
 // One widget for any property sheet: it draws the sheet's tools and keeps
-// them in step with the model both ways. Model changes are gathered and
-// applied once the event loop is free, so refilling a long list costs one
-// rebuild; user actions go straight to the sheet.
+// them in step with the model both ways. A short sheet gets one cell widget
+// per tool; a long one (thousands of keywords) is a list view whose rows are
+// painted as they scroll into view. Model changes are gathered and applied
+// once the event loop is free; user actions go straight to the sheet.
 
 #include <functional>
 #include <string>
@@ -14,11 +15,15 @@
 
 class QBoxLayout;
 class QLabel;
+class QListView;
+class QModelIndex;
 class QScrollArea;
 
 namespace qv {
 
 class Sheet;
+class SheetDelegate;
+class SheetModel;
 class Tool;
 class ToolCell;
 
@@ -29,22 +34,28 @@ public:
     // Builds the widget of a control hosted inside a tool (a date box).
     using HostMaker = std::function<QWidget*(const std::string& controlName, QWidget* parent)>;
 
-    explicit SheetWidget(Sheet& sheet, Style style = Style::List, QWidget* parent = nullptr);
+    explicit SheetWidget(Sheet& sheet, Style style = Style::List, QWidget* parent = nullptr, HostMaker maker = {});
     ~SheetWidget() override;
 
     [[nodiscard]] Sheet& sheet() const { return sheet_; }
     [[nodiscard]] Style style() const { return style_; }
-    void setHostMaker(HostMaker maker);
     [[nodiscard]] QWidget* makeHosted(const std::string& controlName, QWidget* parent) const;
 
     [[nodiscard]] QSize minimumSizeHint() const override;
 
-    // Whether every tool of the sheet has its cell (a long list grows while idle).
+    // Whether the view shows the model as it is (no change waits).
     [[nodiscard]] bool complete() const;
     // Applies pending model changes now.
     void syncNow();
-    // The cell of a tool, or nullptr (tests and views).
+    // The cell of a tool, or nullptr (tests and views; a long sheet has none).
     [[nodiscard]] ToolCell* cellOf(const std::string& key);
+    // The list of a long sheet, or nullptr.
+    [[nodiscard]] QListView* listView() const { return list_; }
+    // Works a shown, enabled tool of a long sheet as Space on its row does.
+    bool activate(const std::string& key);
+
+    // Sheets longer than this are painted rows, not widgets.
+    static constexpr std::size_t kLongSheet = 40;
 
     // Runs a user action on a tool that is still in the sheet, then follows
     // whatever the model did. A stale tool is ignored.
@@ -67,15 +78,13 @@ private:
     void refresh();
     void buildTitle(QBoxLayout* outer);
     QWidget* buildBody();
-    void buildCells(QWidget* body, std::size_t count);
-    void scheduleMoreCells();
-    void buildRemainingCells(std::size_t count);
+    void buildCells(QWidget* body);
+    void showList();
+    void dropList();
+    void openHostedEditors();
+    [[nodiscard]] QSize listMinimumSize() const;
     void placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell);
     [[nodiscard]] int insertAt(QBoxLayout* column) const;
-
-    static constexpr std::size_t kFirstCells = 40;
-    static constexpr std::size_t kMoreCells = 250;
-    static constexpr int kGrowthDelayMs = 15;  // lets the window paint first
 
     Sheet& sheet_;
     Style style_;
@@ -87,8 +96,9 @@ private:
     std::vector<ToolCell*> cells_;
     QBoxLayout* column_ = nullptr;
     QBoxLayout* iconRow_ = nullptr;
-    std::size_t built_ = 0;      // tools of the sheet that have their cell
-    unsigned generation_ = 0;    // a rebuild drops the growth of the old body
+    QListView* list_ = nullptr;
+    SheetModel* model_ = nullptr;
+    SheetDelegate* delegate_ = nullptr;
     std::vector<Shape> shape_;
     bool pending_ = false;
     int forwarding_ = 0;

@@ -17,10 +17,21 @@ void Sheet::setEnabled(bool e) {
 }
 
 Tool& Sheet::add(int32_t type, const std::string& key, const std::string& caption) {
-    if (!key.empty() && find(key)) throw Failure(35602, "Key is not unique in collection");
-    tools_.push_back(std::make_unique<Tool>(this, nullptr, type, key, caption));
+    // One look-up claims the key: a sheet of thousands fills at one hash a tool.
+    Tool** slot = nullptr;
+    if (!key.empty()) {
+        auto [it, fresh] = index_.try_emplace(key, nullptr);
+        if (!fresh) throw Failure(35602, "Key is not unique in collection");
+        slot = &it->second;
+    }
+    try {
+        tools_.push_back(std::make_unique<Tool>(this, nullptr, type, key, caption));
+    } catch (...) {
+        if (slot) index_.erase(key);
+        throw;
+    }
     lastAdded_ = tools_.back().get();
-    indexAdd(*lastAdded_);
+    if (slot) *slot = lastAdded_;
     notify();
     return *lastAdded_;
 }

@@ -18,14 +18,18 @@ bool KeywordSheet::build(Sheet& sheet) {
     keywords.SetSQL(kKeywordsQuery);
     if (!keywords.GetData(rs)) return false;
     sheet.removeAll();
+    // A field reads the current row: found by name once, not once per row.
+    const Field subjectField = rs->Fields("keySubject");
+    const Field keyField = rs->Fields("keyGUIDID");
+    const Field keywordField = rs->Fields("keyKeyword");
     std::string subject;
     while (!rs->EOF_()) {
-        const std::string rowSubject = rs->Fields("keySubject").value().toText();
+        std::string rowSubject = subjectField.value().toText();
         if (rowSubject != subject) {
-            subject = rowSubject;
+            subject = std::move(rowSubject);
             sheet.add(ttHeading, subject, subject);
         }
-        sheet.add(ttCheck, rs->Fields("keyGUIDID").value().toText(), rs->Fields("keyKeyword").value().toText());
+        sheet.add(ttCheck, keyField.value().toText(), keywordField.value().toText());
         rs->MoveNext();
     }
     rs->Close();

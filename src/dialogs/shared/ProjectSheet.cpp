@@ -41,9 +41,11 @@ bool ProjectSheet::fillForSetup(Sheet& sheet) {
     auto rs = openProjects(list);
     if (!rs) return false;
     if (rs->RecordCount() > 0) resizeArrays(rs->RecordCount());
+    const Field keyField = rs->Fields("prjGUIDID");
+    const Field nameField = rs->Fields("prjProject");
     for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
-        const std::string key = rs->Fields("prjGUIDID").value().toText();
-        const std::string name = rs->Fields("prjProject").value().toText();
+        const std::string key = keyField.value().toText();
+        const std::string name = nameField.value().toText();
         // "Archived" takes a slot and retags (or disables) the tool before it.
         if (name != kArchived) sheet.add(ttOption, key, ZapAmps(name));
         Tool* last = sheet.lastAdded();
@@ -83,9 +85,11 @@ bool ProjectSheet::fillList(Tool& list, bool disableMop) {
     if (!rs) return false;
     list.clearItems();
     if (rs->RecordCount() > 0) resizeArrays(rs->RecordCount());
+    const Field keyField = rs->Fields("prjGUIDID");
+    const Field nameField = rs->Fields("prjProject");
     for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
-        const std::string key = rs->Fields("prjGUIDID").value().toText();
-        const std::string name = rs->Fields("prjProject").value().toText();
+        const std::string key = keyField.value().toText();
+        const std::string name = nameField.value().toText();
         Tool& entry = list.addItem(ttOption, "PRJ-" + key, ZapAmps(name));
         entry.setTag(key);
         if (disableMop && key == g().MOP) entry.setEnabled(false);

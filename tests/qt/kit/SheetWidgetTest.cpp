@@ -129,7 +129,7 @@ TEST_F(SheetFixture, DropDownListTakesChoiceAndTypedText) {
 }
 
 TEST_F(SheetFixture, RefillRebuildsOnceAndDropsStaleWidgets) {
-    for (int i = 0; i < 50; ++i) sheet.add(ttCheck, "K" + std::to_string(i), "Keyword " + std::to_string(i));
+    for (int i = 0; i < 30; ++i) sheet.add(ttCheck, "K" + std::to_string(i), "Keyword " + std::to_string(i));
     SheetWidget w(sheet);
     w.show();
     auto* old = control<QCheckBox>(w, "smtTest.K3");
