@@ -11,6 +11,7 @@
 #include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
+#include "script/FormChecks.h"
 #include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
 #include "store/ADOCode.h"
@@ -97,8 +98,6 @@ std::string lower(std::string s) {
     for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     return s;
 }
-
-std::string boolText(bool b) { return b ? "true" : "false"; }
 
 // A date as scripts write it: "2026-03-01", "2026-03-01 09:30[:15]", or a
 // date text of the program's own form.
@@ -267,17 +266,6 @@ Form& ScriptRunner::activeForm() const {
     throw std::runtime_error("no dialog is shown");
 }
 
-Tool& ScriptRunner::toolOf(Form& form, const std::string& target, Sheet** sheetOut) const {
-    const auto dot = target.find('.');
-    if (dot == std::string::npos) throw std::invalid_argument("a tool is named sheet.KEY: " + target);
-    Sheet* sheet = form.sheet(target.substr(0, dot));
-    if (!sheet) throw std::invalid_argument(form.name() + " has no sheet " + target.substr(0, dot));
-    Tool* tool = sheet->find(target.substr(dot + 1));
-    if (!tool) throw std::invalid_argument(sheet->name() + " has no tool " + target.substr(dot + 1));
-    if (sheetOut) *sheetOut = sheet;
-    return *tool;
-}
-
 // type TARGET TEXT: an editor, a date box (a date text) or sheet.KEY.
 void ScriptRunner::cmdType(const ScriptLine& l) {
     Form& form = activeForm();
@@ -293,7 +281,7 @@ void ScriptRunner::cmdType(const ScriptLine& l) {
         // As the user types into a tool and leaves it; a tool that refuses
         // the edit keeps its text.
         Sheet* sheet = nullptr;
-        Tool& tool = toolOf(form, target, &sheet);
+        Tool& tool = FormChecks::toolOf(form, target, &sheet);
         if (!sheet->beginEdit(tool)) {
             out_ << "note: " << target << " takes no typing\n";
             return;
@@ -305,7 +293,7 @@ void ScriptRunner::cmdType(const ScriptLine& l) {
 
 void ScriptRunner::cmdClick(const ScriptLine& l) {
     Sheet* sheet = nullptr;
-    Tool& tool = toolOf(activeForm(), l.word(1), &sheet);
+    Tool& tool = FormChecks::toolOf(activeForm(), l.word(1), &sheet);
     sheet->click(tool);
 }
 
@@ -376,21 +364,14 @@ void ScriptRunner::cmdSettingsFile(const ScriptLine& l) {
 
 void ScriptRunner::cmdExpect(const ScriptLine& l) {
     const auto what = lower(l.word(1));
+    if (FormChecks::handles(what)) return expectOnForm(l);
     if (what == "event") return expectEvent(l, true);
     if (what == "no-event") return expectEvent(l, false);
     if (what == "message") return expectMessage(l);
-    if (what == "tool") return expectTool(l);
     if (what == "row") return expectRow(l, false);
     if (what == "rows") return expectRow(l, true);
     if (what == "form") return expectForm(l);
-    if (what == "checked") return expectChecked(l);
-    if (what == "editor") return expectEditor(l);
     if (what == "no-message") return expectNoMessage(l);
-    if (what == "absent") return expectAbsent(l);
-    if (what == "caption") return expectCaption(l);
-    if (what == "date") return expectDate(l);
-    if (what == "window") return expectWindow(l);
-    if (what == "tab") return expectTab(l);
     if (what == "help") return expectHelp(l, false);
     if (what == "help-page") return expectHelp(l, true);
     if (what == "cell" || what == "gridrows") return expectGrid(l);
@@ -447,31 +428,10 @@ void ScriptRunner::expectNoMessage(const ScriptLine& l) {
     pass();
 }
 
-// expect absent SHEET.KEY: the sheet has no such tool or entry.
-void ScriptRunner::expectAbsent(const ScriptLine& l) {
-    const auto& target = l.word(2);
-    const auto dot = target.find('.');
-    if (dot == std::string::npos) throw std::invalid_argument("a tool is named sheet.KEY: " + target);
-    Sheet* sheet = activeForm().sheet(target.substr(0, dot));
-    if (!sheet) throw std::invalid_argument("no sheet " + target.substr(0, dot));
-    if (!sheet->find(target.substr(dot + 1))) return pass();
-    fail(l, target + " is there");
-}
-
-// expect caption TEXT: the caption of the dialog shown.
-void ScriptRunner::expectCaption(const ScriptLine& l) {
-    const auto& caption = activeForm().caption();
-    if (caption == l.word(2)) return pass();
-    fail(l, "the caption is \"" + caption + "\", not \"" + l.word(2) + "\"");
-}
-
-// expect date NAME TEXT: a date box's text ("" for no date).
-void ScriptRunner::expectDate(const ScriptLine& l) {
-    auto* box = activeForm().dateBox(l.word(2));
-    if (!box) throw std::invalid_argument("no date box " + l.word(2));
-    const std::string text = box->hasDate() ? box->text() : std::string();
-    if (text == l.word(3)) return pass();
-    fail(l, l.word(2) + " shows \"" + text + "\", not \"" + l.word(3) + "\"");
+void ScriptRunner::expectOnForm(const ScriptLine& l) {
+    const std::string why = FormChecks::check(activeForm(), l);
+    if (why.empty()) return pass();
+    fail(l, why);
 }
 
 // expect cell ROW COLUMN VALUE / expect gridrows N
@@ -479,72 +439,6 @@ void ScriptRunner::expectGrid(const ScriptLine& l) {
     const std::string why = GridCommands::check(activeForm(), l);
     if (why.empty()) return pass();
     fail(l, why);
-}
-
-// expect tool sheet.KEY caption|text|tag|image|enabled|visible|checked|tip|bold|forecolor VALUE
-void ScriptRunner::expectTool(const ScriptLine& l) {
-    const Tool& t = toolOf(activeForm(), l.word(2), nullptr);
-    const auto prop = lower(l.word(3));
-    std::string actual;
-    if (prop == "caption") actual = t.caption();
-    else if (prop == "text") actual = t.text();
-    else if (prop == "tag") actual = t.tag();
-    else if (prop == "image") actual = t.image();
-    else if (prop == "enabled") actual = boolText(t.enabled());
-    else if (prop == "visible") actual = boolText(t.visible());
-    else if (prop == "checked") actual = boolText(t.checked());
-    else if (prop == "tip") actual = t.tip();
-    else if (prop == "bold") actual = boolText(t.bold());
-    else if (prop == "forecolor") actual = std::to_string(t.foreColor());
-    else throw std::invalid_argument("unknown tool property " + prop);
-    if (actual == l.word(4)) return pass();
-    fail(l, l.word(2) + " " + prop + " is \"" + actual + "\", not \"" + l.word(4) + "\"");
-}
-
-// expect checked SHEET CAPTION: the caption of the first checked tool ("" if none).
-void ScriptRunner::expectChecked(const ScriptLine& l) {
-    Sheet* sheet = activeForm().sheet(l.word(2));
-    if (!sheet) throw std::invalid_argument("no sheet " + l.word(2));
-    std::string caption;
-    for (const auto& t : sheet->tools())
-        if (t->checked()) {
-            caption = t->caption();
-            break;
-        }
-    if (caption == l.word(3)) return pass();
-    fail(l, l.word(2) + " has \"" + caption + "\" checked, not \"" + l.word(3) + "\"");
-}
-
-// expect editor NAME TEXT: the plain text of an editor.
-void ScriptRunner::expectEditor(const ScriptLine& l) {
-    auto* ed = activeForm().editor(l.word(2));
-    if (!ed) throw std::invalid_argument("no editor " + l.word(2));
-    if (ed->text() == l.word(3)) return pass();
-    fail(l, l.word(2) + " holds \"" + ed->text() + "\", not \"" + l.word(3) + "\"");
-}
-
-
-// expect tab NAME INDEX: the tab shown.
-void ScriptRunner::expectTab(const ScriptLine& l) {
-    TabStrip* tabs = activeForm().tabStrip(l.word(2));
-    if (!tabs) throw std::invalid_argument("no tab strip " + l.word(2));
-    if (std::to_string(tabs->current()) == l.word(3)) return pass();
-    fail(l, l.word(2) + " shows tab " + std::to_string(tabs->current()) + ", not " + l.word(3));
-}
-
-// expect window left|top|width|height|state VALUE: the dialog's window.
-void ScriptRunner::expectWindow(const ScriptLine& l) {
-    const auto& geo = activeForm().geometry();
-    const auto prop = lower(l.word(2));
-    int32_t actual = 0;
-    if (prop == "left") actual = geo.left;
-    else if (prop == "top") actual = geo.top;
-    else if (prop == "width") actual = geo.width;
-    else if (prop == "height") actual = geo.height;
-    else if (prop == "state") actual = geo.state;
-    else throw std::invalid_argument("a window has left, top, width, height or state");
-    if (std::to_string(actual) == l.word(3)) return pass();
-    fail(l, "the window's " + prop + " is " + std::to_string(actual) + ", not " + l.word(3));
 }
 
 // expect row "SELECT ..." VALUE: the first column of the first row.

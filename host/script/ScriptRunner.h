@@ -60,19 +60,12 @@ private:
     void cmdSettingsFile(const ScriptLine& l);
     void cmdExpect(const ScriptLine& l);
 
+    void expectOnForm(const ScriptLine& l);
     void expectEvent(const ScriptLine& l, bool present);
     void expectMessage(const ScriptLine& l);
-    void expectTool(const ScriptLine& l);
     void expectRow(const ScriptLine& l, bool count);
     void expectForm(const ScriptLine& l);
-    void expectChecked(const ScriptLine& l);
-    void expectEditor(const ScriptLine& l);
-    void expectWindow(const ScriptLine& l);
-    void expectTab(const ScriptLine& l);
     void expectNoMessage(const ScriptLine& l);
-    void expectAbsent(const ScriptLine& l);
-    void expectCaption(const ScriptLine& l);
-    void expectDate(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
     void expectGrid(const ScriptLine& l);
     void expectReport(const ScriptLine& l, bool present);
@@ -81,7 +74,6 @@ private:
     void ensureStore();
     clsTask2& task();
     [[nodiscard]] Form& activeForm() const;
-    Tool& toolOf(Form& form, const std::string& target, Sheet** sheet) const;
     [[nodiscard]] std::string queryOne(const std::string& sql) const;
     [[nodiscard]] std::string storePath() const;
     [[nodiscard]] std::string reportPath(const std::string& file) const;

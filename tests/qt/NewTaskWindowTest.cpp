@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QRadioButton>
@@ -9,6 +10,8 @@
 #include <QTextEdit>
 
 #include "HostFixture.h"
+#include "kit/SheetModel.h"
+#include "kit/SheetWidget.h"
 #include "kit/ToolCell.h"
 #include "view/HostWindow.h"
 #include "view/TaskTableModel.h"
@@ -127,6 +130,37 @@ TEST_F(NewTaskWindow, KeywordAddedThroughItsWindowJoinsTheList) {
     EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString()
                                            << steps.messages().join(" | ").toStdString();
     EXPECT_EQ(count("SELECT count(*) FROM KEYWORDS WHERE keySubject='Places' AND keyKeyword='Garden'"), 1);
+}
+
+// Two hundred keywords: the sheet is painted rows; a click on one far down
+// the list is a tick that the save stores.
+TEST_F(NewTaskWindow, AKeywordTickedFarDownALongListIsSaved) {
+    exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Home')");
+    exec("WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i < 199) "
+         "INSERT INTO KEYWORDS SELECT printf('K%07d-0000-0000-0000-000000000000', i), 'Subject ' || (i / 50), "
+         "printf('Keyword %03d', i) FROM n");
+    const std::string far = "K0000187-0000-0000-0000-000000000000";
+    StepRunner steps;
+    whenOpen(steps, "tick a keyword", [&far] {
+        QTest::keyClicks(description(), "Sort the photos");
+        auto* sheet = window()->findChild<SheetWidget*>("smtKeywords");
+        ASSERT_NE(sheet, nullptr);
+        QListView* list = sheet->listView();
+        ASSERT_NE(list, nullptr);
+        EXPECT_LT(sheet->findChildren<QWidget*>().size(), 40);
+        const QModelIndex row = static_cast<SheetModel*>(list->model())->indexOf(far);
+        list->scrollTo(row);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(row).center());
+    });
+    steps.when("add", [] { return enabled(kForm, "smtActions.QV2"); },
+               [] { QTest::mouseClick(button(kForm, "smtActions.QV2"), Qt::LeftButton, {}, QPoint(8, 8)); });
+    steps.when("done", [this] { return count("SELECT count(*) FROM TASKS") == 1; },
+               [] { QTest::mouseClick(button(kForm, "smtActions.DONE"), Qt::LeftButton); }, 200);
+    openNewTask(steps);
+
+    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString()
+                                           << steps.messages().join(" | ").toStdString();
+    EXPECT_EQ(text("SELECT group_concat(ktKEYGUID) FROM TaskKeywords"), far);
 }
 
 }  // namespace
