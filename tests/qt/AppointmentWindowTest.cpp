@@ -1,15 +1,10 @@
 // The Task Appointment dialog through its real window, opened from the
 // host's list of a task's appointments.
-#include <QAbstractButton>
-#include <QApplication>
 #include <QCheckBox>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QTabBar>
 #include <QTableView>
-#include <QTest>
-#include <QTextEdit>
 
 #include "HostFixture.h"
 #include "kit/ToolCell.h"
@@ -36,28 +31,20 @@ protected:
              "', '2026-11-24T08:00:00.000', '2026-11-24T08:45:00.000', 'Sweep the yard', 1, 1, 0, 45)");
     }
     static QWidget* window() { return StepRunner::formWindow(kForm); }
-    static QAbstractButton* button(const QString& name) {
-        ToolCell* c = cell(kForm, name);
-        return c ? qobject_cast<QAbstractButton*>(c->control()) : nullptr;
-    }
+    static QAbstractButton* button(const QString& name) { return HostFixture::button(kForm, name); }
     static QLineEdit* edit(const QString& name) {
         ToolCell* c = cell(kForm, name);
         return c ? c->findChild<QLineEdit*>() : nullptr;
     }
     // Chooses the task and its appointment in the host's lists, then works it.
     void workFromHost(StepRunner& steps) {
-        steps.onFinished([] { StepRunner::closeAll(); });
-        steps.start();
         HostWindow& w = host().window();
         w.refresh();
         auto* table = w.findChild<QTableView*>("tblTasks");
         table->setCurrentIndex(table->model()->index(0, 0));
         ASSERT_EQ(w.appointments().count(), 1) << "the chosen task's appointments are listed";
         w.appointments().setCurrentRow(0);
-        w.workAppointment();
-    }
-    [[nodiscard]] QString log() const {
-        return host().window().findChild<QPlainTextEdit*>("txtLog")->toPlainText();
+        run(steps, [&w] { w.workAppointment(); });
     }
 };
 
@@ -76,7 +63,7 @@ TEST_F(AppointmentWindow, TaskIsDoneAndUpdateStoresTheSlotAndCompletesTheTask) {
     steps.when("closed", [] { return window() == nullptr; }, [] {});
     workFromHost(steps);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_EQ(text("SELECT taTimeWorked FROM TASKAPPTS"), "45");
     EXPECT_EQ(text("SELECT taWasWorked FROM TASKAPPTS"), "1");
     EXPECT_EQ(text("SELECT tskStatus FROM TASKS"), "0");
@@ -108,7 +95,7 @@ TEST_F(AppointmentWindow, TypedTimeIsJudgedWhenLeftAndTabsFollowTheModel) {
     steps.when("closed", [] { return window() == nullptr; }, [] {});
     workFromHost(steps);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     ASSERT_FALSE(steps.messages().isEmpty());
     EXPECT_EQ(steps.messages().first(), "That value was not recognized as a time period like 1:00.");
     EXPECT_EQ(text("SELECT taTimeWorked FROM TASKAPPTS"), "") << "Escape stores nothing";
@@ -125,7 +112,7 @@ TEST_F(AppointmentWindow, EditTaskOpensTheTaskAboveTheAppointment) {
     steps.when("both closed", [] { return window() == nullptr; }, [] {});
     workFromHost(steps);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_TRUE(log().contains("2 LoadingTask")) << log().toStdString();
     EXPECT_FALSE(log().contains("TASUpdated"));
 }

@@ -3,7 +3,6 @@
 // a task was deleted.
 #include <QAction>
 #include <QMessageBox>
-#include <QPlainTextEdit>
 
 #include "HostFixture.h"
 #include "view/HostWindow.h"
@@ -17,7 +16,8 @@ const char* const kKey = "T0000000-0000-0000-0000-000000000001";
 
 class ExistingTaskHost : public HostFixture {
 protected:
-    void seed() const {
+    void SetUp() override {
+        HostFixture::SetUp();
         exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('P0000000-0000-0000-0000-000000000001', 'Home')");
         exec("INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('K1', 'Where', 'Outside')");
         exec(std::string("INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, ") +
@@ -26,14 +26,13 @@ protected:
         exec(std::string("INSERT INTO TaskKeywords (ktTASKGUID, ktTask, ktKEYGUID, ktKeyword) VALUES ('") + kKey +
              "', 'Paint the fence', 'K1', 'Outside')");
         exec(std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID) VALUES ('A1', '") + kKey + "')");
+        host().window().refresh();
     }
     QAction* action(const char* name) const { return host().window().findChild<QAction*>(name); }
 };
 
 TEST_F(ExistingTaskHost, OpenTaskThenDeleteRemovesTheTaskWithItsRows) {
-    seed();
     HostWindow& w = host().window();
-    w.refresh();
     EXPECT_FALSE(action("actOpenTask")->isEnabled()) << "no task selected yet";
     w.selectTask(kKey);
     EXPECT_TRUE(action("actOpenTask")->isEnabled());
@@ -44,36 +43,28 @@ TEST_F(ExistingTaskHost, OpenTaskThenDeleteRemovesTheTaskWithItsRows) {
     steps.onMessageBox([](QMessageBox&) { return 0; });  // Yes
     steps.when("delete", [] { return StepRunner::formWindow(kForm) != nullptr; },
                [] { StepRunner::clickTool(kForm, "smtActions.DELETE"); });
-    steps.onFinished([] { StepRunner::closeAll(); });
-    steps.start();
-    w.openTask();
+    run(steps, [&w] { w.openTask(); });
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_TRUE(steps.messages().join("|").contains("Delete this task?")) << steps.messages().join("|").toStdString();
     EXPECT_EQ(count("SELECT count(*) FROM TASKS"), 0);
     EXPECT_EQ(count("SELECT count(*) FROM TaskKeywords"), 0);
     EXPECT_EQ(count("SELECT count(*) FROM TASKAPPTS"), 0);
     EXPECT_EQ(w.tasks().rowCount(), 0);
-    const QString log = w.findChild<QPlainTextEdit*>("txtLog")->toPlainText();
-    EXPECT_TRUE(log.contains("13 TaskDeleted")) << log.toStdString();
+    EXPECT_TRUE(log().contains("13 TaskDeleted")) << log().toStdString();
 }
 
 TEST_F(ExistingTaskHost, SaveToCatalogFilesTheSelectedTask) {
-    seed();
     HostWindow& w = host().window();
-    w.refresh();
     w.selectTask(kKey);
     StepRunner steps;
     steps.when("save", [] { return StepRunner::formWindow(kForm) != nullptr; },
                [] { StepRunner::clickTool(kForm, "smtActions.UPDATE"); });
-    steps.onFinished([] { StepRunner::closeAll(); });
-    steps.start();
-    w.saveToCatalog();
+    run(steps, [&w] { w.saveToCatalog(); });
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_EQ(text(std::string("SELECT tskDesc FROM TASKSCAT WHERE tskGUIDID='") + kKey + "'"), "Paint the fence");
-    const QString log = w.findChild<QPlainTextEdit*>("txtLog")->toPlainText();
-    EXPECT_TRUE(log.contains("6 doNewTaskCatItem")) << log.toStdString();
+    EXPECT_TRUE(log().contains("6 doNewTaskCatItem")) << log().toStdString();
 }
 
 }  // namespace

@@ -1,24 +1,16 @@
 // The Existing Task dialog driven through its real window, from the host:
-// the schedule grid, the stopwatch and the layout file.
-#include <filesystem>
-
-#include <QAbstractButton>
+// the schedule grid, the stopwatch, and Escape on a changed task.
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
-#include <QMouseEvent>
-#include <QSplitter>
-#include <QSplitterHandle>
 #include <QTabBar>
 #include <QTableView>
-#include <QTest>
 #include <QTextEdit>
 
 #include "HostFixture.h"
 #include "kit/GridModel.h"
 #include "kit/GridView.h"
-#include "kit/SplitterView.h"
 #include "kit/TabStripView.h"
 #include "kit/ToolCell.h"
 #include "toolkit/Grid.h"
@@ -46,10 +38,7 @@ protected:
         return grid()->model()->index(row, grid()->viewColumnOf(key));
     }
     static QString shownAt(int row, const char* key) { return at(row, key).data().toString(); }
-    static QAbstractButton* button(const QString& name) {
-        ToolCell* c = cell(kForm, name);
-        return c ? qobject_cast<QAbstractButton*>(c->control()) : nullptr;
-    }
+    static QAbstractButton* button(const QString& name) { return HostFixture::button(kForm, name); }
     static QAbstractButton* stopwatch() {
         return window()->findChild<QAbstractButton*>("smtTimes.TIMER.press");
     }
@@ -59,10 +48,6 @@ protected:
         return edit ? edit->text() : QString();
     }
     static void scheduleTab() { window()->findChild<TabStripView*>("Tabs1")->bar()->setCurrentIndex(1); }
-    static void closeAnsweringYes(StepRunner& steps) {
-        steps.then("cancel", [] { QTest::mouseClick(button("smtActions.DONE"), Qt::LeftButton); });
-        steps.when("closed", [] { return !shown(kForm); }, [] {});
-    }
 };
 
 TEST_F(ExistingTaskWindow, ScheduleAddEditButtonAndStopwatch) {
@@ -104,10 +89,11 @@ TEST_F(ExistingTaskWindow, ScheduleAddEditButtonAndStopwatch) {
     QString stoppedAt;
     steps.when("stopped", [] { return true; }, [&stoppedAt] { stoppedAt = toolText("smtTimes.TIMER"); }, 1300);
     steps.then("still stopped", [&stoppedAt] { EXPECT_EQ(toolText("smtTimes.TIMER"), stoppedAt); });
-    closeAnsweringYes(steps);
+    steps.then("cancel, answering Yes", [] { QTest::mouseClick(button("smtActions.DONE"), Qt::LeftButton); });
+    steps.when("closed", [] { return !shown(kForm); }, [] {});
     openTask(steps, kTask);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_EQ(count("SELECT count(*) FROM TASKAPPTS"), 1);
     EXPECT_EQ(text("SELECT taStartTime FROM TASKAPPTS"), startBefore) << "a start that is no date changes nothing";
     EXPECT_FALSE(shown(kForm));
@@ -126,38 +112,10 @@ TEST_F(ExistingTaskWindow, EscapeAfterAValidEditAsksFirst) {
     steps.when("closed after Yes", [] { return !shown(kForm); }, [] {});
     openTask(steps, kTask);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     ASSERT_EQ(steps.messages().size(), 2);
     EXPECT_TRUE(steps.messages()[0].contains("Discard changes made to this Task?")) << steps.messages()[0].toStdString();
     EXPECT_EQ(text("SELECT tskDesc FROM TASKS"), "Paint the fence") << "nothing saved";
-}
-
-TEST_F(ExistingTaskWindow, DragWritesQuorvelETaskAndTheNextWindowRestoresIt) {
-    const auto file = std::filesystem::path(folder()) / "QuorvelETask.slf";
-    auto middle = [] { return window()->findChild<SplitterView*>("splitTask")->splitters().at(3); };
-    QList<int> dragged;
-    StepRunner first;
-    first.when("drag", [] { return grid() != nullptr; }, [&] {
-        QSplitterHandle* handle = middle()->handle(1);
-        const QPoint from = handle->rect().center();
-        QTest::mousePress(handle, Qt::LeftButton, {}, from);
-        QMouseEvent move(QEvent::MouseMove, QPointF(from + QPoint(0, 50)), handle->mapToGlobal(QPointF(from + QPoint(0, 50))),
-                         Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(handle, &move);
-        QTest::mouseRelease(handle, Qt::LeftButton, {}, from + QPoint(0, 50));
-    }, 300);
-    first.when("written", [&] { return std::filesystem::exists(file); }, [&] { dragged = middle()->sizes(); });
-    closeAnsweringYes(first);
-    openTask(first, kTask);
-    ASSERT_TRUE(first.skipped().isEmpty()) << first.skipped().join(", ").toStdString();
-
-    QList<int> reopened;
-    StepRunner second;
-    second.when("look", [] { return grid() != nullptr; }, [&] { reopened = middle()->sizes(); }, 300);
-    closeAnsweringYes(second);
-    openTask(second, kTask);
-    EXPECT_TRUE(second.skipped().isEmpty()) << second.skipped().join(", ").toStdString();
-    EXPECT_EQ(reopened, dragged);
 }
 
 }  // namespace

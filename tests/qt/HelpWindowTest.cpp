@@ -1,13 +1,11 @@
 // The help pop-up through its real window: opened by the dialogs' help
 // tools and the host's commands, following links and going back, printing
 // to a PDF where no printer is installed, and the tour's start-up tool.
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QFile>
 #include <QMessageBox>
 #include <QPrinterInfo>
-#include <QTest>
 #include <QTextBrowser>
 
 #include "HostFixture.h"
@@ -34,49 +32,35 @@ protected:
         return window() ? window()->findChild<QTextBrowser*>("browsePWindow") : nullptr;
     }
     static QString page() { return pane() ? pane()->toPlainText() : QString(); }
-    static QAbstractButton* button(const QString& form, const QString& name) {
-        ToolCell* c = cell(form, name);
-        return c ? qobject_cast<QAbstractButton*>(c->control()) : nullptr;
-    }
-    // Runs the steps while the host opens a help topic; returns when it closed.
+    static void close() { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); }
     void openHelp(StepRunner& steps, int32_t topic) {
-        steps.onFinished([] { StepRunner::closeAll(); });
-        steps.start();
-        host().window().openHelp(topic);
+        run(steps, [this, topic] { host().window().openHelp(topic); });
     }
 };
 
 TEST_F(HelpWindow, TheNewTaskHelpToolOpensItsPageAndBackReturnsFromALink) {
     StepRunner steps;
     QStringList seen;
-    steps.when(
-        "help tool", [] { return StepRunner::formWindow("frmTask3") != nullptr; },
-        [] { StepRunner::clickTool("frmTask3", "smtActions.HELP"); }, kStartTimerSettleMs);
-    steps.when(
-        "page", [] { return page().contains("The New Task window opens"); },
-        [&seen] {
-            seen << window()->windowTitle();
-            // Reading starts in the page.
-            seen << (QApplication::focusWidget() == pane() ? "focus in page" : "focus elsewhere");
-            emit pane()->anchorClicked(QUrl("POP-ADDPROJECT.htm"));
-        });
-    steps.when(
-        "link followed", [] { return page().contains("Projects group tasks"); },
-        [] { QTest::keyClick(pane(), Qt::Key_Left, Qt::AltModifier); });
-    steps.when(
-        "back", [] { return page().contains("The New Task window opens"); },
-        [this, &seen] {
-            // The model went back, not the pane alone.
-            const std::string at = host().help().shown()->browsePWindow.LocationURL();
-            seen << QString::fromStdString(at.substr(at.find_last_of('/') + 1));
-            QTest::keyClick(window(), Qt::Key_Escape);
-        });
-    steps.when(
-        "help closed", [] { return window() == nullptr; },
-        [] { StepRunner::clickTool("frmTask3", "smtActions.DONE"); });
+    steps.when("help tool", [] { return shown("frmTask3"); },
+               [] { StepRunner::clickTool("frmTask3", "smtActions.HELP"); }, kStartTimerSettleMs);
+    steps.when("page", [] { return page().contains("The New Task window opens"); }, [&seen] {
+        seen << window()->windowTitle();
+        seen << (QApplication::focusWidget() == pane() ? "focus in page" : "focus elsewhere");
+        emit pane()->anchorClicked(QUrl("POP-ADDPROJECT.htm"));
+    });
+    steps.when("link followed", [] { return page().contains("Projects group tasks"); },
+               [] { QTest::keyClick(pane(), Qt::Key_Left, Qt::AltModifier); });
+    steps.when("back", [] { return page().contains("The New Task window opens"); }, [this, &seen] {
+        // The model went back, not the pane alone.
+        const std::string at = host().help().shown()->browsePWindow.LocationURL();
+        seen << QString::fromStdString(at.substr(at.find_last_of('/') + 1));
+        QTest::keyClick(window(), Qt::Key_Escape);
+    });
+    steps.when("help closed", [] { return window() == nullptr; },
+               [] { StepRunner::clickTool("frmTask3", "smtActions.DONE"); });
     openNewTask(steps);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_EQ(seen, (QStringList{"Quorvel: Creating New Tasks", "focus in page", "POP-TASKDIALOG.htm"}));
     // The one question is the New Task's own, on leaving it.
     EXPECT_EQ(steps.messages(), QStringList{"Cancel creating the current task?"});
@@ -85,15 +69,12 @@ TEST_F(HelpWindow, TheNewTaskHelpToolOpensItsPageAndBackReturnsFromALink) {
 TEST_F(HelpWindow, AnUnknownTopicShowsAnEmptyPaneWithoutAMessage) {
     StepRunner steps;
     bool empty = false;
-    steps.when(
-        "shown", [] { return pane() != nullptr; },
-        [&empty] {
-            empty = pane()->toPlainText().isEmpty();
-            StepRunner::clickTool(kHelp, "smtAction.CLOSE");
-        },
-        200);
+    steps.when("shown", [] { return pane() != nullptr; }, [&empty] {
+        empty = pane()->toPlainText().isEmpty();
+        close();
+    }, 200);
     openHelp(steps, 4242);
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_TRUE(empty);
     EXPECT_TRUE(steps.messages().isEmpty());
     EXPECT_FALSE(window());
@@ -104,15 +85,12 @@ TEST_F(HelpWindow, PrintingAPageWithoutAPrinterMakesAPdf) {
         GTEST_SKIP() << "a printer is installed: nothing is printed in tests";
     const QString pdf = QString::fromStdString(folder()) + "/help/helpindex.pdf";
     StepRunner steps;
-    steps.when(
-        "print", [] { return page().contains("Help Index"); },
-        [] { QTest::keyClick(pane(), Qt::Key_P, Qt::ControlModifier); });
-    steps.when(
-        "printed", [&pdf] { return QFile::exists(pdf); },
-        [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
+    steps.when("print", [] { return page().contains("Help Index"); },
+               [] { QTest::keyClick(pane(), Qt::Key_P, Qt::ControlModifier); });
+    steps.when("printed", [&pdf] { return QFile::exists(pdf); }, close);
     openHelp(steps, 5000);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     ASSERT_EQ(steps.messages().size(), 2) << steps.messages().join(" | ").toStdString();
     EXPECT_EQ(steps.messages()[0], "Print this help topic? It may take a moment or two to prepare.");
     EXPECT_TRUE(steps.messages()[1].contains(pdf)) << steps.messages()[1].toStdString();
@@ -126,29 +104,19 @@ TEST_F(HelpWindow, ThePreviewOpensAndNoWritesNothing) {
     int boxes = 0;
     steps.onMessageBox([&boxes](QMessageBox&) { return ++boxes == 1 ? QMessageBox::No : QMessageBox::Yes; });
     bool previewed = false;
-    steps.when(
-        "no", [] { return page().contains("Adding a Project"); },
-        [] { StepRunner::clickTool(kHelp, "smtAction.PRINT"); });
-    steps.when(
-        "preview", [&boxes] { return boxes == 1 && QApplication::activeModalWidget() == window(); },
-        [] { StepRunner::clickTool(kHelp, "smtAction.PRINTPREVIEW"); }, 100);
-    steps.when(
-        "preview shown",
-        [] {
-            auto* w = QApplication::activeModalWidget();
-            return w && w->objectName() == "printPreview";
-        },
-        [&previewed] {
-            previewed = true;
-            QApplication::activeModalWidget()->close();
-        },
-        300);
-    steps.when(
-        "close", [] { return QApplication::activeModalWidget() == window(); },
-        [] { StepRunner::clickTool(kHelp, "smtAction.CLOSE"); });
+    const auto modal = [] { return QApplication::activeModalWidget(); };
+    steps.when("no", [] { return page().contains("Adding a Project"); },
+               [] { StepRunner::clickTool(kHelp, "smtAction.PRINT"); });
+    steps.when("preview", [&] { return boxes == 1 && modal() == window(); },
+               [] { StepRunner::clickTool(kHelp, "smtAction.PRINTPREVIEW"); }, 100);
+    steps.when("preview shown", [&] { return modal() && modal()->objectName() == "printPreview"; }, [&] {
+        previewed = true;
+        modal()->close();
+    }, 300);
+    steps.when("close", [&] { return modal() == window(); }, close);
     openHelp(steps, 800);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_TRUE(previewed);
     EXPECT_EQ(boxes, 2);
     EXPECT_FALSE(QFile::exists(QString::fromStdString(folder()) + "/help/POP-ADDPROJECT.pdf"));
@@ -157,21 +125,18 @@ TEST_F(HelpWindow, ThePreviewOpensAndNoWritesNothing) {
 TEST_F(HelpWindow, TheToursToolIsKeptInTheHostsSettings) {
     EXPECT_TRUE(host().tour().showTourAtStart());
     bool toolShown = false;
-    {
-        StepRunner steps;
-        steps.when(
-            "tour", [] { return page().contains("short tour"); },
-            [&toolShown] {
-                ToolCell* c = cell(kHelp, "smtAction.NOSHOW");
-                auto* box = c ? c->findChild<QCheckBox*>() : nullptr;
-                if (!box) box = c ? qobject_cast<QCheckBox*>(c->control()) : nullptr;
-                toolShown = box && box->isVisible() && box->isChecked();
-                if (box) box->click();
-                StepRunner::clickTool(kHelp, "smtAction.CLOSE");
-            },
-            200);
-        openHelp(steps, 7000);
-        EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    {  // this runner is gone before the next one starts
+        StepRunner tour;
+        tour.when("tour", [] { return page().contains("short tour"); }, [&toolShown] {
+            ToolCell* c = cell(kHelp, "smtAction.NOSHOW");
+            auto* box = c ? c->findChild<QCheckBox*>() : nullptr;
+            if (!box) box = c ? qobject_cast<QCheckBox*>(c->control()) : nullptr;
+            toolShown = box && box->isVisible() && box->isChecked();
+            if (box) box->click();
+            close();
+        }, 200);
+        openHelp(tour, 7000);
+        EXPECT_TRUE(ranAll(tour));
     }
     EXPECT_TRUE(toolShown);
     EXPECT_FALSE(HostTour(folder()).showTourAtStart());
@@ -179,15 +144,13 @@ TEST_F(HelpWindow, TheToursToolIsKeptInTheHostsSettings) {
     // Any other topic keeps the tool out of sight.
     StepRunner other;
     bool hidden = false;
-    other.when(
-        "index", [] { return page().contains("Help Index"); },
-        [&hidden] {
-            ToolCell* c = cell(kHelp, "smtAction.NOSHOW");
-            hidden = !c || !c->isVisible();
-            StepRunner::clickTool(kHelp, "smtAction.CLOSE");
-        },
-        200);
+    other.when("index", [] { return page().contains("Help Index"); }, [&hidden] {
+        ToolCell* c = cell(kHelp, "smtAction.NOSHOW");
+        hidden = !c || !c->isVisible();
+        close();
+    }, 200);
     openHelp(other, 5000);
+    EXPECT_TRUE(ranAll(other));
     EXPECT_TRUE(hidden);
 }
 

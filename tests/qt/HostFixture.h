@@ -2,15 +2,19 @@
 // A fresh application folder with a fresh store, and the desktop host on
 // it: the real Qt Ui, views and main window, under the offscreen platform.
 
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <functional>
 #include <memory>
 #include <string>
 
-#include <gtest/gtest.h>
-
-#include <QTemporaryDir>
-
 #include "view/HostApp.h"
 #include "view/StepRunner.h"
+
+class QSplitterHandle;
 
 namespace qv {
 
@@ -26,14 +30,23 @@ protected:
     void exec(const std::string& sql) const;
     [[nodiscard]] long long count(const std::string& sql) const;
     [[nodiscard]] std::string text(const std::string& sql) const;
+    // The host's event log.
+    [[nodiscard]] QString log() const;
 
-    // Runs the steps while the host opens a New Task; returns when it closed.
+    // Runs the steps while open() shows a dialog; returns when it closed.
+    static void run(StepRunner& steps, const std::function<void()>& open);
+    // The same for a New Task, and for a stored task in the Existing Task dialog.
     void openNewTask(StepRunner& steps);
-    // The same for a stored task in the Existing Task dialog.
     void openTask(StepRunner& steps, const std::string& key);
-    // The cell of a tool in a form's window.
+    // Every step ran; the messages seen are told when one did not.
+    [[nodiscard]] static ::testing::AssertionResult ranAll(const StepRunner& steps);
+
+    // The cell of a tool in a form's window, and the button of a button tool.
     [[nodiscard]] static ToolCell* cell(const QString& form, const QString& name);
+    [[nodiscard]] static QAbstractButton* button(const QString& form, const QString& name);
     [[nodiscard]] static bool shown(const QString& form) { return StepRunner::formWindow(form) != nullptr; }
+    // Drags a splitter's handle by dy pixels, as a mouse would.
+    static void drag(QSplitterHandle* handle, int dy);
 
     static constexpr int kStartTimerSettleMs = 700;
 

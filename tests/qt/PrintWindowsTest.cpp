@@ -6,15 +6,12 @@
 #include <QComboBox>
 #include <QFile>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 
 #include "HostFixture.h"
 #include "kit/ToolCell.h"
 #include "print/QtPrintSurface.h"
-#include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
-#include "session/globals/SessionGlobals.h"
 #include "values/CStringBag.h"
 #include "view/HostSession.h"
 
@@ -38,41 +35,30 @@ protected:
 };
 
 TEST_F(PrintWindows, PageSetupPreviewAndPrintFromTheNewTaskWindow) {
-    exec(
-        "INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', "
-        "'Home')");
+    exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Home')");
     StepRunner steps;
-    steps.when(
-        "page setup", [] { return StepRunner::formWindow(kForm) != nullptr; }, [] { choose("PAGESETUP"); },
-        kStartTimerSettleMs);
-    steps.when(
-        "heading", [] { return StepRunner::formWindow("frmPageSetup") != nullptr; },
-        [] {
-            QWidget* w = StepRunner::formWindow("frmPageSetup");
-            EXPECT_NE(w->findChild<QPushButton*>("HCOLOR.choose"), nullptr);
-            EXPECT_TRUE(w->windowTitle().endsWith("Page Setup"));
-            auto* heading = w->findChild<ToolCell*>("smtPrinting(1).HEADING");
-            ASSERT_NE(heading, nullptr);
-            StepRunner::typeInto(heading->findChild<QLineEdit*>(), " for Home");
-            // The printer list offers the no-printer pick where none is installed.
-            auto* printer = w->findChild<ToolCell*>("smtPrinting(0).PRINTER");
-            ASSERT_NE(printer, nullptr);
-            EXPECT_GE(printer->findChild<QComboBox*>()->count(), 1);
-            StepRunner::clickTool("frmPageSetup", "smtActions.OK");
-        });
-    steps.when(
-        "preview", [] { return !StepRunner::formWindow("frmPageSetup"); }, [] { choose("PRINTPREVIEW"); });
-    steps.when(
-        "preview shown", [] { return preview() != nullptr; }, [] { preview()->close(); }, 300);
-    steps.when(
-        "print", [] { return !preview(); }, [] { choose("PRINT"); });
+    steps.when("page setup", [] { return shown(kForm); }, [] { choose("PAGESETUP"); }, kStartTimerSettleMs);
+    steps.when("heading", [] { return shown("frmPageSetup"); }, [] {
+        QWidget* w = StepRunner::formWindow("frmPageSetup");
+        EXPECT_NE(w->findChild<QPushButton*>("HCOLOR.choose"), nullptr);
+        EXPECT_TRUE(w->windowTitle().endsWith("Page Setup"));
+        auto* heading = w->findChild<ToolCell*>("smtPrinting(1).HEADING");
+        ASSERT_NE(heading, nullptr);
+        StepRunner::typeInto(heading->findChild<QLineEdit*>(), " for Home");
+        // The printer list offers the no-printer pick where none is installed.
+        auto* printer = w->findChild<ToolCell*>("smtPrinting(0).PRINTER");
+        ASSERT_NE(printer, nullptr);
+        EXPECT_GE(printer->findChild<QComboBox*>()->count(), 1);
+        StepRunner::clickTool("frmPageSetup", "smtActions.OK");
+    });
+    steps.when("preview", [] { return !shown("frmPageSetup"); }, [] { choose("PRINTPREVIEW"); });
+    steps.when("preview shown", [] { return preview() != nullptr; }, [] { preview()->close(); }, 300);
+    steps.when("print", [] { return !preview(); }, [] { choose("PRINT"); });
     const QString pdf = QString::fromStdString(folder()) + "/Quorvel Reports/NewTask.pdf";
-    steps.when(
-        "printed", [pdf] { return QFile::exists(pdf) || !StepRunner::formWindow(kForm); },
-        [] { StepRunner::closeAll(); }, 200);
+    steps.when("printed", [pdf] { return QFile::exists(pdf) || !shown(kForm); }, StepRunner::closeAll, 200);
     openNewTask(steps);
 
-    EXPECT_TRUE(steps.skipped().isEmpty()) << steps.skipped().join(", ").toStdString();
+    EXPECT_TRUE(ranAll(steps));
     EXPECT_TRUE(steps.messages().join("\n").contains("Print Preview this Task?"))
         << steps.messages().join("\n").toStdString();
     const std::string html = [this] {
@@ -89,7 +75,7 @@ TEST_F(PrintWindows, TheHostKeepsTheStringsItIsHanded) {
     // A slot never handed back gets a whole default string.
     CStringBag bag;
     bag.setContents(host().session().printInfo(3));
-    EXPECT_EQ(bag.ReadItem("TOP").empty(), false);
+    EXPECT_FALSE(bag.ReadItem("TOP").empty());
     EXPECT_EQ(bag.ReadItem("PSCHEDULE"), "");
     bag.setContents(host().session().printInfo(1));
     EXPECT_EQ(bag.ReadItem("PSCHEDULE"), "True");
