@@ -69,35 +69,27 @@ TEST_F(GridViewTest, EditsButtonsChecksAndSelectionGoThroughTheGrid) {
     EXPECT_EQ(t->horizontalHeader()->sectionSize(view.model()->viewColumn(start)), 96) << "1440 twips at 96 dpi";
     EXPECT_EQ(view.model()->index(0, view.model()->viewColumn(start)).data().toString(), "at 9:00");
 
-    // Editing shows the cell as it is; a refused text keeps the old one.
+    // Editing shows the cell as it is; a refused text keeps the old one; Escape changes nothing.
     const QModelIndex s0 = view.model()->index(0, view.model()->viewColumn(start));
     t->setCurrentIndex(s0);
-    t->edit(s0);
-    auto* editor = qobject_cast<QLineEdit*>(t->indexWidget(s0));
-    ASSERT_NE(editor, nullptr);
-    EXPECT_TRUE(grid.editing());
-    EXPECT_EQ(editor->text(), "9:00");
-    editor->setText("no");
-    QTest::keyClick(editor, Qt::Key_Return);
-    QApplication::processEvents();  // the commit is queued
-    EXPECT_FALSE(grid.editing());
+    const auto edit = [&](const char* typed, Qt::Key key, const char* shown) {
+        SCOPED_TRACE(typed);
+        t->edit(s0);
+        auto* editor = qobject_cast<QLineEdit*>(t->indexWidget(s0));
+        ASSERT_NE(editor, nullptr);
+        EXPECT_TRUE(grid.editing());
+        EXPECT_EQ(editor->text(), shown);
+        editor->setText(typed);
+        QTest::keyClick(editor, key);
+        QApplication::processEvents();  // the commit is queued
+        EXPECT_FALSE(grid.editing());
+    };
+    edit("no", Qt::Key_Return, "9:00");
     EXPECT_EQ(refusedTexts.size(), 1u);
     EXPECT_EQ(grid.cell(0, start), "9:00");
-    t->edit(s0);
-    editor = qobject_cast<QLineEdit*>(t->indexWidget(s0));
-    ASSERT_NE(editor, nullptr);
-    editor->setText("10:15");
-    QTest::keyClick(editor, Qt::Key_Return);
-    QApplication::processEvents();  // the commit is queued
+    edit("10:15", Qt::Key_Return, "9:00");
     EXPECT_EQ(grid.cell(0, start), "10:15");
-    // Escape leaves edit mode without a change.
-    t->edit(s0);
-    editor = qobject_cast<QLineEdit*>(t->indexWidget(s0));
-    ASSERT_NE(editor, nullptr);
-    editor->setText("11:00");
-    QTest::keyClick(editor, Qt::Key_Escape);
-    QApplication::processEvents();
-    EXPECT_FALSE(grid.editing());
+    edit("11:00", Qt::Key_Escape, "10:15");
     EXPECT_EQ(grid.cell(0, start), "10:15");
 
     // The button cell, by mouse and by Space.
