@@ -1,11 +1,2 @@
-// Widget tests need one QApplication; they run on the offscreen platform.
-#include <gtest/gtest.h>
-
-#include <QApplication>
-
-int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
+// The desktop tests' offscreen main.
+#include "../main.cpp"
