@@ -85,20 +85,21 @@ TEST_F(NewTaskWindow, ProjectAndKeywordAddedThroughTheirWindowsComeBackToTheList
         std::function<bool()> listed;
         const char* stored;
     };
+    const auto keyIn = [this](const char* sql) { return QString::fromStdString(text(sql)); };
     const Case cases[] = {
         {"smtKeywords.kNEWKEYWORD", "frmAddKeyword",
-         {{"smtKeywords.CATEGORY", "Places"}, {"smtKeywords.KEYWORD", "Garden"}}, "smtAction.ADD", "smtAction.OK",
-         "KEYWORDS",
-         [this] {  // a tick box, under its subject
-             ToolCell* box = cell(kForm, "smtKeywords." + QString::fromStdString(text("SELECT keyGUIDID FROM KEYWORDS")));
-             return box && box->kind() == ToolCell::Kind::Check && cell(kForm, "smtKeywords.Places") != nullptr;
+         {{"smtKeywords.CATEGORY", "Places"}, {"smtKeywords.KEYWORD", "Garden"}},
+         "smtAction.ADD", "smtAction.OK", "KEYWORDS",
+         [&] {  // a tick box, under its subject
+             ToolCell* box = cell(kForm, "smtKeywords." + keyIn("SELECT keyGUIDID FROM KEYWORDS"));
+             return box && box->kind() == ToolCell::Kind::Check && cell(kForm, "smtKeywords.Places");
          },
          "SELECT count(*) FROM KEYWORDS WHERE keySubject='Places' AND keyKeyword='Garden'"},
         {"smtProj.kNEWPROJECT", "frmAddProject",
-         {{"smtProject.txName", "Garden & Shed"}, {"smtProject.txSummary", "Spring work"}}, "smtAction.OK",
-         "smtAction.CANCEL", "PROJECTS",
-         [this] {  // chosen
-             ToolCell* option = cell(kForm, "smtProj." + QString::fromStdString(text("SELECT prjGUIDID FROM PROJECTS")));
+         {{"smtProject.txName", "Garden & Shed"}, {"smtProject.txSummary", "Spring work"}},
+         "smtAction.OK", "smtAction.CANCEL", "PROJECTS",
+         [&] {  // chosen
+             ToolCell* option = cell(kForm, "smtProj." + keyIn("SELECT prjGUIDID FROM PROJECTS"));
              auto* radio = option ? qobject_cast<QRadioButton*>(option->control()) : nullptr;
              return radio && radio->isChecked();
          },
@@ -109,7 +110,8 @@ TEST_F(NewTaskWindow, ProjectAndKeywordAddedThroughTheirWindowsComeBackToTheList
         StepRunner steps;
         whenOpen(steps, "open", [&c] { QTest::mouseClick(button(kForm, c.tool), Qt::LeftButton); });
         steps.when("type", [&c] { return shown(c.form); }, [&c] {
-            for (const auto& [tool, typed] : c.fields) QTest::keyClicks(cell(c.form, tool)->findChild<QLineEdit*>(), typed);
+            for (const auto& [tool, typed] : c.fields)
+                QTest::keyClicks(cell(c.form, tool)->findChild<QLineEdit*>(), typed);
             QTest::mouseClick(button(c.form, c.save), Qt::LeftButton);
         });
         steps.when("close", [&] { return count(std::string("SELECT count(*) FROM ") + c.table) == 1; },

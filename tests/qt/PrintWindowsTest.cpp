@@ -35,7 +35,8 @@ protected:
 };
 
 TEST_F(PrintWindows, PageSetupPreviewAndPrintFromTheNewTaskWindow) {
-    exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Home')");
+    exec("INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', "
+         "'Home')");
     StepRunner steps;
     steps.when("page setup", [] { return shown(kForm); }, [] { choose("PAGESETUP"); }, kStartTimerSettleMs);
     steps.when("heading", [] { return shown("frmPageSetup"); }, [] {
