@@ -118,9 +118,7 @@ TEST_F(PopHelpTest, SetupShowsTheTopicAndAnUnknownOneAnEmptyPaneWithoutAMessage)
 TEST_F(PopHelpTest, TheTourToolShowsForTheTourAloneAndCloseKeepsItsState) {
     tour.show = true;
     pop->Setup(kTourTopic);
-    EXPECT_TRUE(tool("NOSHOW").visible());
-    EXPECT_TRUE(tool("S1").visible());
-    EXPECT_TRUE(tool("NOSHOW").checked());
+    EXPECT_TRUE(tool("NOSHOW").visible() && tool("S1").visible() && tool("NOSHOW").checked());
     EXPECT_EQ(tool("NOSHOW").caption(), "Show Tour when Application starts");
     EXPECT_EQ(tool("NOSHOW").tip(), "Show/don't the Tour when application opens");
     click("NOSHOW");
@@ -185,22 +183,14 @@ TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
     const HelpPrintJob& job = printer.printed[0];
     EXPECT_EQ(job.page, page("POP-KEYWORDS.htm"));
     EXPECT_EQ(job.baseFolder, folder() + "/help/");
-    EXPECT_EQ(job.printer, "Office");
-    EXPECT_EQ(job.copies, 2);
-    EXPECT_EQ(job.paper, "Landscape");
-    EXPECT_EQ(job.marginTop, 2160);
-    EXPECT_EQ(job.marginBottom, 1440);
-    EXPECT_EQ(job.marginRight, 720);
-    EXPECT_EQ(job.marginLeft, 2880);
-    EXPECT_EQ(job.headingFont, "Serif");
-    EXPECT_EQ(job.headingSize, 16);
-    EXPECT_EQ(job.headingColor, 255);
+    EXPECT_EQ(std::vector<std::string>({job.printer, job.paper, job.headingFont, job.footerFont}),
+              std::vector<std::string>({"Office", "Landscape", "Serif", "Sans"}));
+    // Copies; margins top, bottom, right, left; heading and footer size and colour.
+    EXPECT_EQ(std::vector<int32_t>({job.copies, job.marginTop, job.marginBottom, job.marginRight, job.marginLeft,
+                                    job.headingSize, job.headingColor, job.footerSize, job.footerColor}),
+              std::vector<int32_t>({2, 2160, 1440, 720, 2880, 16, 255, 8, 128}));
     EXPECT_EQ(job.heading, "Quorvel: Keywords");  // not "Quorvel -": kept whole
     EXPECT_EQ(job.footer, "{newline}{line}{Left}1/15/2024{Right}{PageNum}");
-    EXPECT_EQ(job.footerFont, "Sans");
-    EXPECT_EQ(job.footerSize, 8);
-    EXPECT_EQ(job.footerColor, 128);
-
 
     scriptedUi().queueAnswer(vbYes);
     click("PRINTPREVIEW");

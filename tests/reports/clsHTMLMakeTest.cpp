@@ -32,16 +32,11 @@ const char* const kSub1 =
 
 TEST_F(HTMLMakeTest, DefaultsAndTheHeadingBuiltWhenPut) {
     clsHTMLMake m;
-    EXPECT_EQ(m.CellPading(), "0");
-    EXPECT_EQ(m.CellSpacing(), "0");
-    EXPECT_EQ(m.Border(), "1");
-    EXPECT_EQ(m.GridHeaderbackColor(), "#C0C0C0");
-    EXPECT_EQ(m.GridDetailbackColor(), "");
-    EXPECT_EQ(m.Fontface(), "Tahoma");
-    EXPECT_EQ(m.ReportFileName(), "HTMLRpt.html");
-    EXPECT_EQ(m.ReportPath(), folder());
-    EXPECT_EQ(m.PageTitle(), "HTML Report");
-    EXPECT_EQ(m.ReportTitle(), "Sample HTML Report");
+    EXPECT_EQ(std::vector<std::string>({m.CellPading(), m.CellSpacing(), m.Border(), m.GridHeaderbackColor(),
+                                        m.GridDetailbackColor(), m.Fontface(), m.ReportFileName(),
+                                        m.ReportPath(), m.PageTitle(), m.ReportTitle()}),
+              std::vector<std::string>({"0", "0", "1", "#C0C0C0", "", "Tahoma", "HTMLRpt.html", folder(),
+                                        "HTML Report", "Sample HTML Report"}));
     EXPECT_EQ(m.HeadingSize(), 0);
     EXPECT_TRUE(m.UnderLineRequired());
     EXPECT_EQ(m.RowCount(), 0);

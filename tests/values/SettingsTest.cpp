@@ -80,11 +80,8 @@ TEST_F(SettingsTest, OlderStoresGainTheirMissingRows) {
                                       : "SELECT group_concat(SetSettingName) FROM (SELECT SetSettingName FROM "
                                         "Settings WHERE SetSettingSection='ETASK' ORDER BY rowid)"),
               "meLeft,meHeight,meSplit,meTop,meWidth");
-    EXPECT_EQ(g().ETaskWindow[0], 1000);
-    EXPECT_EQ(g().ETaskWindow[1], 3705);
-    EXPECT_EQ(g().ETaskWindow[2], 9975);
-    EXPECT_EQ(g().ETaskWindow[3], 7950);
-    EXPECT_EQ(g().ETaskWindow[4], 2505);  // the split lands where the state is read
+    // The split lands where the state is read.
+    EXPECT_EQ(g().ETaskWindow, (std::array<int32_t, 6>{1000, 3705, 9975, 7950, 2505, 0}));
 
     // Five rows are no upgrade case; four are.
     ASSERT_TRUE(LoadSettings());
