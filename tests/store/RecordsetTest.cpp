@@ -96,6 +96,12 @@ protected:
         return Failure(0, "no failure");
     }
 
+    // A store failure whose description names each of the parts.
+    static void expectStoreFailure(const Failure& f, std::initializer_list<std::string> parts) {
+        EXPECT_EQ(f.number(), err::StoreFailure);
+        for (const auto& part : parts) EXPECT_NE(f.description().find(part), std::string::npos) << f.description();
+    }
+
     RecordsetPtr open(const std::string& sql, int32_t lock = adLockBatchOptimistic) const {
         auto rs = std::make_shared<Recordset>();
         rs->CursorLocation = adUseClient;
@@ -400,10 +406,7 @@ TEST_F(RecordsetTest, ABatchIsAllOrNothing) {
     rs->AddNew();
     rs->Fields("tskGUIDID") = Value("T1");  // the key is unique: this one fails
     rs->Update();
-    const Failure f = failureOf([&] { rs->UpdateBatch(); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("UNIQUE"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"UNIQUE", path_});
     EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "3");
     EXPECT_EQ(readOne("SELECT count(*) FROM TASKS WHERE tskGUIDID='FRESH'"), "0");
 }
@@ -473,21 +476,18 @@ TEST_F(RecordsetTest, AFileThatIsNoDatabaseFailsClearly) {
         std::ofstream out(path_, std::ios::binary | std::ios::trunc);
         out << junk;
     }
-    const Failure f = failureOf([&] { open("SELECT * from TASKS"); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("is not a Quorvel data file"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { open("SELECT * from TASKS"); }), {"is not a Quorvel data file", path_});
     EXPECT_EQ(fileBytes(path_), junk);
     EXPECT_FALSE(fs::exists(path_ + "-wal"));
 
     // A missing file is a failure too, and is not created.
     const std::string missing = dir_ + "/Missing.mdb";
     Recordset rs;
-    const Failure m = failureOf([&] {
-        rs.Open("SELECT * from TASKS", "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + missing + ";");
-    });
-    EXPECT_EQ(m.number(), err::StoreFailure);
-    EXPECT_NE(m.description().find(missing), std::string::npos) << m.description();
+    expectStoreFailure(failureOf([&] {
+                           rs.Open("SELECT * from TASKS",
+                                   "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + missing + ";");
+                       }),
+                       {missing});
     EXPECT_FALSE(fs::exists(missing));
     EXPECT_EQ(rs.State(), adStateClosed);
 }
@@ -501,10 +501,7 @@ TEST_F(RecordsetTest, AReadOnlyFileFailsClearlyAndStaysUnchanged) {
     EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));  // reading works
     rs->Fields("tskDesc") = Value("changed");
     rs->Update();
-    const Failure f = failureOf([&] { rs->UpdateBatch(); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("read"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"read", path_});
 
     auto add = open("SELECT * from TASKS WHERE tskImp= 6");
     add->AddNew();
@@ -540,9 +537,7 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     EXPECT_EQ(failureOf([&] { rs.Close(); }).number(), 3704);
     EXPECT_EQ(failureOf([&] { (void)desc.value(); }).number(), 3704);
     // A query the store can't run fails with the store's words and the query.
-    const Failure bad = failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); });
-    EXPECT_EQ(bad.number(), err::StoreFailure);
-    EXPECT_NE(bad.description().find("is missing the table NOSUCH"), std::string::npos) << bad.description();
+    expectStoreFailure(failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); }), {"is missing the table NOSUCH"});
     EXPECT_EQ(rs.State(), adStateClosed);
 }
 

@@ -21,8 +21,7 @@ TEST(TaskUtil, ColourTexts) {
     EXPECT_EQ(RGBToHex("1;2;3;4", ";"), "123");
     EXPECT_EQ(LongToHex(255), "FF0000");
     EXPECT_EQ(LongToHex(0), "000000");
-    EXPECT_THROW((void)RGBToHex("255,0", ","), Failure);
-    EXPECT_THROW((void)RGBToHex("red,0,0", ","), Failure);
+    for (const char* bad : {"255,0", "red,0,0"}) EXPECT_THROW((void)RGBToHex(bad, ","), Failure) << bad;
     EXPECT_THROW((void)RGBToHex("1,2,3", ""), Failure);
 }
 
