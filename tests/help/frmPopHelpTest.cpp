@@ -71,20 +71,18 @@ protected:
 
 TEST(HelpTopicsTable, NumbersTitlesAndTheSettledOddities) {
     for (int32_t t = 0; t <= 7; ++t) EXPECT_EQ(HelpTopics::find(t)->page, "help/POP-MetricsQV.htm") << t;
-    EXPECT_EQ(HelpTopics::find(8)->title, "Quorvel: Keywords");
-    EXPECT_EQ(HelpTopics::find(600)->title, "Quorvel: Creating New Tasks");
-    EXPECT_EQ(HelpTopics::find(601)->title, "Quorvel: Working With Existing Tasks");
-    EXPECT_EQ(HelpTopics::find(700)->title, "Quorvel: Working with Task Appointments");
-    EXPECT_EQ(HelpTopics::find(800)->page, "help/POP-ADDPROJECT.htm");
-    EXPECT_EQ(HelpTopics::find(6000)->title, "Quorvel Strategies");
-    EXPECT_EQ(HelpTopics::find(7000)->page, "help/QV-TOUR1.htm");
-    // Topic 10 shows its own page but keeps the catalog's for printing.
-    EXPECT_EQ(HelpTopics::find(10)->page, "help/POP-QVIMPORT.htm");
+    const std::pair<int32_t, const char*> titles[] = {
+        {8, "Quorvel: Keywords"},  {600, "Quorvel: Creating New Tasks"}, {601, "Quorvel: Working With Existing Tasks"},
+        {700, "Quorvel: Working with Task Appointments"}, {6000, "Quorvel Strategies"},
+        {99, "Quorvel: Task Catalog"}, {250, "Quorvel: Outlook Task Import"}};
+    for (const auto& [topic, title] : titles) EXPECT_EQ(HelpTopics::find(topic)->title, title) << topic;
+    // Topic 10 shows its own page but keeps the catalog's for printing; 99 is the help page
+    // under the catalog's title.
+    const std::pair<int32_t, const char*> pages[] = {
+        {800, "help/POP-ADDPROJECT.htm"}, {7000, "help/QV-TOUR1.htm"}, {10, "help/POP-QVIMPORT.htm"},
+        {99, "help/POP-HELP.htm"}};
+    for (const auto& [topic, page] : pages) EXPECT_EQ(HelpTopics::find(topic)->page, page) << topic;
     EXPECT_EQ(HelpTopics::find(10)->keptPath, "help/POP-TASKCAT.htm");
-    // Topic 99 is the help page under the catalog's title.
-    EXPECT_EQ(HelpTopics::find(99)->page, "help/POP-HELP.htm");
-    EXPECT_EQ(HelpTopics::find(99)->title, "Quorvel: Task Catalog");
-    EXPECT_EQ(HelpTopics::find(250)->title, "Quorvel: Outlook Task Import");
     for (int32_t unknown : {-1, 11, 22, 24, 501, 602, 7001, 100000}) EXPECT_FALSE(HelpTopics::find(unknown)) << unknown;
     EXPECT_EQ(HelpTopics::pageFiles().size(), 26u);
 }

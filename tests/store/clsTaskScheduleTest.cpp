@@ -28,11 +28,10 @@ TEST_F(TaskSchedule, AddTAReadsImportanceFirstAndDifficultyLast) {
     EXPECT_TRUE(schedule.AddTA("A2", "T1", "Home", "P1", start, end, "Paint the fence", "3"));
     EXPECT_EQ(schedule.GetRowCount(), 2);  // the set was requeried
 
-    EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty FROM TASKAPPTS WHERE taGUIDID='A1'"), "3/1");
+    EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty || '/' || taWasWorked || '/' || taProjectGUIDID || "
+                      "'/' || taTaskDesc FROM TASKAPPTS WHERE taGUIDID='A1'"),
+              "3/1/0/P1/Paint the fence");
     EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty FROM TASKAPPTS WHERE taGUIDID='A2'"), "3/3");
-    EXPECT_EQ(readOne("SELECT taWasWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "0");
-    EXPECT_EQ(readOne("SELECT taProjectGUIDID || taTaskDesc FROM TASKAPPTS WHERE taGUIDID='A1'"),
-              "P1Paint the fence");
     EXPECT_EQ(readOne("SELECT taStartTime FROM TASKAPPTS WHERE taGUIDID='A1'").substr(0, 16),
               "2024-01-15T09:00");
     EXPECT_EQ(readOne("SELECT taTimeWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "");
