@@ -63,11 +63,10 @@ TEST_F(SettingsTest, OlderStoresGainTheirMissingRows) {
     ASSERT_TRUE(LoadSettings());
     EXPECT_EQ(rows("TAS"), 6);
     EXPECT_EQ(g().TASWindow[5], 0);
-    EXPECT_EQ(value("TAS", "WindowState"), "0");
-    EXPECT_EQ(value("TAS", "WindowState", "SetDefault"), "0");
-    EXPECT_EQ(value("TAS", "WindowState", "setSettingDisplayOrd"), "5");
-    EXPECT_EQ(value("TAS", "WindowState", "setSettingComment"), "Open Max or Normal, never minimized");
-    EXPECT_EQ(value("TAS", "WindowState", "SetUser"), "1");
+    EXPECT_EQ(value("TAS", "WindowState",
+                    "SetSettingValue || '/' || SetDefault || '/' || setSettingDisplayOrd || '/' || SetUser || '/' "
+                    "|| setSettingComment"),
+              "0/0/5/1/Open Max or Normal, never minimized");
     EXPECT_EQ(rows("TASKWINDOW"), 5);
     EXPECT_EQ(value("TASKWINDOW", "WindowState", "setSettingDisplayOrd"), "5");  // 5, not 4
 
