@@ -231,9 +231,8 @@ TEST_F(PopHelpTest, AFaultIsReportedUnderTheFormsOwnProjectName) {
     scriptedUi().queueAnswer(vbYes);
     click("PRINT");
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].project, "QuorvelExportExcel");
-    EXPECT_EQ(reporter().faults()[0].module, "frmPopHelp");
-    EXPECT_EQ(reporter().faults()[0].procedure, "smtAction_Click");
+    const auto& fault = reporter().faults()[0];
+    EXPECT_EQ(fault.project + "." + fault.module + "." + fault.procedure, "QuorvelExportExcel.frmPopHelp.smtAction_Click");
     EXPECT_EQ(ended, 1);
 }
 

@@ -41,8 +41,7 @@ TEST_F(TaskSchedule, AddTAReadsImportanceFirstAndDifficultyLast) {
     EXPECT_FALSE(schedule.AddTA("A4", "T1", "Home", "P1", start, end, "x", ""));
     EXPECT_EQ(rows(), 2);
     ASSERT_EQ(reporter().faults().size(), 2u);
-    EXPECT_EQ(reporter().faults()[0].module, "clsTaskSchedule");
-    EXPECT_EQ(reporter().faults()[0].procedure, "AddTA");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "clsTaskSchedule.AddTA");
     EXPECT_EQ(reporter().faults()[0].number, err::TypeMismatch);
 }
 

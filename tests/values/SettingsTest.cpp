@@ -25,8 +25,7 @@ protected:
     }
     void expectOneFault(int32_t number) {
         ASSERT_EQ(reporter().faults().size(), 1u);
-        EXPECT_EQ(reporter().faults()[0].module, "m_Task");
-        EXPECT_EQ(reporter().faults()[0].procedure, "LoadSettings");
+        EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "m_Task.LoadSettings");
         EXPECT_EQ(reporter().faults()[0].number, number);
     }
 };

@@ -57,8 +57,7 @@ TEST_F(TimeValuesTest, FormatterFailuresGoToTheReporterAndGiveEmptyText) {
     EXPECT_EQ(SetTimeFormat(0), "0:00");  // zero needs no day length
     EXPECT_EQ(SetTimeFormat(30), "");
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].module, "m_Task");
-    EXPECT_EQ(reporter().faults()[0].procedure, "SetTimeFormat");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "m_Task.SetTimeFormat");
     EXPECT_EQ(reporter().faults()[0].number, err::TypeMismatch);
 
     dayOf("0", "480", "1020");  // a day of no minutes divides by zero
