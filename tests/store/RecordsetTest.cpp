@@ -159,9 +159,10 @@ TEST_F(RecordsetTest, EveryColumnTypeRoundTrips) {
         rs->Close();
     }
     // As stored: booleans 0/1, dates ISO text with milliseconds.
-    EXPECT_EQ(readOne("SELECT tBool || typeof(tBool) || tDate || (tNull IS NULL) FROM TYPES WHERE tKey='A'"),
-              "1integer2001-04-19T12:00:00.0001");
-    EXPECT_EQ(readOne("SELECT tBool || tDate FROM TYPES WHERE tKey='B'"), "01899-12-29T06:00:00.000");
+    EXPECT_EQ(readOne("SELECT tBool || '|' || typeof(tBool) || '|' || tDate || '|' || (tNull IS NULL) FROM TYPES "
+                      "WHERE tKey='A'"),
+              "1|integer|2001-04-19T12:00:00.000|1");
+    EXPECT_EQ(readOne("SELECT tBool || '|' || tDate FROM TYPES WHERE tKey='B'"), "0|1899-12-29T06:00:00.000");
     EXPECT_EQ(readOne("SELECT tText FROM TYPES WHERE tKey='A'"), text);
 
     auto rs = open("SELECT * from TYPES ORDER BY tKey", adLockReadOnly);
