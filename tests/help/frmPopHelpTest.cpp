@@ -9,10 +9,9 @@
 #include "help/TourPreference.h"
 #include "help/frmPopHelp.h"
 #include "session/globals/SessionGlobals.h"
+#include "support/PrintPorts.h"
 #include "support/TestEnv.h"
-#include "toolkit/LocaleInfo.h"
 #include "toolkit/Ports.h"
-#include "toolkit/PrintSurface.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
@@ -36,12 +35,6 @@ struct MemoryTour : TourPreference {
     }
     bool show = true;
     int writes = 0;
-};
-
-struct FixedLocale : LocaleInfo {
-    explicit FixedLocale(int32_t m) : m_(m) {}
-    [[nodiscard]] int32_t measurementSystem() const override { return m_; }
-    int32_t m_;
 };
 
 // A full print settings string, as Page Setup writes one.
@@ -162,7 +155,8 @@ TEST_F(PopHelpTest, BackReturnsAlongTheLinksFollowed) {
 }
 
 TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
-    FixedLocale us(1);
+    FixedLocale us;
+    us.system = 1;
     ports().locale = &us;
     fakeClock().setNow(45306.75);  // 15 January 2024, 18:00
     pop->setHelpPrinterSettings(kSettings);
@@ -200,7 +194,7 @@ TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
 }
 
 TEST_F(PopHelpTest, PrintFollowsThePaneAndSettlesMetricMarginsAndMissingSettings) {
-    FixedLocale metric(0);
+    FixedLocale metric;
     ports().locale = &metric;
     fakeClock().setNow(45306.75);
     pop->setHelpPrinterSettings("TOP=2.54\tFLEFT=Page Number\tFRIGHT=--Page Number--\t");
@@ -252,18 +246,6 @@ TEST_F(PopHelpTest, TheViewerShowsThePopUpModallyUntilItIsClosed) {
     EXPECT_EQ(scriptedUi().shown(), std::vector<std::string>{"frmPopHelp"});
     EXPECT_EQ(scriptedUi().pendingActions(), 0u);
 }
-
-}  // namespace
-}  // namespace qv
-
-namespace qv {
-namespace {
-
-struct RecordingSurface : PrintSurface {
-    void print(const PrintJob& job) override { printed.push_back(job); }
-    void preview(const PrintJob& job) override { previewed.push_back(job); }
-    std::vector<PrintJob> printed, previewed;
-};
 
 // A help page reaches the one print engine with its file, heading, footer
 // and margins; with no engine installed nothing happens.
