@@ -98,12 +98,10 @@ TEST_F(GridViewTest, EditsButtonsChecksAndSelectionGoThroughTheGrid) {
     QTest::keyClick(t, Qt::Key_Space);
     EXPECT_EQ(clicked, (std::vector<int>{1, 0}));
 
-    // The check box.
     EXPECT_TRUE(view.model()->setData(view.model()->index(1, view.model()->viewColumn(done)), Qt::Checked,
                                       Qt::CheckStateRole));
     EXPECT_EQ(grid.cell(1, done), "True");
 
-    // Selection in the order picked.
     t->clearSelection();
     t->selectionModel()->select(view.model()->index(1, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
     t->selectionModel()->select(view.model()->index(0, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
