@@ -71,7 +71,7 @@ protected:
 
 TEST_F(StoreFaultTest, AFileThatIsNoStoreGivesOneReportAndStaysAsItWas) {
     // An empty file is not turned into a store either.
-    for (const std::string junk : {std::string(4096, '\x5a'), std::string()}) {
+    for (const std::string& junk : {std::string(4096, '\x5a'), std::string()}) {
         SCOPED_TRACE(junk.size());
         writeFile(storePath(), junk);
         openAndClose();
