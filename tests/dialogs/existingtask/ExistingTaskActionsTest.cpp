@@ -4,6 +4,7 @@
 
 #include "dialogs/checklists/ChecklistLink.h"
 #include "dialogs/checklists/frmCkPicker.h"
+#include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskDelete.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
@@ -13,9 +14,7 @@
 
 namespace qv {
 
-namespace {
-class ExistingTaskActionsTest : public ExistingTaskFixture {};
-}  // namespace
+using ExistingTaskActionsTest = ExistingTaskFixture;
 
 TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     EXPECT_EQ(ExistingTaskDelete::question(false, false), "Delete this task?");
@@ -61,17 +60,12 @@ TEST_F(ExistingTaskActionsTest, CatalogSaveCopiesTheTaskAndASecondFailsOnTheKey)
     openTask(5);
     const std::string item = " FROM TASKSCAT WHERE tskGUIDID='" + std::string(kTask) + "'";
     EXPECT_EQ(count("doNewTaskCatItem"), 1);
-    EXPECT_EQ(readOne("SELECT tskDesc" + item), "Paint the fence");
-    EXPECT_EQ(readOne("SELECT tskProjectKey" + item), kAlpha);
-    EXPECT_EQ(readOne("SELECT tskTimeNeeded" + item), "90");
-    EXPECT_EQ(readOne("SELECT tskTimeSpent" + item), "") << "spent and scheduled times are not copied";
-    EXPECT_EQ(readOne("SELECT tskTimeScheduled" + item), "");
-    EXPECT_EQ(readOne("SELECT tskCurrent" + item), "0") << "the pack reads the list's checked state";
-    EXPECT_EQ(readOne("SELECT tskCustSortCUR" + item), "");
-    EXPECT_EQ(readOne("SELECT tskCustSortQV" + item), "3");
-    EXPECT_EQ(readOne("SELECT tskCustSortProj" + item), "3");
+    // Spent and scheduled times are not copied; tskCurrent reads the list's checked state.
+    expectEach([&](const std::string& c) { return readOne("SELECT " + c + item); },
+               {{"tskDesc", "Paint the fence"}, {"tskProjectKey", kAlpha}, {"tskTimeNeeded", "90"},
+                {"tskTimeSpent", ""}, {"tskTimeScheduled", ""}, {"tskCurrent", "0"}, {"tskCustSortCUR", ""},
+                {"tskCustSortQV", "3"}, {"tskCustSortProj", "3"}, {"tskLastMod", dateserial::toIso(45400.25)}});
     EXPECT_EQ(readOne("SELECT tskDeadline" + item).substr(0, 10), "2030-01-01");
-    EXPECT_EQ(readOne("SELECT tskLastMod" + item), dateserial::toIso(45400.25));
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID='" + std::string(kTask) + "'"), 2)
         << "the item's link joins the task's own";
     EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'"), "Paint the fence");

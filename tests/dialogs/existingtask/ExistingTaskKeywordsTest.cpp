@@ -15,6 +15,23 @@ namespace {
 class ExistingTaskKeywordsTest : public ExistingTaskFixture {
 protected:
     const std::string links = "SELECT ktKEYGUID FROM TaskKeywords WHERE ktTASKGUID='" + std::string(kTask) + "'";
+
+    // Fills the Add dialog the click opened, presses its action and closes it.
+    void useAdder(std::function<Form*()> adder, const std::string& sheetName,
+                  std::vector<std::pair<std::string, std::string>> fields, const std::string& action) {
+        then([this, adder, sheetName, fields] {
+            Form* add = adder();
+            ASSERT_NE(add, nullptr);
+            scriptedUi().queueAnswer(vbOK);
+            for (const auto& [key, value] : fields) add->sheet(sheetName)->find(key)->setText(value);
+        });
+        then([adder, action] { adder()->sheet("smtAction")->click(*adder()->sheet("smtAction")->find(action)); });
+        then([adder] {
+            if (Form* add = adder()) add->hide();
+        });
+    }
+    Form* keywordAdder() { return eform().keywords().adders().fNewKeyword.get(); }
+    Form* projectAdder() { return eform().keywords().adders().fNewProject.get(); }
 };
 }  // namespace
 
@@ -68,20 +85,8 @@ TEST_F(ExistingTaskKeywordsTest, AddKeywordRebuildsTheSheetFromTheStoredLinks) {
     linkKeyword(kKeyBlue);
     eclick("smtKeywords", kKeyRed);
     eclick("smtKeywords", "kNEWKEYWORD");
-    then([this] {
-        auto* add = eform().keywords().adders().fNewKeyword.get();
-        ASSERT_NE(add, nullptr);
-        scriptedUi().queueAnswer(vbOK);
-        add->sheet("smtKeywords")->find("CATEGORY")->setText("Colour");
-        add->sheet("smtKeywords")->find("KEYWORD")->setText("Green");
-    });
-    then([this] {
-        Form* add = eform().keywords().adders().fNewKeyword.get();
-        add->sheet("smtAction")->click(*add->sheet("smtAction")->find("ADD"));
-    });
-    then([this] {
-        if (auto add = eform().keywords().adders().fNewKeyword) add->hide();
-    });
+    useAdder([this] { return keywordAdder(); }, "smtKeywords", {{"CATEGORY", "Colour"}, {"KEYWORD", "Green"}},
+             "ADD");
     then([this] {
         EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
         EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
@@ -98,20 +103,7 @@ TEST_F(ExistingTaskKeywordsTest, NewProjectFromTheListIsChosenAndSaved) {
     seed();
     addTask();
     choose("PROJECT", "New Project");
-    then([this] {
-        auto* add = eform().keywords().adders().fNewProject.get();
-        ASSERT_NE(add, nullptr);
-        scriptedUi().queueAnswer(vbOK);
-        add->sheet("smtProject")->find("txName")->setText("Gamma");
-        add->sheet("smtProject")->find("txSummary")->setText("Third");
-    });
-    then([this] {
-        Form* add = eform().keywords().adders().fNewProject.get();
-        add->sheet("smtAction")->click(*add->sheet("smtAction")->find("OK"));
-    });
-    then([this] {
-        if (auto add = eform().keywords().adders().fNewProject) add->hide();
-    });
+    useAdder([this] { return projectAdder(); }, "smtProject", {{"txName", "Gamma"}, {"txSummary", "Third"}}, "OK");
     then([this] {
         EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Gamma");
         EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha) << "the tag stays; the key comes from the entry";

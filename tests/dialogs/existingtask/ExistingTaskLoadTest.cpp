@@ -2,6 +2,7 @@
 // row in its tool, the fixed status words, the red past deadline, the
 // checklist, the keyword ticks and the two modes' captions.
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ui.h"
@@ -9,9 +10,7 @@
 
 namespace qv {
 
-namespace {
-class ExistingTaskLoad : public ExistingTaskFixture {};
-}  // namespace
+using ExistingTaskLoad = ExistingTaskFixture;
 
 TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
     seed();
@@ -22,22 +21,15 @@ TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
         EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Edit Task");
         EXPECT_EQ(eform().editor("spellTask")->text(), "Paint the fence");
         EXPECT_EQ(eform().editor("SpellNotes")->text(), "Two coats");
-        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "In Progress");
-        EXPECT_EQ(etool("smtABOUT", "STATUS").tag(), "1");
+        expectTools(esheet("smtABOUT"), &Tool::text,
+                    {{"STATUS", "In Progress"}, {"PROJECT", "Alpha"}, {"IMP", g().ImportanceList[2]},
+                     {"DIFF", g().DifficultyList[3]}, {"ISCURRENT", "Yes"}, {"NEEDED", "1:30"},
+                     {"SPENT", "0:45"}, {"SCHEDULED", "0:30"}, {"DEADTIME", "5:00:00 PM"}});
+        expectTools(esheet("smtABOUT"), &Tool::tag,
+                    {{"STATUS", "1"}, {"PROJECT", kAlpha}, {"IMP", "2"}, {"ISCURRENT", "TRUE"}});
         EXPECT_FALSE(etool("smtABOUT", "STATUS").bold());
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Alpha");
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha);
-        EXPECT_EQ(etool("smtABOUT", "IMP").tag(), "2");
-        EXPECT_EQ(etool("smtABOUT", "IMP").text(), g().ImportanceList[2]);
-        EXPECT_EQ(etool("smtABOUT", "DIFF").text(), g().DifficultyList[3]);
-        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").text(), "Yes");
-        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").tag(), "TRUE");
-        EXPECT_EQ(etool("smtABOUT", "NEEDED").text(), "1:30");
-        EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "0:45");
-        EXPECT_EQ(etool("smtABOUT", "SCHEDULED").text(), "0:30");
         EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "0:45");
         EXPECT_EQ(etool("smtReady", "POINTS").caption(), "12");
-        EXPECT_EQ(etool("smtABOUT", "DEADTIME").text(), "5:00:00 PM");
         EXPECT_EQ(etool("smtABOUT", "DEADLINE").foreColor(), 0) << "a future deadline is not red";
         EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible());
         EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
