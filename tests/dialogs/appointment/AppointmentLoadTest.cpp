@@ -1,6 +1,7 @@
 // Opening a Task Appointment: the slot's own copies beside its task's
 // values, the lists, the checklist, the window and the settings upgrade.
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/appointment/AppointmentFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
@@ -30,28 +31,22 @@ TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
     openAndLook([this] {
         EXPECT_EQ(form().caption(), "Quorvel - Version 1.14 - Task Appointment");
         EXPECT_EQ(form().editor("spellTask")->text(), "Slot text") << "the description is the slot's";
-        EXPECT_EQ(tool("smtABOUT", "PROJECT").text(), "Alpha");
-        EXPECT_EQ(tool("smtABOUT", "PROJECT").tag(), kAlpha);
-        EXPECT_EQ(tool("smtABOUT", "IMP").tag(), "2") << "importance is the slot's copy";
-        EXPECT_EQ(tool("smtABOUT", "IMP").text(), g().ImportanceList[2]);
-        EXPECT_EQ(tool("smtABOUT", "DIFF").text(), g().DifficultyList[1]);
-        EXPECT_EQ(tool("smtTimes", "START").text(), "9:00:00 AM");
-        EXPECT_EQ(tool("smtTimes", "END").text(), "10:30:00 AM");
+        // Project, importance and difficulty are the slot's copies; the rest is the task's.
+        expectTools(sheet("smtABOUT"), &Tool::text,
+                    {{"PROJECT", "Alpha"}, {"IMP", g().ImportanceList[2]}, {"DIFF", g().DifficultyList[1]},
+                     {"ISCURRENT", "Yes"}, {"NEEDED", "0:45"}, {"SPENT", "0:20"}, {"STATUS", "Defined"}});
+        expectTools(sheet("smtABOUT"), &Tool::tag,
+                    {{"PROJECT", kAlpha}, {"IMP", "2"}, {"ISCURRENT", "TRUE"}, {"SCHEDULED", "0:30"},
+                     {"STATUS", "3"}});
+        // A slot never judged keeps the design text "Completed".
+        expectTools(sheet("smtTimes"), &Tool::text,
+                    {{"START", "9:00:00 AM"}, {"END", "10:30:00 AM"}, {"DONE", "Completed"}, {"TIMESPENT", "0:00"}});
         EXPECT_EQ(form().dateBox("ctTADate")->value(), dateserial::fromCivil(2026, 11, 24));
-        EXPECT_EQ(tool("smtTimes", "DONE").text(), "Completed") << "a slot never judged keeps the design text";
-        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "0:00");
         EXPECT_EQ(tool("smtReady", "POINTS").text(), "7");
         EXPECT_FALSE(tool("smtReady", "DONE").checked());
         EXPECT_EQ(form().editor("SpellNotes")->text(), "task notes");
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").text(), "Yes");
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").tag(), "TRUE");
-        EXPECT_EQ(tool("smtABOUT", "NEEDED").text(), "0:45");
-        EXPECT_EQ(tool("smtABOUT", "SCHEDULED").tag(), "0:30");
-        EXPECT_EQ(tool("smtABOUT", "SPENT").text(), "0:20");
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 255);
         EXPECT_TRUE(tool("smtABOUT", "DEADLINE").bold());
-        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Defined");
-        EXPECT_EQ(tool("smtABOUT", "STATUS").tag(), "3");
         EXPECT_FALSE(tool("smtABOUT", "STATUS").bold());
         EXPECT_FALSE(tool("smtActions", "SAVE").enabled()) << "filling the tools enables nothing";
         EXPECT_EQ(tool("smtABOUT", "STATUS").items().size(), g().StatusList.size());
@@ -70,14 +65,11 @@ TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
     sql("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
     sql("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
     openAndLook([this] {
-        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
+        expectTools(sheet("smtABOUT"), &Tool::text, {{"STATUS", "Completed"}, {"DEADLINE", ""}, {"ISCURRENT", "No"}});
+        expectTools(sheet("smtTimes"), &Tool::text, {{"DONE", "Complete"}, {"TIMESPENT", "1:15"}});
         EXPECT_TRUE(tool("smtABOUT", "STATUS").bold());
         EXPECT_TRUE(tool("smtReady", "DONE").checked());
-        EXPECT_EQ(tool("smtTimes", "DONE").text(), "Complete");
-        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "1:15");
-        EXPECT_EQ(tool("smtABOUT", "DEADLINE").text(), "");
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 0);
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").text(), "No");
     });
     sql("UPDATE TASKAPPTS SET taWasWorked=0");
     sql("UPDATE TASKS SET tskStatus=2");

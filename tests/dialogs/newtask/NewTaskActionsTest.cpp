@@ -7,9 +7,7 @@
 
 namespace qv {
 
-namespace {
-class NewTaskCommands : public NewTaskFixture {};
-}  // namespace
+using NewTaskCommands = NewTaskFixture;
 
 TEST_F(NewTaskCommands, EscapeAsksOnlyWhenDirtyAndCancels) {
     seed();

@@ -11,9 +11,7 @@
 
 namespace qv {
 
-namespace {
-class NewTaskCheck : public NewTaskFixture {};
-}  // namespace
+using NewTaskCheck = NewTaskFixture;
 
 TEST(PointsTallyClasses, TimeClassesAndFallbacks) {
     std::array<int32_t, 15> table{};
