@@ -55,7 +55,6 @@ TEST_F(ExistingTaskKeywordsTest, LinksAreRewrittenWholeOnUpdate) {
     EXPECT_EQ(readOne("SELECT ktTask FROM TaskKeywords"), "Paint the barn");
     EXPECT_EQ(readOne("SELECT ktKeyword FROM TaskKeywords"), "Red");
 
-    // No ticks, no links.
     eclick("smtKeywords", kKeyRed);
     eclick("smtActions", "UPDATE");
     openTask();
