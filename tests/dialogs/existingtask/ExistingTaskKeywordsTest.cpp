@@ -40,23 +40,23 @@ TEST_F(ExistingTaskKeywordsTest, LinksAreRewrittenWholeOnUpdate) {
     addTask();
     linkKeyword(kKeyBlue);
     linkKeyword(kKeyBlue);  // a doubled link goes with the rewrite
-    eclick("smtKeywords", kKeyRed);
+    click("smtKeywords", kKeyRed);
     then([this] { EXPECT_EQ(eform().fields().KeywordCount, 2) << "counted after the check"; });
-    eclick("smtKeywords", kKeyBlue);
-    edesc("Paint the barn");
+    click("smtKeywords", kKeyBlue);
+    typeDescription("Paint the barn");
     then([this] {
         EXPECT_TRUE(eform().fields().record().HasKeywords);
         EXPECT_EQ(eform().fields().KeywordCount, 1);
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM (" + links + ") AS links"), 1);
     EXPECT_EQ(readOne(links), kKeyRed);
     EXPECT_EQ(readOne("SELECT ktTask FROM TaskKeywords"), "Paint the barn");
     EXPECT_EQ(readOne("SELECT ktKeyword FROM TaskKeywords"), "Red");
 
-    eclick("smtKeywords", kKeyRed);
-    eclick("smtActions", "UPDATE");
+    click("smtKeywords", kKeyRed);
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords"), 0);
 }
@@ -66,9 +66,9 @@ TEST_F(ExistingTaskKeywordsTest, FailedLinksLeaveTheRowSavedAndTheOldLinksWhole)
     addTask();
     linkKeyword(kKeyBlue);
     refuseWrites("TaskKeywords", "INSERT");
-    eclick("smtKeywords", kKeyRed);
-    edesc("Paint the barn");
-    eclick("smtActions", "UPDATE");
+    click("smtKeywords", kKeyRed);
+    typeDescription("Paint the barn");
+    click("smtActions", "UPDATE");
     openTask();
     ASSERT_EQ(reporter().faults().size(), 1u);
     EXPECT_EQ(reporter().faults()[0].procedure, "UpdateTask");
@@ -82,15 +82,15 @@ TEST_F(ExistingTaskKeywordsTest, AddKeywordRebuildsTheSheetFromTheStoredLinks) {
     seed();
     addTask();
     linkKeyword(kKeyBlue);
-    eclick("smtKeywords", kKeyRed);
-    eclick("smtKeywords", "kNEWKEYWORD");
+    click("smtKeywords", kKeyRed);
+    click("smtKeywords", "kNEWKEYWORD");
     useAdder([this] { return keywordAdder(); }, "smtKeywords", {{"CATEGORY", "Colour"}, {"KEYWORD", "Green"}},
              "ADD");
     then([this] {
-        EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
-        EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
+        EXPECT_FALSE(tool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
+        EXPECT_TRUE(tool("smtKeywords", kKeyBlue).checked());
         bool green = false;
-        for (const auto& t : esheet("smtKeywords").tools()) green = green || t->caption() == "Green";
+        for (const auto& t : sheet("smtKeywords").tools()) green = green || t->caption() == "Green";
         EXPECT_TRUE(green);
         eform().hide();
     });
@@ -104,11 +104,11 @@ TEST_F(ExistingTaskKeywordsTest, NewProjectFromTheListIsChosenAndSaved) {
     choose("PROJECT", "New Project");
     useAdder([this] { return projectAdder(); }, "smtProject", {{"txName", "Gamma"}, {"txSummary", "Third"}}, "OK");
     then([this] {
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Gamma");
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha) << "the tag stays; the key comes from the entry";
+        EXPECT_EQ(tool("smtABOUT", "PROJECT").text(), "Gamma");
+        EXPECT_EQ(tool("smtABOUT", "PROJECT").tag(), kAlpha) << "the tag stays; the key comes from the entry";
         EXPECT_TRUE(eform().fields().IsDirty);
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(count("ProjectAdded"), 1);
     const std::string gamma = readOne("SELECT prjGUIDID FROM PROJECTS WHERE prjProject='Gamma'");
@@ -122,11 +122,11 @@ TEST_F(ExistingTaskKeywordsTest, MopProjectIsDisabledAndNoProjectStillSaves) {
     g().MOP = kBeta;
     task_.SetMOP(kBeta);
     then([this] {
-        EXPECT_FALSE(etool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta)->enabled());
-        etool("smtABOUT", "PROJECT").setText("");
+        EXPECT_FALSE(tool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta)->enabled());
+        tool("smtABOUT", "PROJECT").setText("");
         eform().editor("spellTask")->userEdit("Paint the shed");
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readOne("SELECT tskProject FROM TASKS"), "");
     EXPECT_EQ(readOne("SELECT tskProjectKey FROM TASKS"), "NOPROJECT");

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/newtask/NewTaskFixture.h"
 #include "dialogs/shared/PointsTally.h"
 #include "session/globals/SessionGlobals.h"
@@ -71,10 +72,9 @@ TEST_F(NewTaskCheck, MissingPicksLightTheirFlagsAndStatusIsToldByABox) {
     EXPECT_EQ(scriptedUi().lastMessage().text, "Missing Task's Status.");
     EXPECT_EQ(scriptedUi().lastMessage().title, "Quorvel - Version 1.14");
     EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
-    EXPECT_EQ(tool("smtReady", "PROJECTFLAG").tip(), "Project not set.");
-    EXPECT_EQ(tool("smtReady", "IMPFLAG").tip(), "Importance not set.");
-    EXPECT_EQ(tool("smtReady", "DIFFFLAG").tip(), "Difficulty not set.");
-    EXPECT_EQ(tool("smtReady", "TIMENEEDEDFLAG").tip(), "Time Needed not set.");
+    expectTools(sheet("smtReady"), &Tool::tip,
+                {{"PROJECTFLAG", "Project not set."}, {"IMPFLAG", "Importance not set."},
+                 {"DIFFFLAG", "Difficulty not set."}, {"TIMENEEDEDFLAG", "Time Needed not set."}});
     EXPECT_EQ(tool("smtReady", "POINTS").text(), std::to_string(8 + 10 + 1)) << "unset levels fall back";
     EXPECT_FALSE(tool("smtActions", "QV").enabled());
 }
