@@ -26,7 +26,7 @@ protected:
 
 TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
     seed();
-    sql("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
+    exec("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
         "'");
     openAndLook([this] {
         EXPECT_EQ(form().caption(), "Quorvel - Version 1.14 - Task Appointment");
@@ -62,8 +62,8 @@ TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
 
 TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
     seed();
-    sql("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
-    sql("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
+    exec("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
+    exec("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
     openAndLook([this] {
         expectTools(sheet("smtABOUT"), &Tool::text, {{"STATUS", "Completed"}, {"DEADLINE", ""}, {"ISCURRENT", "No"}});
         expectTools(sheet("smtTimes"), &Tool::text, {{"DONE", "Complete"}, {"TIMESPENT", "1:15"}});
@@ -71,8 +71,8 @@ TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
         EXPECT_TRUE(tool("smtReady", "DONE").checked());
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 0);
     });
-    sql("UPDATE TASKAPPTS SET taWasWorked=0");
-    sql("UPDATE TASKS SET tskStatus=2");
+    exec("UPDATE TASKAPPTS SET taWasWorked=0");
+    exec("UPDATE TASKS SET tskStatus=2");
     openAndLook([this] {
         EXPECT_EQ(tool("smtTimes", "DONE").text(), "Not Complete");
         EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "On Hold");
@@ -81,14 +81,14 @@ TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
 
 TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold) {
     seed();
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID=''");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID=''");
     openAndLook([this] {
         EXPECT_FALSE(form().checklist.utilCheckListExists);
         EXPECT_FALSE(tool("smtCKActions", "EDIT").visible());
     });
     EXPECT_EQ(taskValue("tskHasChecklist"), "0") << "corrected while loading, without a save";
 
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
     answer(vbOK);
     openAndLook([this] { EXPECT_FALSE(form().checklist.utilCheckListExists); });
     ASSERT_EQ(scriptedUi().messages().size(), 1u);
@@ -96,7 +96,7 @@ TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold
     EXPECT_EQ(taskValue("tskTCheckListGUID"), kChecklist) << "the dead key stays until a save";
 
     const std::string name(81, 'n');
-    sql("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) + "', '" + name +
+    exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) + "', '" + name +
         "', 'step one')");
     openAndLook([this, name] {
         EXPECT_EQ(form().label("lblCk")->caption(), std::string(80, 'n') + "... Checklist: ");
@@ -123,7 +123,7 @@ TEST_F(AppointmentLoad, AKeyThatIsNoKeyReadsNoRowAndAMissingSlotKeepsTheTemplate
 
 TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowState) {
     seed();
-    sql("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] {
         EXPECT_EQ(form().geometry().left, 1000) << "the first value is the left";
         EXPECT_EQ(form().geometry().top, 2000);
@@ -131,9 +131,9 @@ TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowStat
     });
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM Settings WHERE SetSettingSection='TAS'"), 6);
 
-    sql("UPDATE Settings SET SetSettingValue='1' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("UPDATE Settings SET SetSettingValue='1' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbNormal) << "never back minimised, nor maximised"; });
-    sql("UPDATE Settings SET SetSettingValue='2' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("UPDATE Settings SET SetSettingValue='2' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbMaximized); });
 }
 

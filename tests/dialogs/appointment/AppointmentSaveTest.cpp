@@ -32,7 +32,7 @@ protected:
 
 TEST_F(AppointmentSave, TaskIsDoneWithABlankTimeSpentStoresTheSlotsLengthAndCompletesTheTask) {
     seed();
-    sql("UPDATE TASKS SET tskTimeScheduled=0");
+    exec("UPDATE TASKS SET tskTimeScheduled=0");
     click("smtReady", "DONE");
     then([this] {
         EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
@@ -152,9 +152,9 @@ TEST_F(AppointmentSave, ClosingAsksOnlyWithSomethingToUpdateAndEscapeCancels) {
 
 TEST_F(AppointmentSave, AChecklistRemovedIsUnlinkedAtTheSave) {
     seed();
-    sql("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
+    exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
         "', 'List', 'x')");
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
     then([this] { form().checklistLink().ckPicker_CKPicked("-NONE-"); });
     then([this] { EXPECT_EQ(taskValue("tskTCheckListGUID"), kChecklist) << "not before the save"; });
     type("smtTimes", "TIMESPENT", "0:30");
