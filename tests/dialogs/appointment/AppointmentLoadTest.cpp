@@ -121,7 +121,7 @@ TEST_F(AppointmentLoad, AKeyThatIsNoKeyReadsNoRowAndAMissingSlotKeepsTheTemplate
     EXPECT_TRUE(reporter().faults().empty());
 }
 
-TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowState) {
+TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndIsStoredAtTheClose) {
     seed();
     exec("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] {
@@ -135,10 +135,8 @@ TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowStat
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbNormal) << "never back minimised, nor maximised"; });
     exec("UPDATE Settings SET SetSettingValue='2' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbMaximized); });
-}
 
-TEST_F(AppointmentLoad, ResizeKeepsTheMinimumAndCloseStoresTheGeometry) {
-    seed();
+    // A resize keeps the minimum width; the close stores the geometry.
     then([this] {
         form().userResized({300, 400, 5000, 9000, vbNormal});
         EXPECT_EQ(form().geometry().width, 8400);
@@ -155,7 +153,7 @@ TEST_F(AppointmentLoad, ResizeKeepsTheMinimumAndCloseStoresTheGeometry) {
     EXPECT_EQ(readOne("SELECT SetSettingValue FROM Settings WHERE SetSettingSection='TAS' AND "
                       "setSettingDisplayOrd=1"),
               "300");
-    EXPECT_EQ(count("DoCloseTaskForm"), 1);
+    EXPECT_EQ(count("DoCloseTaskForm"), 4);
 }
 
 }  // namespace qv
