@@ -1,7 +1,5 @@
 #include "kit/QtDateTimeFormatter.h"
 
-#include <cstdio>
-
 namespace qv {
 
 // The date alone: a local QDateTime asks the system's time zone on every
@@ -17,14 +15,6 @@ QtDateTimeFormatter::QtDateTimeFormatter(QLocale locale)
 
 std::string QtDateTimeFormatter::longDate(double serial) const {
     return locale_.toString(dateOf(serial), QLocale::LongFormat).toStdString();
-}
-
-std::string QtDateTimeFormatter::longTime(double serial) const {
-    if (twelveHour_) return DateTimeFormatter::longTime(serial);
-    const Parts p = split(serial);
-    char text[16];
-    std::snprintf(text, sizeof text, "%02d:%02d:%02d", p.hour, p.minute, p.second);
-    return text;
 }
 
 }  // namespace qv

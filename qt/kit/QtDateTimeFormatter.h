@@ -18,10 +18,13 @@ public:
     explicit QtDateTimeFormatter(QLocale locale = QLocale::system());
 
     [[nodiscard]] std::string longDate(double serial) const override;
-    [[nodiscard]] std::string longTime(double serial) const override;
+
+protected:
+    [[nodiscard]] bool twentyFourHour() const override { return !twelveHour_; }
 
 private:
     [[nodiscard]] static QDate dateOf(double serial);
+
     QLocale locale_;
     bool twelveHour_;  // read once: the locale's time format is built anew on each ask
 };

@@ -23,6 +23,19 @@ std::unique_ptr<DateTimeFormatter>& installed() {
     return formatter;
 }
 
+// A number with at least `width` digits, zero-padded; never negative here.
+void put(std::string& out, int n, int width = 1) {
+    char digits[12];
+    int len = 0;
+    auto v = static_cast<unsigned>(n);
+    do {
+        digits[len++] = static_cast<char>('0' + v % 10);
+        v /= 10;
+    } while (v != 0);
+    for (int i = len; i < width; ++i) out += '0';
+    while (len > 0) out += digits[--len];
+}
+
 template <typename... Args>
 std::string print(const char* format, Args... args) {
     char buf[96];
@@ -40,10 +53,31 @@ DateTimeFormatter::Parts DateTimeFormatter::split(double serial) {
     return {t.year, t.month, t.day, DaySerial::weekday(day), t.hour, t.minute, t.second};
 }
 
-std::string DateTimeFormatter::shortDate(double serial) const {
-    const Parts p = split(serial);
-    return print("%d/%d/%04d", p.month, p.day, p.year);
+std::string DateTimeFormatter::dateText(const Parts& p) {
+    std::string s;
+    s.reserve(10);
+    put(s, p.month);
+    s += '/';
+    put(s, p.day);
+    s += '/';
+    put(s, p.year, 4);
+    return s;
 }
+
+std::string DateTimeFormatter::timeText(const Parts& p) const {
+    std::string s;
+    s.reserve(11);
+    const bool full = twentyFourHour();
+    put(s, full ? p.hour : (p.hour % 12 == 0 ? 12 : p.hour % 12), full ? 2 : 1);
+    s += ':';
+    put(s, p.minute, 2);
+    s += ':';
+    put(s, p.second, 2);
+    if (!full) s += p.hour < 12 ? " AM" : " PM";
+    return s;
+}
+
+std::string DateTimeFormatter::shortDate(double serial) const { return dateText(split(serial)); }
 
 std::string DateTimeFormatter::longDate(double serial) const {
     const Parts p = split(serial);
@@ -52,21 +86,22 @@ std::string DateTimeFormatter::longDate(double serial) const {
 
 std::string DateTimeFormatter::shortTime(double serial) const {
     const Parts p = split(serial);
-    return print("%02d:%02d", p.hour, p.minute);
+    std::string s;
+    s.reserve(5);
+    put(s, p.hour, 2);
+    s += ':';
+    put(s, p.minute, 2);
+    return s;
 }
 
-std::string DateTimeFormatter::longTime(double serial) const {
-    const Parts p = split(serial);
-    const int h12 = p.hour % 12 == 0 ? 12 : p.hour % 12;
-    return print("%d:%02d:%02d %s", h12, p.minute, p.second, p.hour < 12 ? "AM" : "PM");
-}
+std::string DateTimeFormatter::longTime(double serial) const { return timeText(split(serial)); }
 
 std::string DateTimeFormatter::generalDate(double serial) const {
     const Parts p = split(serial);
     const bool hasTime = p.hour != 0 || p.minute != 0 || p.second != 0;
-    if (std::trunc(serial) == 0.0 && hasTime) return longTime(serial);
-    if (!hasTime) return shortDate(serial);
-    return shortDate(serial) + " " + longTime(serial);
+    if (std::trunc(serial) == 0.0 && hasTime) return timeText(p);
+    if (!hasTime) return dateText(p);
+    return dateText(p) + " " + timeText(p);
 }
 
 const DateTimeFormatter& DateTimeFormatter::current() {

@@ -16,13 +16,13 @@ public:
     virtual ~DateTimeFormatter() = default;
 
     // "1/15/2024"
-    [[nodiscard]] virtual std::string shortDate(double serial) const;
+    [[nodiscard]] std::string shortDate(double serial) const;
     // "Monday, January 15, 2024"
     [[nodiscard]] virtual std::string longDate(double serial) const;
     // "17:45": the platform's short time is a 24-hour clock.
-    [[nodiscard]] virtual std::string shortTime(double serial) const;
-    // "5:45:00 PM"
-    [[nodiscard]] virtual std::string longTime(double serial) const;
+    [[nodiscard]] std::string shortTime(double serial) const;
+    // "5:45:00 PM", or "17:45:00" where the clock has 24 hours.
+    [[nodiscard]] std::string longTime(double serial) const;
     // Date and long time; the date alone at midnight, the time alone on day 0.
     [[nodiscard]] std::string generalDate(double serial) const;
 
@@ -38,6 +38,13 @@ protected:
     };
     // Splits a serial; Failure(err::Overflow) outside the years 100 to 9999.
     [[nodiscard]] static Parts split(double serial);
+    // Whether the long time has a 24-hour clock (the English one has not).
+    [[nodiscard]] virtual bool twentyFourHour() const { return false; }
+
+private:
+    // Written digit by digit: a schedule formats thousands of these at once.
+    [[nodiscard]] static std::string dateText(const Parts& p);
+    [[nodiscard]] std::string timeText(const Parts& p) const;
 };
 
 }  // namespace qv
