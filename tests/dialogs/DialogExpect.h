@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
@@ -28,6 +29,13 @@ inline void expectTools(const Sheet& sheet, const std::string& (Tool::*what)() c
         ASSERT_NE(tool, nullptr) << key;
         EXPECT_EQ((tool->*what)(), want) << key;
     }
+}
+
+// The captions of the sheet's tools, in their order.
+inline std::vector<std::string> captions(const Sheet& sheet) {
+    std::vector<std::string> out;
+    for (const auto& tool : sheet.tools()) out.push_back(tool->caption());
+    return out;
 }
 
 }  // namespace qv
