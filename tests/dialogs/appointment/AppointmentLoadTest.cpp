@@ -27,7 +27,7 @@ protected:
 TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
     seed();
     exec("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
-        "'");
+         "'");
     openAndLook([this] {
         EXPECT_EQ(form().caption(), "Quorvel - Version 1.14 - Task Appointment");
         EXPECT_EQ(form().editor("spellTask")->text(), "Slot text") << "the description is the slot's";
@@ -97,7 +97,7 @@ TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold
 
     const std::string name(81, 'n');
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) + "', '" + name +
-        "', 'step one')");
+         "', 'step one')");
     openAndLook([this, name] {
         EXPECT_EQ(form().label("lblCk")->caption(), std::string(80, 'n') + "... Checklist: ");
         EXPECT_EQ(form().checklist.utilChecklistName, name);

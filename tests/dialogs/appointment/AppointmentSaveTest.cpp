@@ -153,7 +153,7 @@ TEST_F(AppointmentSave, ClosingAsksOnlyWithSomethingToUpdateAndEscapeCancels) {
 TEST_F(AppointmentSave, AChecklistRemovedIsUnlinkedAtTheSave) {
     seed();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
-        "', 'List', 'x')");
+         "', 'List', 'x')");
     exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
     then([this] { form().checklistLink().ckPicker_CKPicked("-NONE-"); });
     then([this] { EXPECT_EQ(taskValue("tskTCheckListGUID"), kChecklist) << "not before the save"; });
