@@ -9,10 +9,9 @@
 #include "help/TourPreference.h"
 #include "help/frmPopHelp.h"
 #include "session/globals/SessionGlobals.h"
+#include "support/PrintPorts.h"
 #include "support/TestEnv.h"
-#include "toolkit/LocaleInfo.h"
 #include "toolkit/Ports.h"
-#include "toolkit/PrintSurface.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
@@ -36,12 +35,6 @@ struct MemoryTour : TourPreference {
     }
     bool show = true;
     int writes = 0;
-};
-
-struct FixedLocale : LocaleInfo {
-    explicit FixedLocale(int32_t m) : m_(m) {}
-    [[nodiscard]] int32_t measurementSystem() const override { return m_; }
-    int32_t m_;
 };
 
 // A full print settings string, as Page Setup writes one.
@@ -71,20 +64,18 @@ protected:
 
 TEST(HelpTopicsTable, NumbersTitlesAndTheSettledOddities) {
     for (int32_t t = 0; t <= 7; ++t) EXPECT_EQ(HelpTopics::find(t)->page, "help/POP-MetricsQV.htm") << t;
-    EXPECT_EQ(HelpTopics::find(8)->title, "Quorvel: Keywords");
-    EXPECT_EQ(HelpTopics::find(600)->title, "Quorvel: Creating New Tasks");
-    EXPECT_EQ(HelpTopics::find(601)->title, "Quorvel: Working With Existing Tasks");
-    EXPECT_EQ(HelpTopics::find(700)->title, "Quorvel: Working with Task Appointments");
-    EXPECT_EQ(HelpTopics::find(800)->page, "help/POP-ADDPROJECT.htm");
-    EXPECT_EQ(HelpTopics::find(6000)->title, "Quorvel Strategies");
-    EXPECT_EQ(HelpTopics::find(7000)->page, "help/QV-TOUR1.htm");
-    // Topic 10 shows its own page but keeps the catalog's for printing.
-    EXPECT_EQ(HelpTopics::find(10)->page, "help/POP-QVIMPORT.htm");
+    const std::pair<int32_t, const char*> titles[] = {
+        {8, "Quorvel: Keywords"},  {600, "Quorvel: Creating New Tasks"}, {601, "Quorvel: Working With Existing Tasks"},
+        {700, "Quorvel: Working with Task Appointments"}, {6000, "Quorvel Strategies"},
+        {99, "Quorvel: Task Catalog"}, {250, "Quorvel: Outlook Task Import"}};
+    for (const auto& [topic, title] : titles) EXPECT_EQ(HelpTopics::find(topic)->title, title) << topic;
+    // Topic 10 shows its own page but keeps the catalog's for printing; 99 is the help page
+    // under the catalog's title.
+    const std::pair<int32_t, const char*> pages[] = {
+        {800, "help/POP-ADDPROJECT.htm"}, {7000, "help/QV-TOUR1.htm"}, {10, "help/POP-QVIMPORT.htm"},
+        {99, "help/POP-HELP.htm"}};
+    for (const auto& [topic, page] : pages) EXPECT_EQ(HelpTopics::find(topic)->page, page) << topic;
     EXPECT_EQ(HelpTopics::find(10)->keptPath, "help/POP-TASKCAT.htm");
-    // Topic 99 is the help page under the catalog's title.
-    EXPECT_EQ(HelpTopics::find(99)->page, "help/POP-HELP.htm");
-    EXPECT_EQ(HelpTopics::find(99)->title, "Quorvel: Task Catalog");
-    EXPECT_EQ(HelpTopics::find(250)->title, "Quorvel: Outlook Task Import");
     for (int32_t unknown : {-1, 11, 22, 24, 501, 602, 7001, 100000}) EXPECT_FALSE(HelpTopics::find(unknown)) << unknown;
     EXPECT_EQ(HelpTopics::pageFiles().size(), 26u);
 }
@@ -118,9 +109,7 @@ TEST_F(PopHelpTest, SetupShowsTheTopicAndAnUnknownOneAnEmptyPaneWithoutAMessage)
 TEST_F(PopHelpTest, TheTourToolShowsForTheTourAloneAndCloseKeepsItsState) {
     tour.show = true;
     pop->Setup(kTourTopic);
-    EXPECT_TRUE(tool("NOSHOW").visible());
-    EXPECT_TRUE(tool("S1").visible());
-    EXPECT_TRUE(tool("NOSHOW").checked());
+    EXPECT_TRUE(tool("NOSHOW").visible() && tool("S1").visible() && tool("NOSHOW").checked());
     EXPECT_EQ(tool("NOSHOW").caption(), "Show Tour when Application starts");
     EXPECT_EQ(tool("NOSHOW").tip(), "Show/don't the Tour when application opens");
     click("NOSHOW");
@@ -166,7 +155,8 @@ TEST_F(PopHelpTest, BackReturnsAlongTheLinksFollowed) {
 }
 
 TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
-    FixedLocale us(1);
+    FixedLocale us;
+    us.system = 1;
     ports().locale = &us;
     fakeClock().setNow(45306.75);  // 15 January 2024, 18:00
     pop->setHelpPrinterSettings(kSettings);
@@ -185,22 +175,14 @@ TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
     const HelpPrintJob& job = printer.printed[0];
     EXPECT_EQ(job.page, page("POP-KEYWORDS.htm"));
     EXPECT_EQ(job.baseFolder, folder() + "/help/");
-    EXPECT_EQ(job.printer, "Office");
-    EXPECT_EQ(job.copies, 2);
-    EXPECT_EQ(job.paper, "Landscape");
-    EXPECT_EQ(job.marginTop, 2160);
-    EXPECT_EQ(job.marginBottom, 1440);
-    EXPECT_EQ(job.marginRight, 720);
-    EXPECT_EQ(job.marginLeft, 2880);
-    EXPECT_EQ(job.headingFont, "Serif");
-    EXPECT_EQ(job.headingSize, 16);
-    EXPECT_EQ(job.headingColor, 255);
+    EXPECT_EQ(std::vector<std::string>({job.printer, job.paper, job.headingFont, job.footerFont}),
+              std::vector<std::string>({"Office", "Landscape", "Serif", "Sans"}));
+    // Copies; margins top, bottom, right, left; heading and footer size and colour.
+    EXPECT_EQ(std::vector<int32_t>({job.copies, job.marginTop, job.marginBottom, job.marginRight, job.marginLeft,
+                                    job.headingSize, job.headingColor, job.footerSize, job.footerColor}),
+              std::vector<int32_t>({2, 2160, 1440, 720, 2880, 16, 255, 8, 128}));
     EXPECT_EQ(job.heading, "Quorvel: Keywords");  // not "Quorvel -": kept whole
     EXPECT_EQ(job.footer, "{newline}{line}{Left}1/15/2024{Right}{PageNum}");
-    EXPECT_EQ(job.footerFont, "Sans");
-    EXPECT_EQ(job.footerSize, 8);
-    EXPECT_EQ(job.footerColor, 128);
-
 
     scriptedUi().queueAnswer(vbYes);
     click("PRINTPREVIEW");
@@ -212,7 +194,7 @@ TEST_F(PopHelpTest, PrintAsksFirstAndLaysThePageOutFromThePrintSettings) {
 }
 
 TEST_F(PopHelpTest, PrintFollowsThePaneAndSettlesMetricMarginsAndMissingSettings) {
-    FixedLocale metric(0);
+    FixedLocale metric;
     ports().locale = &metric;
     fakeClock().setNow(45306.75);
     pop->setHelpPrinterSettings("TOP=2.54\tFLEFT=Page Number\tFRIGHT=--Page Number--\t");
@@ -243,9 +225,8 @@ TEST_F(PopHelpTest, AFaultIsReportedUnderTheFormsOwnProjectName) {
     scriptedUi().queueAnswer(vbYes);
     click("PRINT");
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].project, "QuorvelExportExcel");
-    EXPECT_EQ(reporter().faults()[0].module, "frmPopHelp");
-    EXPECT_EQ(reporter().faults()[0].procedure, "smtAction_Click");
+    const auto& fault = reporter().faults()[0];
+    EXPECT_EQ(fault.project + "." + fault.module + "." + fault.procedure, "QuorvelExportExcel.frmPopHelp.smtAction_Click");
     EXPECT_EQ(ended, 1);
 }
 
@@ -265,18 +246,6 @@ TEST_F(PopHelpTest, TheViewerShowsThePopUpModallyUntilItIsClosed) {
     EXPECT_EQ(scriptedUi().shown(), std::vector<std::string>{"frmPopHelp"});
     EXPECT_EQ(scriptedUi().pendingActions(), 0u);
 }
-
-}  // namespace
-}  // namespace qv
-
-namespace qv {
-namespace {
-
-struct RecordingSurface : PrintSurface {
-    void print(const PrintJob& job) override { printed.push_back(job); }
-    void preview(const PrintJob& job) override { previewed.push_back(job); }
-    std::vector<PrintJob> printed, previewed;
-};
 
 // A help page reaches the one print engine with its file, heading, footer
 // and margins; with no engine installed nothing happens.

@@ -93,18 +93,14 @@ struct Tally {
 
 Tally inspect(const std::string& folder) {
     StoreFile store(folder + "/QuorvelData.mdb");
+    const auto count = [&](const std::string& sql) { return std::stoll(store.firstValue(sql).value_or("0")); };
     Tally t;
     t.integrity = store.firstValue("PRAGMA integrity_check").value_or("");
-    t.tasks = std::stoll(store.firstValue("SELECT COUNT(*) FROM TASKS").value_or("0"));
-    t.halfTasks = std::stoll(store
-                                 .firstValue("SELECT COUNT(*) FROM TASKS WHERE (SELECT COUNT(*) FROM "
-                                             "TaskKeywords WHERE ktTASKGUID=tskGUIDID) <> 3")
-                                 .value_or("0"));
-    t.orphanLinks = std::stoll(
-        store
-            .firstValue(
-                "SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID NOT IN (SELECT tskGUIDID FROM TASKS)")
-            .value_or("0"));
+    t.tasks = count("SELECT COUNT(*) FROM TASKS");
+    t.halfTasks = count(
+        "SELECT COUNT(*) FROM TASKS WHERE (SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID=tskGUIDID) <> 3");
+    t.orphanLinks =
+        count("SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID NOT IN (SELECT tskGUIDID FROM TASKS)");
     return t;
 }
 

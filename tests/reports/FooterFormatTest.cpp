@@ -22,12 +22,10 @@ TEST(FooterFormat, MarkersMakeRuledLinesWithTwoSidesAndThePageNumber) {
     EXPECT_EQ(FooterFormat::lines("{x}", 1).at(0).left, "{x}");
 
     // What the footer picks turn into at print time.
-    EXPECT_EQ(FooterText::forPrint("<#>", 45000.0), "{PageNum}");
-    EXPECT_EQ(FooterText::forPrint("Page Number", 45000.0), "{PageNum}");
-    EXPECT_EQ(FooterText::forPrint("--Page Number--", 45000.0), "--Page Number--");
-    EXPECT_EQ(FooterText::forPrint("--Short Date--", 45000.5), "3/15/2023");
-    EXPECT_EQ(FooterText::forPrint("--Date Time--", 45000.5), "3/15/2023 12:00");
-    EXPECT_EQ(FooterText::forPrint("Quorvel", 45000.0), "Quorvel");
+    const std::pair<const char*, const char*> picks[] = {
+        {"<#>", "{PageNum}"},         {"Page Number", "{PageNum}"},          {"--Page Number--", "--Page Number--"},
+        {"--Short Date--", "3/15/2023"}, {"--Date Time--", "3/15/2023 12:00"}, {"Quorvel", "Quorvel"}};
+    for (const auto& [pick, printed] : picks) EXPECT_EQ(FooterText::forPrint(pick, 45000.5), printed) << pick;
 }
 
 }  // namespace qv

@@ -220,8 +220,7 @@ TEST_F(PageSetupTest, AStringThatIsNotWholeTakesTheErrorPath) {
     auto f = std::make_shared<frmPageSetup>();
     f->PageSetup();
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].module, "frmPageSetup");
-    EXPECT_EQ(reporter().faults()[0].procedure, "PageSetup");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "frmPageSetup.PageSetup");
     EXPECT_FALSE(f->loaded());
     // The defaults a host gives before it has a string of its own are whole.
     for (int32_t dialog : {0, 1, 2}) {

@@ -95,10 +95,9 @@ TEST_F(TaskReportRowsTest, TheScheduleFromTheGridThroughTheWholeReport) {
         [&grid] { return TaskReportRows::schedule(grid); });
     TaskReport report(TaskReport::kExistingTask, source, "frmExistingTask");
     const std::string html = report.MakeHTML().value_or("");
-    EXPECT_NE(html.find(">Prune the roses</font>"), std::string::npos);
-    EXPECT_NE(html.find(">3/1/2026 9:00</font>"), std::string::npos);
-    EXPECT_NE(html.find(">3/2/2026 10:00</font>"), std::string::npos) << "the last appointment is shown";
-    EXPECT_NE(html.find(">1:35</font>"), std::string::npos);
+    // The last appointment is shown too.
+    for (const char* cell : {">Prune the roses</font>", ">3/1/2026 9:00</font>", ">3/2/2026 10:00</font>", ">1:35</font>"})
+        EXPECT_NE(html.find(cell), std::string::npos) << cell;
     EXPECT_EQ(html.find("k1"), std::string::npos);
     EXPECT_TRUE(reporter().faults().empty());
 }

@@ -25,23 +25,21 @@ protected:
     }
 };
 
-const char* const kSub1 =
-    "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Task:</span></font></h2><BR>";
+// A section's heading in Verdana at 10 points.
+std::string subTitle(const std::string& title) {
+    return "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">" + title +
+           "</span></font></h2><BR>";
+}
 
 }  // namespace
 
 TEST_F(HTMLMakeTest, DefaultsAndTheHeadingBuiltWhenPut) {
     clsHTMLMake m;
-    EXPECT_EQ(m.CellPading(), "0");
-    EXPECT_EQ(m.CellSpacing(), "0");
-    EXPECT_EQ(m.Border(), "1");
-    EXPECT_EQ(m.GridHeaderbackColor(), "#C0C0C0");
-    EXPECT_EQ(m.GridDetailbackColor(), "");
-    EXPECT_EQ(m.Fontface(), "Tahoma");
-    EXPECT_EQ(m.ReportFileName(), "HTMLRpt.html");
-    EXPECT_EQ(m.ReportPath(), folder());
-    EXPECT_EQ(m.PageTitle(), "HTML Report");
-    EXPECT_EQ(m.ReportTitle(), "Sample HTML Report");
+    EXPECT_EQ(std::vector<std::string>({m.CellPading(), m.CellSpacing(), m.Border(), m.GridHeaderbackColor(),
+                                        m.GridDetailbackColor(), m.Fontface(), m.ReportFileName(),
+                                        m.ReportPath(), m.PageTitle(), m.ReportTitle()}),
+              std::vector<std::string>({"0", "0", "1", "#C0C0C0", "", "Tahoma", "HTMLRpt.html", folder(),
+                                        "HTML Report", "Sample HTML Report"}));
     EXPECT_EQ(m.HeadingSize(), 0);
     EXPECT_TRUE(m.UnderLineRequired());
     EXPECT_EQ(m.RowCount(), 0);
@@ -80,17 +78,9 @@ TEST_F(HTMLMakeTest, SectionsOfChecklistNotesAndSchedule) {
     m.setReportSubTitle(4, "Schedule:");
     m.setChecklist("<b>1. Dig</b>");
     m.setNotes("x < y");
-    EXPECT_EQ(m.Checklist(),
-              "\r\n<BR><h2><font face=Verdana color=4><span style= "
-              "\"font-size:10pt\">Checklist:</span></font></h2><BR>"
-              "\r\n<b>1. Dig</b>");
-    EXPECT_EQ(
-        m.Notes(),
-        "\r\n<BR><h2><font face=Verdana color=4><span style= \"font-size:10pt\">Notes:</span></font></h2><BR>"
-        "\r\nx < y");
-    const std::string schedHeading =
-        "\r\n<BR><h2><font face=Verdana color=4><span style= "
-        "\"font-size:10pt\">Schedule:</span></font></h2><BR>";
+    EXPECT_EQ(m.Checklist(), subTitle("Checklist:") + "\r\n<b>1. Dig</b>");
+    EXPECT_EQ(m.Notes(), subTitle("Notes:") + "\r\nx < y");
+    const std::string schedHeading = subTitle("Schedule:");
     // "--NONE--" keeps the schedule's heading, unlike the other sections.
     m.settheSchedule("--NONE--");
     EXPECT_EQ(m.theSchedule(), schedHeading + "No Schedule.");
@@ -123,7 +113,7 @@ TEST_F(HTMLMakeTest, TaskTableExactly) {
         "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" "
         "size=\"2\">";
     EXPECT_EQ(m.theTask(),
-              std::string(kSub1) +
+              subTitle("Task:") +
                   "<table WIDTH=\"100%\" cellpadding=\"4\"\r\n cellspacing=\"4\"\r\n border=\"1\">\r\n"
                   "<tr BGCOLOR=\"#C0C0C0\">\r\n"
                   "<td width=\"40%\"align=\"center\" ><font face=\"Verdana\" "
@@ -148,7 +138,7 @@ TEST_F(HTMLMakeTest, TaskTableExactly) {
     m.setGridDetailbackColor("");
     m.setTaskRows(rows(2, {{"A", "B"}}));
     EXPECT_EQ(m.theTask(),
-              std::string(kSub1) +
+              subTitle("Task:") +
                   "<table WIDTH=\"100%\" cellpadding=\"4\"\r\n cellspacing=\"4\"\r\n border=\"1\">\r\n"
                   "<tr BGCOLOR=\"#C0C0C0\">\r\n"
                   "<td align=\"center\" ><font face=\"Verdana\" color=\"\"><b>What</b></font></td>\r\n"

@@ -60,30 +60,30 @@ protected:
         EXPECT_FALSE(fs::exists(storePath() + "-wal") && fs::file_size(storePath() + "-wal") > 0);
     }
 
+    void nextSession() {
+        reporter().clear();
+        exits = 0;
+    }
+
     clsTask2 task;
     int exits = 0;
 };
 
 TEST_F(StoreFaultTest, AFileThatIsNoStoreGivesOneReportAndStaysAsItWas) {
-    const std::string junk(4096, '\x5a');
-    writeFile(storePath(), junk);
-    openAndClose();
-    expectOneReport("is not a Quorvel data file");
-    EXPECT_EQ(readFile(storePath()), junk);
-    EXPECT_TRUE(scriptedUi().messages().empty());
-
-    // The next session is told again, once.
-    reporter().clear();
-    exits = 0;
-    openAndClose();
-    expectOneReport("is not a Quorvel data file");
-}
-
-TEST_F(StoreFaultTest, AnEmptyFileIsNotTurnedIntoAStore) {
-    writeFile(storePath(), "");
-    openAndClose();
-    expectOneReport("is not a Quorvel data file");
-    EXPECT_EQ(fs::file_size(storePath()), 0u);
+    // An empty file is not turned into a store either.
+    for (const std::string junk : {std::string(4096, '\x5a'), std::string()}) {
+        SCOPED_TRACE(junk.size());
+        writeFile(storePath(), junk);
+        openAndClose();
+        expectOneReport("is not a Quorvel data file");
+        EXPECT_EQ(readFile(storePath()), junk);
+        EXPECT_TRUE(scriptedUi().messages().empty());
+        // The next session is told again, once.
+        nextSession();
+        openAndClose();
+        expectOneReport("is not a Quorvel data file");
+        nextSession();
+    }
 }
 
 TEST_F(StoreFaultTest, AReadOnlyFileIsReadAndRefusesTheCloseWriteOnce) {
@@ -115,14 +115,12 @@ TEST_F(StoreFaultTest, AMissingTableOrColumnIsNamedAndNoGeometryIsWritten) {
     expectOneReport("is missing the table KEYWORDS");
     EXPECT_EQ(geometry(), stored) << "the window's geometry was written over";
 
-    reporter().clear();
-    exits = 0;
+    nextSession();
     exec("DROP TABLE Settings");
     openAndClose();
     expectOneReport("is missing the table Settings");
 
-    reporter().clear();
-    exits = 0;
+    nextSession();
     exec("DROP INDEX IF EXISTS idxProjectsName; ALTER TABLE PROJECTS DROP COLUMN prjProject");
     exec("CREATE TABLE Settings (SetUser TEXT)");
     openAndClose();

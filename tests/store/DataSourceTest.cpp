@@ -59,9 +59,7 @@ TEST_F(NotAStore, OpeningAFileThatIsNoStoreGoesDownTheErrorPath) {
     EXPECT_FALSE(rst);
     ASSERT_EQ(reporter().faults().size(), 1u);
     const auto& fault = reporter().faults()[0];
-    EXPECT_EQ(fault.project, "QuorvelTask2");
-    EXPECT_EQ(fault.module, "clsSettings");
-    EXPECT_EQ(fault.procedure, "GetData");
+    EXPECT_EQ(fault.project + "." + fault.module + "." + fault.procedure, "QuorvelTask2.clsSettings.GetData");
     EXPECT_NE(fault.description.find("is not a Quorvel data file"), std::string::npos) << fault.description;
     EXPECT_NE(fault.description.find(storePath()), std::string::npos) << fault.description;
     EXPECT_EQ(fault.number, err::StoreFailure);
@@ -131,8 +129,7 @@ TEST_F(TestEnv, NewRowsGoThroughTheEmptySet) {
     clsNewTask fresh;
     EXPECT_FALSE(fresh.UpdateRST());
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].module, "clsNewTask");
-    EXPECT_EQ(reporter().faults()[0].procedure, "UpdateRST");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "clsNewTask.UpdateRST");
     EXPECT_EQ(reporter().faults()[0].number, err::ObjectRequired);
 }
 

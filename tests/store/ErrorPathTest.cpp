@@ -38,8 +38,7 @@ TEST_F(TestEnv, ReportErrorTellsTheReporterAndUnloadsTheMainFormLast) {
 
     ASSERT_EQ(reporter().faults().size(), 1u);
     const auto& fault = reporter().faults()[0];
-    EXPECT_EQ(fault.module, "m_Task");
-    EXPECT_EQ(fault.procedure, "SaveTask");
+    EXPECT_EQ(fault.module + "." + fault.procedure, "m_Task.SaveTask");
     EXPECT_EQ(fault.number, 6);
     EXPECT_EQ(fault.line, 12);
     EXPECT_EQ(fault.ustuff[5], "f");

@@ -96,6 +96,12 @@ protected:
         return Failure(0, "no failure");
     }
 
+    // A store failure whose description names each of the parts.
+    static void expectStoreFailure(const Failure& f, std::initializer_list<std::string> parts) {
+        EXPECT_EQ(f.number(), err::StoreFailure);
+        for (const auto& part : parts) EXPECT_NE(f.description().find(part), std::string::npos) << f.description();
+    }
+
     RecordsetPtr open(const std::string& sql, int32_t lock = adLockBatchOptimistic) const {
         auto rs = std::make_shared<Recordset>();
         rs->CursorLocation = adUseClient;
@@ -153,31 +159,26 @@ TEST_F(RecordsetTest, EveryColumnTypeRoundTrips) {
         rs->Close();
     }
     // As stored: booleans 0/1, dates ISO text with milliseconds.
-    EXPECT_EQ(readOne("SELECT tBool FROM TYPES WHERE tKey='A'"), "1");
-    EXPECT_EQ(readOne("SELECT tBool FROM TYPES WHERE tKey='B'"), "0");
-    EXPECT_EQ(readOne("SELECT typeof(tBool) FROM TYPES WHERE tKey='A'"), "integer");
-    EXPECT_EQ(readOne("SELECT tDate FROM TYPES WHERE tKey='A'"), "2001-04-19T12:00:00.000");
-    EXPECT_EQ(readOne("SELECT tDate FROM TYPES WHERE tKey='B'"), "1899-12-29T06:00:00.000");
-    EXPECT_EQ(readOne("SELECT tNull IS NULL FROM TYPES WHERE tKey='A'"), "1");
+    EXPECT_EQ(readOne("SELECT tBool || '|' || typeof(tBool) || '|' || tDate || '|' || (tNull IS NULL) FROM TYPES "
+                      "WHERE tKey='A'"),
+              "1|integer|2001-04-19T12:00:00.000|1");
+    EXPECT_EQ(readOne("SELECT tBool || '|' || tDate FROM TYPES WHERE tKey='B'"), "0|1899-12-29T06:00:00.000");
     EXPECT_EQ(readOne("SELECT tText FROM TYPES WHERE tKey='A'"), text);
 
     auto rs = open("SELECT * from TYPES ORDER BY tKey", adLockReadOnly);
     ASSERT_EQ(rs->RecordCount(), 2);
     ASSERT_FALSE(rs->EOF_());
     EXPECT_TRUE(rs->Fields("tNull").value().isNull());
-    EXPECT_EQ(rs->Fields("tBool").value(), Value(true));
+    const auto expectRow = [&](std::initializer_list<std::pair<const char*, Value>> fields) {
+        for (const auto& [name, v] : fields) EXPECT_EQ(rs->Fields(name).value(), v) << name;
+    };
+    expectRow({{"tBool", Value(true)}, {"tInt16", Value(int16_t{-5})}, {"tInt32", Value(int32_t{123456})},
+               {"tDouble", Value(1.5)}, {"tDate", Value(Date{37000.5})}, {"tText", Value(text)}});
     EXPECT_EQ(rs->Fields("tBool").value().toInt32(), -1);
-    EXPECT_EQ(rs->Fields("tInt16").value(), Value(int16_t{-5}));
-    EXPECT_EQ(rs->Fields("tInt32").value(), Value(int32_t{123456}));
-    EXPECT_EQ(rs->Fields("tDouble").value(), Value(1.5));
-    EXPECT_EQ(rs->Fields("tDate").value(), Value(Date{37000.5}));
-    EXPECT_EQ(rs->Fields("tText").value(), Value(text));
     EXPECT_EQ(rs->Fields("tText").value().kind(), Value::Kind::Text);
     rs->MoveNext();
-    EXPECT_EQ(rs->Fields("tBool").value(), Value(false));
-    EXPECT_EQ(rs->Fields("tDate").value(), Value(Date{-1.25}));
-    EXPECT_EQ(rs->Fields("tInt32").value(), Value(int32_t{1234}));
-    EXPECT_EQ(rs->Fields("tDouble").value(), Value(7.0));
+    expectRow({{"tBool", Value(false)}, {"tDate", Value(Date{-1.25})}, {"tInt32", Value(int32_t{1234})},
+               {"tDouble", Value(7.0)}});
     EXPECT_TRUE(rs->Fields("tInt16").value().isNull());
     EXPECT_TRUE(rs->Fields("tText").value().isNull());
     rs->MoveNext();
@@ -320,10 +321,9 @@ TEST_F(RecordsetTest, JetTextsRunUnchanged) {
     const auto shape = jet::analyse(sql);
     EXPECT_TRUE(shape.singleTable);
     EXPECT_EQ(jet::countQuery(sql, shape), "SELECT COUNT(*) FROM (SELECT tskGUIDID from TASKS WHERE x=1 ) AS qv_counted");
-    EXPECT_FALSE(jet::analyse("SELECT a from T, U").singleTable);
-    EXPECT_FALSE(jet::analyse("SELECT a from T JOIN U ON T.x=U.x").singleTable);
-    EXPECT_FALSE(jet::analyse("SELECT DISTINCT a from T").singleTable);
-    EXPECT_FALSE(jet::analyse("SELECT a from (SELECT a FROM T)").singleTable);
+    for (const char* several : {"SELECT a from T, U", "SELECT a from T JOIN U ON T.x=U.x", "SELECT DISTINCT a from T",
+                                "SELECT a from (SELECT a FROM T)"})
+        EXPECT_FALSE(jet::analyse(several).singleTable) << several;
 }
 
 TEST_F(RecordsetTest, AReadOnlySetRefusesWrites) {
@@ -400,10 +400,7 @@ TEST_F(RecordsetTest, ABatchIsAllOrNothing) {
     rs->AddNew();
     rs->Fields("tskGUIDID") = Value("T1");  // the key is unique: this one fails
     rs->Update();
-    const Failure f = failureOf([&] { rs->UpdateBatch(); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("UNIQUE"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"UNIQUE", path_});
     EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "3");
     EXPECT_EQ(readOne("SELECT count(*) FROM TASKS WHERE tskGUIDID='FRESH'"), "0");
 }
@@ -473,21 +470,18 @@ TEST_F(RecordsetTest, AFileThatIsNoDatabaseFailsClearly) {
         std::ofstream out(path_, std::ios::binary | std::ios::trunc);
         out << junk;
     }
-    const Failure f = failureOf([&] { open("SELECT * from TASKS"); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("is not a Quorvel data file"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { open("SELECT * from TASKS"); }), {"is not a Quorvel data file", path_});
     EXPECT_EQ(fileBytes(path_), junk);
     EXPECT_FALSE(fs::exists(path_ + "-wal"));
 
     // A missing file is a failure too, and is not created.
     const std::string missing = dir_ + "/Missing.mdb";
     Recordset rs;
-    const Failure m = failureOf([&] {
-        rs.Open("SELECT * from TASKS", "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + missing + ";");
-    });
-    EXPECT_EQ(m.number(), err::StoreFailure);
-    EXPECT_NE(m.description().find(missing), std::string::npos) << m.description();
+    expectStoreFailure(failureOf([&] {
+                           rs.Open("SELECT * from TASKS",
+                                   "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + missing + ";");
+                       }),
+                       {missing});
     EXPECT_FALSE(fs::exists(missing));
     EXPECT_EQ(rs.State(), adStateClosed);
 }
@@ -501,10 +495,7 @@ TEST_F(RecordsetTest, AReadOnlyFileFailsClearlyAndStaysUnchanged) {
     EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));  // reading works
     rs->Fields("tskDesc") = Value("changed");
     rs->Update();
-    const Failure f = failureOf([&] { rs->UpdateBatch(); });
-    EXPECT_EQ(f.number(), err::StoreFailure);
-    EXPECT_NE(f.description().find("read"), std::string::npos) << f.description();
-    EXPECT_NE(f.description().find(path_), std::string::npos) << f.description();
+    expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"read", path_});
 
     auto add = open("SELECT * from TASKS WHERE tskImp= 6");
     add->AddNew();
@@ -540,9 +531,7 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     EXPECT_EQ(failureOf([&] { rs.Close(); }).number(), 3704);
     EXPECT_EQ(failureOf([&] { (void)desc.value(); }).number(), 3704);
     // A query the store can't run fails with the store's words and the query.
-    const Failure bad = failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); });
-    EXPECT_EQ(bad.number(), err::StoreFailure);
-    EXPECT_NE(bad.description().find("is missing the table NOSUCH"), std::string::npos) << bad.description();
+    expectStoreFailure(failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); }), {"is missing the table NOSUCH"});
     EXPECT_EQ(rs.State(), adStateClosed);
 }
 

@@ -49,15 +49,13 @@ TEST_F(Installer, AFreshStoreHoldsEverySectionTheLoadReads) {
 }
 
 TEST_F(Installer, TablesCarryTheirNamesTypesAndKeys) {
-    EXPECT_EQ(declaredType("TASKS", "tskTCheckListGUID"), "TEXT");
-    EXPECT_EQ(declaredType("TASKSCAT", "tskCheckListGUID"), "TEXT");
-    EXPECT_EQ(declaredType("TASKSCAT", "tskTCheckListGUID"), "");
-    EXPECT_EQ(declaredType("TASKSCAT", "tskTimeN4"), "INTEGER");
-    EXPECT_EQ(declaredType("TASKS", "tskCurrent"), "BOOLEAN");
-    EXPECT_EQ(declaredType("TASKS", "tskDeadline"), "DATETIME");
-    EXPECT_EQ(declaredType("TASKAPPTS", "taImp"), "SMALLINT");
-    EXPECT_EQ(declaredType("PROJECTS", "StatusLong"), "INTEGER");
-    EXPECT_EQ(declaredType("CHECKLISTS", "ckContent"), "TEXT");
+    const char* const columns[][3] = {
+        {"TASKS", "tskTCheckListGUID", "TEXT"}, {"TASKSCAT", "tskCheckListGUID", "TEXT"},
+        {"TASKSCAT", "tskTCheckListGUID", ""},  {"TASKSCAT", "tskTimeN4", "INTEGER"},
+        {"TASKS", "tskCurrent", "BOOLEAN"},     {"TASKS", "tskDeadline", "DATETIME"},
+        {"TASKAPPTS", "taImp", "SMALLINT"},     {"PROJECTS", "StatusLong", "INTEGER"},
+        {"CHECKLISTS", "ckContent", "TEXT"}};
+    for (const auto& c : columns) EXPECT_EQ(declaredType(c[0], c[1]), c[2]) << c[0] << "." << c[1];
 
     // A second catalog save of the same task fails on the key; an
     // appointment key or a keyword link may stand twice.

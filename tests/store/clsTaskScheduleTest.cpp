@@ -28,11 +28,10 @@ TEST_F(TaskSchedule, AddTAReadsImportanceFirstAndDifficultyLast) {
     EXPECT_TRUE(schedule.AddTA("A2", "T1", "Home", "P1", start, end, "Paint the fence", "3"));
     EXPECT_EQ(schedule.GetRowCount(), 2);  // the set was requeried
 
-    EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty FROM TASKAPPTS WHERE taGUIDID='A1'"), "3/1");
+    EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty || '/' || taWasWorked || '/' || taProjectGUIDID || "
+                      "'/' || taTaskDesc FROM TASKAPPTS WHERE taGUIDID='A1'"),
+              "3/1/0/P1/Paint the fence");
     EXPECT_EQ(readOne("SELECT taImp || '/' || taDifficulty FROM TASKAPPTS WHERE taGUIDID='A2'"), "3/3");
-    EXPECT_EQ(readOne("SELECT taWasWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "0");
-    EXPECT_EQ(readOne("SELECT taProjectGUIDID || taTaskDesc FROM TASKAPPTS WHERE taGUIDID='A1'"),
-              "P1Paint the fence");
     EXPECT_EQ(readOne("SELECT taStartTime FROM TASKAPPTS WHERE taGUIDID='A1'").substr(0, 16),
               "2024-01-15T09:00");
     EXPECT_EQ(readOne("SELECT taTimeWorked FROM TASKAPPTS WHERE taGUIDID='A1'"), "");
@@ -42,8 +41,7 @@ TEST_F(TaskSchedule, AddTAReadsImportanceFirstAndDifficultyLast) {
     EXPECT_FALSE(schedule.AddTA("A4", "T1", "Home", "P1", start, end, "x", ""));
     EXPECT_EQ(rows(), 2);
     ASSERT_EQ(reporter().faults().size(), 2u);
-    EXPECT_EQ(reporter().faults()[0].module, "clsTaskSchedule");
-    EXPECT_EQ(reporter().faults()[0].procedure, "AddTA");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "clsTaskSchedule.AddTA");
     EXPECT_EQ(reporter().faults()[0].number, err::TypeMismatch);
 }
 

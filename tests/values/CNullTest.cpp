@@ -29,8 +29,7 @@ TEST(CNull, NullGivesTheDefaultElseTheConvertedValue) {
 }
 
 TEST(CNull, ValuesThatDontConvertFail) {
-    EXPECT_THROW((void)CNull::NVLByte(Value(int32_t{256})), Failure);
-    EXPECT_THROW((void)CNull::NVLByte(Value(int32_t{-1})), Failure);
+    for (int32_t byte : {256, -1}) EXPECT_THROW((void)CNull::NVLByte(Value(byte)), Failure) << byte;
     EXPECT_THROW((void)CNull::NVLInt(Value(int32_t{40000})), Failure);
     EXPECT_THROW((void)CNull::NVLLng(Value("abc")), Failure);
     EXPECT_THROW((void)CNull::NVLSng(Value(1e39)), Failure);

@@ -19,11 +19,9 @@ TEST_F(DateFormatsTest, LoadsByExactNames) {
     exec("UPDATE Settings SET SetSettingValue='Avril' WHERE SetSettingSection='DateFormats' AND "
          "SetSettingName='Month4'");
     ASSERT_TRUE(LoadDateFormatSettings());
-    EXPECT_EQ(g().DateFormats[0], "");  // "month1" is not Month1
-    EXPECT_EQ(g().DateFormats[3], "Avril");
-    EXPECT_EQ(g().DateFormats[18], "Sunday");
-    EXPECT_EQ(g().DateFormats[38], "8454016");  // ApptOutlook
-    EXPECT_EQ(g().DateFormats[39], "0");        // HoursColor
+    // "month1" is not Month1; 38 and 39 are ApptOutlook and HoursColor.
+    const std::pair<int, const char*> texts[] = {{0, ""}, {3, "Avril"}, {18, "Sunday"}, {38, "8454016"}, {39, "0"}};
+    for (const auto& [at, text] : texts) EXPECT_EQ(g().DateFormats[at], text) << at;
     EXPECT_EQ(dateFormatKeys().size(), 40u);
     EXPECT_EQ(dateFormatKeys()[35], "HoursInDay");
 }

@@ -25,8 +25,7 @@ protected:
     }
     void expectOneFault(int32_t number) {
         ASSERT_EQ(reporter().faults().size(), 1u);
-        EXPECT_EQ(reporter().faults()[0].module, "m_Task");
-        EXPECT_EQ(reporter().faults()[0].procedure, "LoadSettings");
+        EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "m_Task.LoadSettings");
         EXPECT_EQ(reporter().faults()[0].number, number);
     }
 };
@@ -63,11 +62,10 @@ TEST_F(SettingsTest, OlderStoresGainTheirMissingRows) {
     ASSERT_TRUE(LoadSettings());
     EXPECT_EQ(rows("TAS"), 6);
     EXPECT_EQ(g().TASWindow[5], 0);
-    EXPECT_EQ(value("TAS", "WindowState"), "0");
-    EXPECT_EQ(value("TAS", "WindowState", "SetDefault"), "0");
-    EXPECT_EQ(value("TAS", "WindowState", "setSettingDisplayOrd"), "5");
-    EXPECT_EQ(value("TAS", "WindowState", "setSettingComment"), "Open Max or Normal, never minimized");
-    EXPECT_EQ(value("TAS", "WindowState", "SetUser"), "1");
+    EXPECT_EQ(value("TAS", "WindowState",
+                    "SetSettingValue || '/' || SetDefault || '/' || setSettingDisplayOrd || '/' || SetUser || '/' "
+                    "|| setSettingComment"),
+              "0/0/5/1/Open Max or Normal, never minimized");
     EXPECT_EQ(rows("TASKWINDOW"), 5);
     EXPECT_EQ(value("TASKWINDOW", "WindowState", "setSettingDisplayOrd"), "5");  // 5, not 4
 
@@ -80,11 +78,8 @@ TEST_F(SettingsTest, OlderStoresGainTheirMissingRows) {
                                       : "SELECT group_concat(SetSettingName) FROM (SELECT SetSettingName FROM "
                                         "Settings WHERE SetSettingSection='ETASK' ORDER BY rowid)"),
               "meLeft,meHeight,meSplit,meTop,meWidth");
-    EXPECT_EQ(g().ETaskWindow[0], 1000);
-    EXPECT_EQ(g().ETaskWindow[1], 3705);
-    EXPECT_EQ(g().ETaskWindow[2], 9975);
-    EXPECT_EQ(g().ETaskWindow[3], 7950);
-    EXPECT_EQ(g().ETaskWindow[4], 2505);  // the split lands where the state is read
+    // The split lands where the state is read.
+    EXPECT_EQ(g().ETaskWindow, (std::array<int32_t, 6>{1000, 3705, 9975, 7950, 2505, 0}));
 
     // Five rows are no upgrade case; four are.
     ASSERT_TRUE(LoadSettings());

@@ -2,12 +2,10 @@
 
 #include <cstdlib>
 
+#include "support/PrintPorts.h"
 #include "toolkit/Failure.h"
-#include "toolkit/FakeClock.h"
-#include "toolkit/LocaleInfo.h"
-#include "toolkit/Ports.h"
-#include "toolkit/ScriptedUi.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/ToolkitFixture.h"
 #include "toolkit/Timer.h"
 #include "values/International.h"
 #include "values/TaskUtil.h"
@@ -21,8 +19,7 @@ TEST(TaskUtil, ColourTexts) {
     EXPECT_EQ(RGBToHex("1;2;3;4", ";"), "123");
     EXPECT_EQ(LongToHex(255), "FF0000");
     EXPECT_EQ(LongToHex(0), "000000");
-    EXPECT_THROW((void)RGBToHex("255,0", ","), Failure);
-    EXPECT_THROW((void)RGBToHex("red,0,0", ","), Failure);
+    for (const char* bad : {"255,0", "red,0,0"}) EXPECT_THROW((void)RGBToHex(bad, ","), Failure) << bad;
     EXPECT_THROW((void)RGBToHex("1,2,3", ""), Failure);
 }
 
@@ -40,18 +37,7 @@ TEST(TaskUtil, TextAndListHelpers) {
     EXPECT_EQ(GetItemSelected(status), nullptr);
 }
 
-class SubDelayTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        saved_ = ports();
-        ports().clock = &clock_;
-        ports().ui = &ui_;
-    }
-    void TearDown() override { ports() = saved_; }
-    FakeClock clock_;
-    ScriptedUi ui_;
-    Ports saved_;
-};
+using SubDelayTest = ToolkitFixture;
 
 TEST_F(SubDelayTest, EndsOnTheFakeClockAndAtMidnight) {
     Timer t;
@@ -74,9 +60,8 @@ TEST_F(SubDelayTest, EndsOnTheFakeClockAndAtMidnight) {
 }
 
 TEST(International, MeasurementFromThePortOrTheEnvironment) {
-    struct Us : LocaleInfo {
-        int32_t measurementSystem() const override { return 1; }
-    } us;
+    FixedLocale us;
+    us.system = 1;
     const Ports saved = ports();
     ports().locale = &us;
     EXPECT_EQ(getLocalMeasurement(), 1);

@@ -41,12 +41,11 @@ TEST_F(TimeValuesTest, FormatsMinutesInTheGrammarOfAFullDay) {
 TEST_F(TimeValuesTest, WorkingHoursWindowDecidesTheFormattersDays) {
     // 8 hours: dayMinutes 480, but the day view's window of 540 minutes is the formatter's day.
     dayOf("8", "480", "1020");
-    EXPECT_EQ(SetTimeFormat(500), "8:20");    // under the window's 540, not 480
-    EXPECT_EQ(SetTimeFormat(1080), "2 Days");  // a multiple of the window
-    EXPECT_EQ(SetTimeFormat(600), "1D 1:00");
-    EXPECT_EQ(SetTimeFormat(3360), "6D 2:00");  // within the week of 7 x 480
-    EXPECT_EQ(SetTimeFormat(6720), "2 Weeks");
-    EXPECT_EQ(SetTimeFormat(3420), "1W 0D 1:00");
+    // 500 is under the window's 540, not 480; 1080 a multiple of the window; 3360 within the
+    // week of 7 x 480.
+    const std::pair<double, const char*> table[] = {{500, "8:20"},    {1080, "2 Days"},  {600, "1D 1:00"},
+                                                    {3360, "6D 2:00"}, {6720, "2 Weeks"}, {3420, "1W 0D 1:00"}};
+    for (const auto& [minutes, text] : table) EXPECT_EQ(SetTimeFormat(minutes), text) << minutes;
     // The window is read as it stands, without scaling.
     dayOf("8", "8", "17");
     EXPECT_EQ(SetTimeFormat(10), "1D 0:01");
@@ -58,8 +57,7 @@ TEST_F(TimeValuesTest, FormatterFailuresGoToTheReporterAndGiveEmptyText) {
     EXPECT_EQ(SetTimeFormat(0), "0:00");  // zero needs no day length
     EXPECT_EQ(SetTimeFormat(30), "");
     ASSERT_EQ(reporter().faults().size(), 1u);
-    EXPECT_EQ(reporter().faults()[0].module, "m_Task");
-    EXPECT_EQ(reporter().faults()[0].procedure, "SetTimeFormat");
+    EXPECT_EQ(reporter().faults()[0].module + "." + reporter().faults()[0].procedure, "m_Task.SetTimeFormat");
     EXPECT_EQ(reporter().faults()[0].number, err::TypeMismatch);
 
     dayOf("0", "480", "1020");  // a day of no minutes divides by zero
@@ -93,12 +91,8 @@ TEST_F(TimeValuesTest, ParsesTheGrammarWithItsKeptAsymmetries) {
 
 TEST_F(TimeValuesTest, CheckerTellsTheUserOnlyOfUnreadableCounts) {
     EXPECT_FALSE(CheckCTasTime(""));
-    EXPECT_TRUE(CheckCTasTime("abc"));  // reads as 0, and nothing is told
-    EXPECT_TRUE(CheckCTasTime("1:2:3"));
-    EXPECT_TRUE(CheckCTasTime(":45"));
-    EXPECT_TRUE(CheckCTasTime("3:"));
-    EXPECT_TRUE(CheckCTasTime("2 days"));
-    EXPECT_TRUE(CheckCTasTime("01:02:05"));  // cut to "01:02"
+    // "abc" reads as 0 and nothing is told; "01:02:05" is cut to "01:02".
+    for (const char* yes : {"abc", "1:2:3", ":45", "3:", "2 days", "01:02:05"}) EXPECT_TRUE(CheckCTasTime(yes)) << yes;
     EXPECT_TRUE(scriptedUi().messages().empty());
 
     scriptedUi().queueAnswer(vbOK);
@@ -113,12 +107,8 @@ TEST_F(TimeValuesTest, CheckerTellsTheUserOnlyOfUnreadableCounts) {
 }
 
 TEST_F(TimeValuesTest, TimeCellCheckerKeepsItsDayFailure) {
-    EXPECT_TRUE(IsTimeValue(":45"));
-    EXPECT_TRUE(IsTimeValue("3 Days"));
-    EXPECT_TRUE(IsTimeValue("1:30"));
-    EXPECT_TRUE(IsTimeValue("90"));
-    EXPECT_FALSE(IsTimeValue("abc"));
-    for (const char* no : {"0:00", "1 Day", "", "3:"}) EXPECT_FALSE(IsTimeValue(no)) << no;
+    for (const char* yes : {":45", "3 Days", "1:30", "90"}) EXPECT_TRUE(IsTimeValue(yes)) << yes;
+    for (const char* no : {"abc", "0:00", "1 Day", "", "3:"}) EXPECT_FALSE(IsTimeValue(no)) << no;
     EXPECT_FALSE(IsTimeValue("3 days")) << "case sensitive: goes on to the ':' test";
     EXPECT_TRUE(reporter().faults().empty());
 

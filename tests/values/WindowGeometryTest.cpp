@@ -26,8 +26,7 @@ TEST_F(WindowGeometryTest, ResizeKeepsNormalGeometryAndOnlyTheStateOtherwise) {
     EXPECT_EQ(g().ETaskWindow, (std::array<int32_t, 6>{200, 100, 8400, 9000, 2, 0}));
     form.userResized({0, 0, 100, 100, vbMinimized});
     rules.onResize();
-    EXPECT_EQ(g().ETaskWindow[4], 1);
-    EXPECT_EQ(g().ETaskWindow[2], 8400);
+    EXPECT_EQ(g().ETaskWindow, (std::array<int32_t, 6>{200, 100, 8400, 9000, 1, 0}));
 
     // The minimum sizes of the three dialogs.
     struct Case {
@@ -61,10 +60,9 @@ TEST_F(WindowGeometryTest, ClosedMinimisedComesBackMaximised) {
     ASSERT_TRUE(LoadSettings());
     Form reopened("frmTask3");
     WindowGeometry::forNewTask(reopened).restore();
-    EXPECT_EQ(reopened.geometry().left, 300);
-    EXPECT_EQ(reopened.geometry().top, 400);
-    EXPECT_EQ(reopened.geometry().width, 9000);
-    EXPECT_EQ(reopened.geometry().state, vbMaximized);
+    const auto& at = reopened.geometry();
+    EXPECT_EQ((std::array<int32_t, 4>{at.left, at.top, at.width, at.state}),
+              (std::array<int32_t, 4>{300, 400, 9000, vbMaximized}));
 
     g().TaskWindow[4] = 0;
     Form normal("frmTask3");
