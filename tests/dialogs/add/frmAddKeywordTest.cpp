@@ -51,7 +51,6 @@ TEST_F(AddKeywordTest, CategoriesListEachSubjectOnceInOrder) {
         "'Calls')");
     EXPECT_TRUE(dlg->LoadCategories());
     EXPECT_EQ(categoryList(), (std::vector<std::string>{"Home", "Work"}));
-    // Choosing an entry puts it in the list's text.
     fields().click(*category().items()[1]);
     EXPECT_EQ(category().text(), "Work");
 }

@@ -157,24 +157,20 @@ TEST_F(AddProjectTest, CloseAsksOnlyWhenANameIsTypedAndEscapeNeverAsks) {
     EXPECT_EQ(ui.messages()[0].style, vbYesNo);
     EXPECT_FALSE(dlg->loaded());
 
-    auto second = std::make_shared<frmAddProject>();
+    // Cancel with only a summary typed, and Escape with a name, close unasked.
     ui.clearMessages();
-    ui.queueAction([&] {
-        Sheet& s = *second->sheet("smtProject");
-        s.userEdit(s.tool("txSummary"), "Only a summary");
-        second->sheet("smtAction")->click(second->sheet("smtAction")->tool("CANCEL"));
-    });
-    second->showModal();
-    EXPECT_FALSE(second->loaded());
-
-    auto third = std::make_shared<frmAddProject>();
-    ui.queueAction([&] {
-        Sheet& s = *third->sheet("smtProject");
-        s.userEdit(s.tool("txName"), "Typed");
-        third->keyDown(vbKeyEscape);
-    });
-    third->showModal();
-    EXPECT_FALSE(third->loaded());
+    for (const bool escape : {false, true}) {
+        SCOPED_TRACE(escape ? "Escape" : "Cancel");
+        auto fresh = std::make_shared<frmAddProject>();
+        ui.queueAction([&] {
+            Sheet& s = *fresh->sheet("smtProject");
+            s.userEdit(s.tool(escape ? "txName" : "txSummary"), "Typed");
+            if (escape) return fresh->keyDown(vbKeyEscape);
+            fresh->sheet("smtAction")->click(fresh->sheet("smtAction")->tool("CANCEL"));
+        });
+        fresh->showModal();
+        EXPECT_FALSE(fresh->loaded());
+    }
     EXPECT_TRUE(ui.messages().empty());
     EXPECT_TRUE(reporter().faults().empty());
 }

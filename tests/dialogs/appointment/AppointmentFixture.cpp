@@ -1,13 +1,10 @@
 #include "dialogs/appointment/AppointmentFixture.h"
 
-#include <algorithm>
-
 namespace qv {
 
 void AppointmentFixture::SetUp() {
-    TestEnv::SetUp();
+    NewTaskFixture::SetUp();
     task_.setTempErrReport(std::shared_ptr<Reporter>(&reporter(), [](Reporter*) {}));
-    task_.Raised.connect([this](const HostEvent& e) { events_.push_back(e.name); });
 }
 
 void AppointmentFixture::seed() const {
@@ -39,10 +36,6 @@ frmTAS2& AppointmentFixture::form() {
     return *form_;
 }
 
-void AppointmentFixture::click(const std::string& sheetName, const std::string& key) {
-    then([this, sheetName, key] { sheet(sheetName).click(tool(sheetName, key)); });
-}
-
 void AppointmentFixture::type(const std::string& sheetName, const std::string& key, const std::string& text) {
     then([this, sheetName, key, text] {
         Sheet& s = sheet(sheetName);
@@ -51,14 +44,6 @@ void AppointmentFixture::type(const std::string& sheetName, const std::string& k
         s.userEdit(t, text);
         s.endEdit(t);
     });
-}
-
-void AppointmentFixture::typeDescription(const std::string& text) {
-    then([this, text] { form().editor("spellTask")->userEdit(text); });
-}
-
-int AppointmentFixture::count(const std::string& eventName) const {
-    return static_cast<int>(std::count(events_.begin(), events_.end(), eventName));
 }
 
 std::string AppointmentFixture::slotValue(const std::string& column, const std::string& slot) const {

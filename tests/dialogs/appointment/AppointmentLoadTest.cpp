@@ -1,6 +1,7 @@
 // Opening a Task Appointment: the slot's own copies beside its task's
 // values, the lists, the checklist, the window and the settings upgrade.
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/appointment/AppointmentFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/DateBox.h"
@@ -25,33 +26,27 @@ protected:
 
 TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
     seed();
-    sql("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
-        "'");
+    exec("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
+         "'");
     openAndLook([this] {
         EXPECT_EQ(form().caption(), "Quorvel - Version 1.14 - Task Appointment");
         EXPECT_EQ(form().editor("spellTask")->text(), "Slot text") << "the description is the slot's";
-        EXPECT_EQ(tool("smtABOUT", "PROJECT").text(), "Alpha");
-        EXPECT_EQ(tool("smtABOUT", "PROJECT").tag(), kAlpha);
-        EXPECT_EQ(tool("smtABOUT", "IMP").tag(), "2") << "importance is the slot's copy";
-        EXPECT_EQ(tool("smtABOUT", "IMP").text(), g().ImportanceList[2]);
-        EXPECT_EQ(tool("smtABOUT", "DIFF").text(), g().DifficultyList[1]);
-        EXPECT_EQ(tool("smtTimes", "START").text(), "9:00:00 AM");
-        EXPECT_EQ(tool("smtTimes", "END").text(), "10:30:00 AM");
+        // Project, importance and difficulty are the slot's copies; the rest is the task's.
+        expectTools(sheet("smtABOUT"), &Tool::text,
+                    {{"PROJECT", "Alpha"}, {"IMP", g().ImportanceList[2]}, {"DIFF", g().DifficultyList[1]},
+                     {"ISCURRENT", "Yes"}, {"NEEDED", "0:45"}, {"SPENT", "0:20"}, {"STATUS", "Defined"}});
+        expectTools(sheet("smtABOUT"), &Tool::tag,
+                    {{"PROJECT", kAlpha}, {"IMP", "2"}, {"ISCURRENT", "TRUE"}, {"SCHEDULED", "0:30"},
+                     {"STATUS", "3"}});
+        // A slot never judged keeps the design text "Completed".
+        expectTools(sheet("smtTimes"), &Tool::text,
+                    {{"START", "9:00:00 AM"}, {"END", "10:30:00 AM"}, {"DONE", "Completed"}, {"TIMESPENT", "0:00"}});
         EXPECT_EQ(form().dateBox("ctTADate")->value(), dateserial::fromCivil(2026, 11, 24));
-        EXPECT_EQ(tool("smtTimes", "DONE").text(), "Completed") << "a slot never judged keeps the design text";
-        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "0:00");
         EXPECT_EQ(tool("smtReady", "POINTS").text(), "7");
         EXPECT_FALSE(tool("smtReady", "DONE").checked());
         EXPECT_EQ(form().editor("SpellNotes")->text(), "task notes");
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").text(), "Yes");
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").tag(), "TRUE");
-        EXPECT_EQ(tool("smtABOUT", "NEEDED").text(), "0:45");
-        EXPECT_EQ(tool("smtABOUT", "SCHEDULED").tag(), "0:30");
-        EXPECT_EQ(tool("smtABOUT", "SPENT").text(), "0:20");
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 255);
         EXPECT_TRUE(tool("smtABOUT", "DEADLINE").bold());
-        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Defined");
-        EXPECT_EQ(tool("smtABOUT", "STATUS").tag(), "3");
         EXPECT_FALSE(tool("smtABOUT", "STATUS").bold());
         EXPECT_FALSE(tool("smtActions", "SAVE").enabled()) << "filling the tools enables nothing";
         EXPECT_EQ(tool("smtABOUT", "STATUS").items().size(), g().StatusList.size());
@@ -67,20 +62,17 @@ TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
 
 TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
     seed();
-    sql("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
-    sql("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
+    exec("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
+    exec("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
     openAndLook([this] {
-        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
+        expectTools(sheet("smtABOUT"), &Tool::text, {{"STATUS", "Completed"}, {"DEADLINE", ""}, {"ISCURRENT", "No"}});
+        expectTools(sheet("smtTimes"), &Tool::text, {{"DONE", "Complete"}, {"TIMESPENT", "1:15"}});
         EXPECT_TRUE(tool("smtABOUT", "STATUS").bold());
         EXPECT_TRUE(tool("smtReady", "DONE").checked());
-        EXPECT_EQ(tool("smtTimes", "DONE").text(), "Complete");
-        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "1:15");
-        EXPECT_EQ(tool("smtABOUT", "DEADLINE").text(), "");
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 0);
-        EXPECT_EQ(tool("smtABOUT", "ISCURRENT").text(), "No");
     });
-    sql("UPDATE TASKAPPTS SET taWasWorked=0");
-    sql("UPDATE TASKS SET tskStatus=2");
+    exec("UPDATE TASKAPPTS SET taWasWorked=0");
+    exec("UPDATE TASKS SET tskStatus=2");
     openAndLook([this] {
         EXPECT_EQ(tool("smtTimes", "DONE").text(), "Not Complete");
         EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "On Hold");
@@ -89,14 +81,14 @@ TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
 
 TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold) {
     seed();
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID=''");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID=''");
     openAndLook([this] {
         EXPECT_FALSE(form().checklist.utilCheckListExists);
         EXPECT_FALSE(tool("smtCKActions", "EDIT").visible());
     });
     EXPECT_EQ(taskValue("tskHasChecklist"), "0") << "corrected while loading, without a save";
 
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
     answer(vbOK);
     openAndLook([this] { EXPECT_FALSE(form().checklist.utilCheckListExists); });
     ASSERT_EQ(scriptedUi().messages().size(), 1u);
@@ -104,8 +96,8 @@ TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold
     EXPECT_EQ(taskValue("tskTCheckListGUID"), kChecklist) << "the dead key stays until a save";
 
     const std::string name(81, 'n');
-    sql("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) + "', '" + name +
-        "', 'step one')");
+    exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) + "', '" + name +
+         "', 'step one')");
     openAndLook([this, name] {
         EXPECT_EQ(form().label("lblCk")->caption(), std::string(80, 'n') + "... Checklist: ");
         EXPECT_EQ(form().checklist.utilChecklistName, name);
@@ -129,9 +121,9 @@ TEST_F(AppointmentLoad, AKeyThatIsNoKeyReadsNoRowAndAMissingSlotKeepsTheTemplate
     EXPECT_TRUE(reporter().faults().empty());
 }
 
-TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowState) {
+TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndIsStoredAtTheClose) {
     seed();
-    sql("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] {
         EXPECT_EQ(form().geometry().left, 1000) << "the first value is the left";
         EXPECT_EQ(form().geometry().top, 2000);
@@ -139,14 +131,12 @@ TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndTheStoreGainsWindowStat
     });
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM Settings WHERE SetSettingSection='TAS'"), 6);
 
-    sql("UPDATE Settings SET SetSettingValue='1' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("UPDATE Settings SET SetSettingValue='1' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbNormal) << "never back minimised, nor maximised"; });
-    sql("UPDATE Settings SET SetSettingValue='2' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
+    exec("UPDATE Settings SET SetSettingValue='2' WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] { EXPECT_EQ(form().geometry().state, vbMaximized); });
-}
 
-TEST_F(AppointmentLoad, ResizeKeepsTheMinimumAndCloseStoresTheGeometry) {
-    seed();
+    // A resize keeps the minimum width; the close stores the geometry.
     then([this] {
         form().userResized({300, 400, 5000, 9000, vbNormal});
         EXPECT_EQ(form().geometry().width, 8400);
@@ -163,7 +153,7 @@ TEST_F(AppointmentLoad, ResizeKeepsTheMinimumAndCloseStoresTheGeometry) {
     EXPECT_EQ(readOne("SELECT SetSettingValue FROM Settings WHERE SetSettingSection='TAS' AND "
                       "setSettingDisplayOrd=1"),
               "300");
-    EXPECT_EQ(count("DoCloseTaskForm"), 1);
+    EXPECT_EQ(count("DoCloseTaskForm"), 4);
 }
 
 }  // namespace qv

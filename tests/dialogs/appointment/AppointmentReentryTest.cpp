@@ -8,9 +8,7 @@
 
 namespace qv {
 
-namespace {
-class AppointmentReentry : public AppointmentFixture {};
-}  // namespace
+using AppointmentReentry = AppointmentFixture;
 
 TEST_F(AppointmentReentry, EditTaskRunsANestedExistingTaskWhoseEventsReachTheHost) {
     seed();

@@ -1,6 +1,7 @@
 // Checking and saving a Task Appointment: the slot's row, its task's row,
 // the points and Time Scheduled, and the ways the dialog ends.
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/appointment/AppointmentFixture.h"
 #include "dialogs/shared/PointsTally.h"
 #include "session/globals/SessionGlobals.h"
@@ -10,12 +11,28 @@
 namespace qv {
 
 namespace {
-class AppointmentSave : public AppointmentFixture {};
+class AppointmentSave : public AppointmentFixture {
+protected:
+    void expectSlot(Expected cases) const {
+        expectEach([this](const std::string& c) { return slotValue(c); }, cases);
+    }
+    void expectTask(Expected cases) const {
+        expectEach([this](const std::string& c) { return taskValue(c); }, cases);
+    }
+    // Works the slot to a save that the store refuses at the given table.
+    void saveRefusedAt(const std::string& table) {
+        seed();
+        refuseWrites(table);
+        type("smtTimes", "TIMESPENT", "0:50");
+        click("smtActions", "SAVE");
+        open();
+    }
+};
 }  // namespace
 
 TEST_F(AppointmentSave, TaskIsDoneWithABlankTimeSpentStoresTheSlotsLengthAndCompletesTheTask) {
     seed();
-    sql("UPDATE TASKS SET tskTimeScheduled=0");
+    exec("UPDATE TASKS SET tskTimeScheduled=0");
     click("smtReady", "DONE");
     then([this] {
         EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
@@ -26,12 +43,8 @@ TEST_F(AppointmentSave, TaskIsDoneWithABlankTimeSpentStoresTheSlotsLengthAndComp
     click("smtActions", "SAVE");
     open();
 
-    EXPECT_EQ(slotValue("taWasWorked"), "1");
-    EXPECT_EQ(slotValue("taTimeWorked"), "90");
-    EXPECT_EQ(slotValue("taDuration"), "90");
-    EXPECT_EQ(taskValue("tskStatus"), "0");
-    EXPECT_EQ(taskValue("tskCurrent"), "0");
-    EXPECT_EQ(taskValue("tskWasImported"), "0");
+    expectSlot({{"taWasWorked", "1"}, {"taTimeWorked", "90"}, {"taDuration", "90"}});
+    expectTask({{"tskStatus", "0"}, {"tskCurrent", "0"}, {"tskWasImported", "0"}});
     EXPECT_FALSE(taskValue("tskDoneDate").empty());
     EXPECT_EQ(taskValue("tskTimeScheduled"), "150") << "the sum of the task's two slots";
     const int32_t points = PointsTally::tally(g().PointsTable, 2, 1, 45, false, true);
@@ -50,8 +63,7 @@ TEST_F(AppointmentSave, EnterWithAnEmptyDescriptionTellsAndClosesWithNothingStor
 
     ASSERT_FALSE(scriptedUi().messages().empty());
     EXPECT_EQ(scriptedUi().messages().back().text, "Task Description cannot be blank.");
-    EXPECT_EQ(slotValue("taTaskDesc"), "Slot text");
-    EXPECT_EQ(slotValue("taTimeWorked"), "0");
+    expectSlot({{"taTaskDesc", "Slot text"}, {"taTimeWorked", "0"}});
     EXPECT_EQ(taskValue("tskTimeScheduled"), "30");
     EXPECT_EQ(count("TASUpdated"), 0);
     EXPECT_EQ(count("DoCloseTaskForm"), 1) << "Enter closes even when the save was refused";
@@ -73,18 +85,11 @@ TEST_F(AppointmentSave, OnlyCompletedIsStoredOfTheStatusAndPicksMoveIntoTheRows)
     open();
 
     EXPECT_EQ(taskValue("tskStatus"), "3") << "\"In Progress\" is not stored";
-    EXPECT_EQ(taskValue("tskCurrent"), "1");
-    EXPECT_EQ(slotValue("taProject"), "B+eta");
-    EXPECT_EQ(slotValue("taProjectGUIDID"), kBeta);
-    EXPECT_EQ(taskValue("tskProjectKey"), kBeta);
-    EXPECT_EQ(slotValue("taImp"), "4");
-    EXPECT_EQ(taskValue("tskImp"), "4");
-    EXPECT_EQ(slotValue("taDuration"), "120");
-    EXPECT_EQ(slotValue("taEndTime"), "2026-11-24T11:00:00.000");
     EXPECT_EQ(slotValue("taWasWorked"), "") << "the design text leaves the column alone";
-    EXPECT_EQ(slotValue("taTaskDesc"), "New words");
-    EXPECT_EQ(taskValue("tskDesc"), "New words");
-    EXPECT_EQ(taskValue("tskTimeScheduled"), "180");
+    expectTask({{"tskCurrent", "1"}, {"tskProjectKey", kBeta}, {"tskImp", "4"}, {"tskDesc", "New words"},
+                {"tskTimeScheduled", "180"}});
+    expectSlot({{"taProject", "B+eta"}, {"taProjectGUIDID", kBeta}, {"taImp", "4"}, {"taDuration", "120"},
+                {"taEndTime", "2026-11-24T11:00:00.000"}, {"taTaskDesc", "New words"}});
     EXPECT_EQ(count("TASUpdated"), 1);
 }
 
@@ -121,8 +126,7 @@ TEST_F(AppointmentSave, ARefusedSaveSticksAndTheBlankTimeSpentQuestion) {
     then([this] { answer(vbYes); });
     click("smtActions", "SAVE");
     open();
-    EXPECT_EQ(slotValue("taTimeWorked"), "120");
-    EXPECT_EQ(slotValue("taTaskDesc"), "Back again");
+    expectSlot({{"taTimeWorked", "120"}, {"taTaskDesc", "Back again"}});
     EXPECT_EQ(count("TASUpdated"), 1);
 }
 
@@ -148,37 +152,18 @@ TEST_F(AppointmentSave, ClosingAsksOnlyWithSomethingToUpdateAndEscapeCancels) {
 
 TEST_F(AppointmentSave, AChecklistRemovedIsUnlinkedAtTheSave) {
     seed();
-    sql("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
-        "', 'List', 'x')");
-    sql("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
+    exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
+         "', 'List', 'x')");
+    exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");
     then([this] { form().checklistLink().ckPicker_CKPicked("-NONE-"); });
     then([this] { EXPECT_EQ(taskValue("tskTCheckListGUID"), kChecklist) << "not before the save"; });
     type("smtTimes", "TIMESPENT", "0:30");
     click("smtActions", "SAVE");
     open();
-    EXPECT_EQ(taskValue("tskTCheckListGUID"), "");
-    EXPECT_EQ(taskValue("tskHasChecklist"), "0");
+    expectTask({{"tskTCheckListGUID", ""}, {"tskHasChecklist", "0"}});
 }
 
-}  // namespace qv
-
-namespace qv {
-
-namespace {
-class AppointmentSaveFault : public AppointmentFixture {
-protected:
-    // Works the slot to a save that the store refuses at the given table.
-    void saveRefusedAt(const std::string& table) {
-        seed();
-        refuseWrites(table);
-        type("smtTimes", "TIMESPENT", "0:50");
-        click("smtActions", "SAVE");
-        open();
-    }
-};
-}  // namespace
-
-TEST_F(AppointmentSaveFault, ARefusedTaskRowLeavesTheSlotStoredAndTakesTheErrorPath) {
+TEST_F(AppointmentSave, ARefusedTaskRowLeavesTheSlotStoredAndTakesTheErrorPath) {
     saveRefusedAt("TASKS");
     EXPECT_EQ(slotValue("taTimeWorked"), "50") << "the slot's row was written before the task's";
     EXPECT_EQ(taskValue("tskTimeScheduled"), "30");
@@ -187,7 +172,7 @@ TEST_F(AppointmentSaveFault, ARefusedTaskRowLeavesTheSlotStoredAndTakesTheErrorP
     EXPECT_EQ(count("GotErrExitNow"), 1);
 }
 
-TEST_F(AppointmentSaveFault, ARefusedSlotRowStoresNothing) {
+TEST_F(AppointmentSave, ARefusedSlotRowStoresNothing) {
     saveRefusedAt("TASKAPPTS");
     EXPECT_EQ(slotValue("taTimeWorked"), "0");
     EXPECT_EQ(reporter().faults().size(), 1u);

@@ -10,9 +10,7 @@
 
 namespace qv {
 
-namespace {
-class AppointmentTimeTools : public AppointmentFixture {};
-}  // namespace
+using AppointmentTimeTools = AppointmentFixture;
 
 TEST_F(AppointmentTimeTools, TheStopwatchRunsStopsAndCannotBeTypedOver) {
     seed();

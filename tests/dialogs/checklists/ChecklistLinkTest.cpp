@@ -79,16 +79,12 @@ TEST_F(ChecklistLinkTest, PickerListsSpecialRowsHeadingAndChecklistsByName) {
     picker->load();
     ASSERT_TRUE(picker->LoadPicker());
     Sheet& list = *picker->sheet("smtList");
-    ASSERT_EQ(list.count(), 5);
-    EXPECT_EQ(list.at(1).key(), "-NEW-");
-    EXPECT_EQ(list.at(1).caption(), "New Checklist");
-    EXPECT_EQ(list.at(2).key(), "-NONE-");
-    EXPECT_EQ(list.at(2).caption(), "No Checklist");
+    std::vector<std::string> rows;
+    for (const auto& t : list.tools()) rows.push_back(t->key() + " " + t->caption());
+    EXPECT_EQ(rows, (std::vector<std::string>{"-NEW- New Checklist", "-NONE- No Checklist",
+                                              list.at(3).key() + " Checklists", "K-ALPHA Alpha", "K-BETA Beta"}));
     EXPECT_EQ(list.at(3).type(), ttHeading);
-    EXPECT_EQ(list.at(3).caption(), "Checklists");
-    EXPECT_EQ(list.at(4).key(), "K-ALPHA");
     EXPECT_EQ(list.at(4).tip(), "First list");
-    EXPECT_EQ(list.at(5).caption(), "Beta");
 
     std::vector<std::string> picked;
     int cancels = 0;
@@ -118,8 +114,7 @@ TEST_F(ChecklistLinkTest, PickerListsSpecialRowsHeadingAndChecklistsByName) {
 
 TEST_F(ChecklistLinkTest, PickedChecklistIsLinkedAndNoneUnlinksIt) {
     auto f = owner();
-    EXPECT_FALSE(f->shows("EDIT"));
-    EXPECT_FALSE(f->shows("S2"));
+    EXPECT_FALSE(f->shows("EDIT") || f->shows("S2"));
     pickRow(*f, "K-ALPHA");
     f->click("PICK");
     EXPECT_EQ(f->link->ckPicker(), nullptr);
@@ -129,12 +124,10 @@ TEST_F(ChecklistLinkTest, PickedChecklistIsLinkedAndNoneUnlinksIt) {
     EXPECT_EQ(f->state.CheckListMode, 1);
     EXPECT_EQ(f->lblCk.caption(), " Checklist: Alpha");
     EXPECT_EQ(f->spellCK.text(), "a1\na2");
-    EXPECT_TRUE(f->shows("EDIT"));
-    EXPECT_TRUE(f->shows("S2"));
+    EXPECT_TRUE(f->shows("EDIT") && f->shows("S2"));
     // Only the Existing Task dialog's option enables its update action.
     EXPECT_FALSE(f->smtActions.tool("UPDATE").enabled());
 
-    // Cancel changes nothing.
     scriptedUi().queueAction([&] {
         Sheet& act = *f->link->ckPicker()->sheet("smtAction");
         act.click(act.tool("CANCEL"));

@@ -4,6 +4,7 @@
 
 #include "dialogs/checklists/ChecklistLink.h"
 #include "dialogs/checklists/frmCkPicker.h"
+#include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskDelete.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
@@ -13,9 +14,7 @@
 
 namespace qv {
 
-namespace {
-class ExistingTaskActionsTest : public ExistingTaskFixture {};
-}  // namespace
+using ExistingTaskActionsTest = ExistingTaskFixture;
 
 TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     EXPECT_EQ(ExistingTaskDelete::question(false, false), "Delete this task?");
@@ -30,9 +29,9 @@ TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     exec("UPDATE TASKS SET tskHasSchedule = 1");
     exec("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime) VALUES ('a1', '" +
          std::string(kTask) + "', '2026-01-05 09:00:00.000', '2026-01-05 10:00:00.000')");
-    edesc("Paint the gate");
+    typeDescription("Paint the gate");
     answer(vbNo);
-    eclick("smtActions", "DELETE");
+    click("smtActions", "DELETE");
     then([this] {
         EXPECT_EQ(scriptedUi().lastMessage().text, "Delete this task and its Checklist?")
             << "appointments never lengthen the question";
@@ -41,7 +40,7 @@ TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
         EXPECT_TRUE(eform().visible());
     });
     answer(vbYes);
-    eclick("smtActions", "DELETE");
+    click("smtActions", "DELETE");
     openTask();
     ASSERT_GE(events_.size(), 4u);
     EXPECT_EQ(events_[events_.size() - 3], "TaskDeleted");
@@ -57,28 +56,23 @@ TEST_F(ExistingTaskActionsTest, CatalogSaveCopiesTheTaskAndASecondFailsOnTheKey)
     exec("INSERT INTO TASKS (tskGUIDID, tskProjectKey, tskCurrent) VALUES ('other', '" + std::string(kAlpha) +
          "', 1)");
     then([this] { fakeClock().setNow(45400.25); });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask(5);
     const std::string item = " FROM TASKSCAT WHERE tskGUIDID='" + std::string(kTask) + "'";
     EXPECT_EQ(count("doNewTaskCatItem"), 1);
-    EXPECT_EQ(readOne("SELECT tskDesc" + item), "Paint the fence");
-    EXPECT_EQ(readOne("SELECT tskProjectKey" + item), kAlpha);
-    EXPECT_EQ(readOne("SELECT tskTimeNeeded" + item), "90");
-    EXPECT_EQ(readOne("SELECT tskTimeSpent" + item), "") << "spent and scheduled times are not copied";
-    EXPECT_EQ(readOne("SELECT tskTimeScheduled" + item), "");
-    EXPECT_EQ(readOne("SELECT tskCurrent" + item), "0") << "the pack reads the list's checked state";
-    EXPECT_EQ(readOne("SELECT tskCustSortCUR" + item), "");
-    EXPECT_EQ(readOne("SELECT tskCustSortQV" + item), "3");
-    EXPECT_EQ(readOne("SELECT tskCustSortProj" + item), "3");
+    // Spent and scheduled times are not copied; tskCurrent reads the list's checked state.
+    expectEach([&](const std::string& c) { return readOne("SELECT " + c + item); },
+               {{"tskDesc", "Paint the fence"}, {"tskProjectKey", kAlpha}, {"tskTimeNeeded", "90"},
+                {"tskTimeSpent", ""}, {"tskTimeScheduled", ""}, {"tskCurrent", "0"}, {"tskCustSortCUR", ""},
+                {"tskCustSortQV", "3"}, {"tskCustSortProj", "3"}, {"tskLastMod", dateserial::toIso(45400.25)}});
     EXPECT_EQ(readOne("SELECT tskDeadline" + item).substr(0, 10), "2030-01-01");
-    EXPECT_EQ(readOne("SELECT tskLastMod" + item), dateserial::toIso(45400.25));
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords WHERE ktTASKGUID='" + std::string(kTask) + "'"), 2)
         << "the item's link joins the task's own";
     EXPECT_EQ(readOne("SELECT tskDesc FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'"), "Paint the fence");
     EXPECT_TRUE(g().CurrentTaskGUID.empty());
 
     // Enter tells TaskUpdated here; the second item fails on the key.
-    ekey(vbKeyReturn);
+    key(vbKeyReturn);
     openTask(5);
     ASSERT_EQ(reporter().faults().size(), 1u);
     EXPECT_EQ(reporter().faults()[0].procedure, "SaveToTaskCat");
@@ -110,13 +104,13 @@ TEST_F(ExistingTaskActionsTest, PickedChecklistEnablesUpdateAndIsSaved) {
     addTask();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) +
          "', 'Morning', 'd', 'wake')");
-    eclick("smtCKActions", "PICK");
+    click("smtCKActions", "PICK");
     then([this] { eform().checklistLink().ckPicker_CKPicked(kChecklist); });
     then([this] {
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled()) << "a pick enables UPDATE in this dialog";
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled()) << "a pick enables UPDATE in this dialog";
         EXPECT_EQ(eform().label("lblCk")->caption(), " Checklist: Morning");
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readOne("SELECT tskTCheckListGUID FROM TASKS"), kChecklist);
     EXPECT_EQ(readOne("SELECT tskHasChecklist FROM TASKS"), "1");
@@ -125,35 +119,35 @@ TEST_F(ExistingTaskActionsTest, PickedChecklistEnablesUpdateAndIsSaved) {
 TEST_F(ExistingTaskActionsTest, TimeToolsAndTheStopwatch) {
     seed();
     addTask();
-    eclick("smtTimes", "COPYTIMENEEDED");
+    click("smtTimes", "COPYTIMENEEDED");
     then([this] {
-        EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "1:30");
-        EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "1:30");
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "1:30");
+        EXPECT_EQ(tool("smtABOUT", "SPENT").text(), "1:30");
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
     });
-    eclick("smtTimes", "TIMER");
+    click("smtTimes", "TIMER");
     then([this] {
-        EXPECT_EQ(etool("smtTimes", "TIMER").tag(), "ON");
-        EXPECT_EQ(etool("smtTimes", "TIMER").image(), "INUSE");
+        EXPECT_EQ(tool("smtTimes", "TIMER").tag(), "ON");
+        EXPECT_EQ(tool("smtTimes", "TIMER").image(), "INUSE");
         fakeClock().advance(65000);
-        EXPECT_EQ(etool("smtTimes", "TIMER").text(), "00:01:05");
+        EXPECT_EQ(tool("smtTimes", "TIMER").text(), "00:01:05");
     });
-    eclick("smtTimes", "ADDFROMTIMER");
-    then([this] { EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "1:30") << "the clock text reads as 0"; });
-    eclick("smtTimes", "TIMER");
+    click("smtTimes", "ADDFROMTIMER");
+    then([this] { EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "1:30") << "the clock text reads as 0"; });
+    click("smtTimes", "TIMER");
     then([this] {
-        EXPECT_EQ(etool("smtTimes", "TIMER").image(), "GRAY");
+        EXPECT_EQ(tool("smtTimes", "TIMER").image(), "GRAY");
         EXPECT_FALSE(eform().timer("Timer1")->enabled());
         scriptedUi().queueAnswer(vbOK);
-        esheet("smtTimes").userChoose(etool("smtTimes", "TIMESPENT"), "soon");
+        sheet("smtTimes").userChoose(tool("smtTimes", "TIMESPENT"), "soon");
         EXPECT_EQ(scriptedUi().lastMessage().text, "That value was not recognized as a time period like 1:00.");
-        EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "0:00");
-        esheet("smtTimes").userChoose(etool("smtTimes", "TIMER"), "99:00:00");
-        EXPECT_EQ(etool("smtTimes", "TIMER").text(), "00:01:05") << "the clock can't be typed over";
-        esheet("smtTimes").userChoose(etool("smtTimes", "TIMESPENT"), "2:15");
-        EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "2:15");
+        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "0:00");
+        sheet("smtTimes").userChoose(tool("smtTimes", "TIMER"), "99:00:00");
+        EXPECT_EQ(tool("smtTimes", "TIMER").text(), "00:01:05") << "the clock can't be typed over";
+        sheet("smtTimes").userChoose(tool("smtTimes", "TIMESPENT"), "2:15");
+        EXPECT_EQ(tool("smtABOUT", "SPENT").text(), "2:15");
     });
-    ekey(vbKeyReturn);
+    key(vbKeyReturn);
     openTask();
     EXPECT_EQ(readOne("SELECT tskTimeSpent FROM TASKS"), "135");
     EXPECT_EQ(count("TaskUpdated"), 1);

@@ -15,21 +15,17 @@ void ExistingTaskFixture::linkKeyword(const std::string& keyword) const {
          "', 'Paint the fence', '" + keyword + "', 'x')");
 }
 
-void ExistingTaskFixture::eclick(const std::string& sheetName, const std::string& key) {
-    then([this, sheetName, key] { esheet(sheetName).click(etool(sheetName, key)); });
-}
-
 void ExistingTaskFixture::choose(const std::string& listKey, const std::string& caption) {
     then([this, listKey, caption] {
-        Tool& list = etool("smtABOUT", listKey);
+        Tool& list = tool("smtABOUT", listKey);
         for (const auto& item : list.items())
-            if (item->caption() == caption) return esheet("smtABOUT").click(*item);
+            if (item->caption() == caption) return sheet("smtABOUT").click(*item);
         ADD_FAILURE() << listKey << " has no entry " << caption;
     });
 }
 
 void ExistingTaskFixture::etype(const std::string& sheetName, const std::string& key, const std::string& text) {
-    then([this, sheetName, key, text] { esheet(sheetName).userChoose(etool(sheetName, key), text); });
+    then([this, sheetName, key, text] { sheet(sheetName).userChoose(tool(sheetName, key), text); });
 }
 
 }  // namespace qv

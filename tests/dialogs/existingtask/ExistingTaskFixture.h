@@ -23,17 +23,11 @@ protected:
 
     void openTask(int32_t mode = 1, const std::string& guid = kTask) { open(mode, guid); }
     frmExistingTask& eform() { return *task_.frmE(); }
-    Sheet& esheet(const std::string& name) { return *eform().sheet(name); }
-    Tool& etool(const std::string& sheetName, const std::string& key) { return *esheet(sheetName).find(key); }
+    Form& shown() override { return eform(); }
 
-    void eclick(const std::string& sheetName, const std::string& key);
     // Chooses the entry of a drop-down list tool by its caption.
     void choose(const std::string& listKey, const std::string& caption);
     void etype(const std::string& sheetName, const std::string& key, const std::string& text);
-    void edesc(const std::string& text) {
-        then([this, text] { eform().editor("spellTask")->userEdit(text); });
-    }
-    void ekey(int32_t code) { then([this, code] { eform().keyDown(code); }); }
     void answer(int32_t a) { then([this, a] { scriptedUi().queueAnswer(a); }); }
 };
 

@@ -2,6 +2,9 @@
 // Add Keyword losing unsaved ticks, Add Project from the drop-down, and
 // the lagging keyword count.
 
+#include <algorithm>
+
+#include "dialogs/DialogExpect.h"
 #include "dialogs/add/frmAddKeyword.h"
 #include "dialogs/add/frmAddProject.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
@@ -15,6 +18,23 @@ namespace {
 class ExistingTaskKeywordsTest : public ExistingTaskFixture {
 protected:
     const std::string links = "SELECT ktKEYGUID FROM TaskKeywords WHERE ktTASKGUID='" + std::string(kTask) + "'";
+
+    // Fills the Add dialog the click opened, presses its action and closes it.
+    void useAdder(std::function<Form*()> adder, const std::string& sheetName,
+                  std::vector<std::pair<std::string, std::string>> fields, const std::string& action) {
+        then([this, adder, sheetName, fields] {
+            Form* add = adder();
+            ASSERT_NE(add, nullptr);
+            scriptedUi().queueAnswer(vbOK);
+            for (const auto& [key, value] : fields) add->sheet(sheetName)->find(key)->setText(value);
+        });
+        then([adder, action] { adder()->sheet("smtAction")->click(*adder()->sheet("smtAction")->find(action)); });
+        then([adder] {
+            if (Form* add = adder()) add->hide();
+        });
+    }
+    Form* keywordAdder() { return eform().keywords().adders().fNewKeyword.get(); }
+    Form* projectAdder() { return eform().keywords().adders().fNewProject.get(); }
 };
 }  // namespace
 
@@ -23,24 +43,23 @@ TEST_F(ExistingTaskKeywordsTest, LinksAreRewrittenWholeOnUpdate) {
     addTask();
     linkKeyword(kKeyBlue);
     linkKeyword(kKeyBlue);  // a doubled link goes with the rewrite
-    eclick("smtKeywords", kKeyRed);
+    click("smtKeywords", kKeyRed);
     then([this] { EXPECT_EQ(eform().fields().KeywordCount, 2) << "counted after the check"; });
-    eclick("smtKeywords", kKeyBlue);
-    edesc("Paint the barn");
+    click("smtKeywords", kKeyBlue);
+    typeDescription("Paint the barn");
     then([this] {
         EXPECT_TRUE(eform().fields().record().HasKeywords);
         EXPECT_EQ(eform().fields().KeywordCount, 1);
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM (" + links + ") AS links"), 1);
     EXPECT_EQ(readOne(links), kKeyRed);
     EXPECT_EQ(readOne("SELECT ktTask FROM TaskKeywords"), "Paint the barn");
     EXPECT_EQ(readOne("SELECT ktKeyword FROM TaskKeywords"), "Red");
 
-    // No ticks, no links.
-    eclick("smtKeywords", kKeyRed);
-    eclick("smtActions", "UPDATE");
+    click("smtKeywords", kKeyRed);
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TaskKeywords"), 0);
 }
@@ -50,9 +69,9 @@ TEST_F(ExistingTaskKeywordsTest, FailedLinksLeaveTheRowSavedAndTheOldLinksWhole)
     addTask();
     linkKeyword(kKeyBlue);
     refuseWrites("TaskKeywords", "INSERT");
-    eclick("smtKeywords", kKeyRed);
-    edesc("Paint the barn");
-    eclick("smtActions", "UPDATE");
+    click("smtKeywords", kKeyRed);
+    typeDescription("Paint the barn");
+    click("smtActions", "UPDATE");
     openTask();
     ASSERT_EQ(reporter().faults().size(), 1u);
     EXPECT_EQ(reporter().faults()[0].procedure, "UpdateTask");
@@ -66,28 +85,14 @@ TEST_F(ExistingTaskKeywordsTest, AddKeywordRebuildsTheSheetFromTheStoredLinks) {
     seed();
     addTask();
     linkKeyword(kKeyBlue);
-    eclick("smtKeywords", kKeyRed);
-    eclick("smtKeywords", "kNEWKEYWORD");
+    click("smtKeywords", kKeyRed);
+    click("smtKeywords", "kNEWKEYWORD");
+    useAdder([this] { return keywordAdder(); }, "smtKeywords", {{"CATEGORY", "Colour"}, {"KEYWORD", "Green"}},
+             "ADD");
     then([this] {
-        auto* add = eform().keywords().adders().fNewKeyword.get();
-        ASSERT_NE(add, nullptr);
-        scriptedUi().queueAnswer(vbOK);
-        add->sheet("smtKeywords")->find("CATEGORY")->setText("Colour");
-        add->sheet("smtKeywords")->find("KEYWORD")->setText("Green");
-    });
-    then([this] {
-        Form* add = eform().keywords().adders().fNewKeyword.get();
-        add->sheet("smtAction")->click(*add->sheet("smtAction")->find("ADD"));
-    });
-    then([this] {
-        if (auto add = eform().keywords().adders().fNewKeyword) add->hide();
-    });
-    then([this] {
-        EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
-        EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
-        bool green = false;
-        for (const auto& t : esheet("smtKeywords").tools()) green = green || t->caption() == "Green";
-        EXPECT_TRUE(green);
+        EXPECT_FALSE(tool("smtKeywords", kKeyRed).checked()) << "an unsaved tick is lost";
+        EXPECT_TRUE(tool("smtKeywords", kKeyBlue).checked());
+        EXPECT_EQ(std::ranges::count(captions(sheet("smtKeywords")), "Green"), 1);
         eform().hide();
     });
     openTask();
@@ -98,26 +103,13 @@ TEST_F(ExistingTaskKeywordsTest, NewProjectFromTheListIsChosenAndSaved) {
     seed();
     addTask();
     choose("PROJECT", "New Project");
+    useAdder([this] { return projectAdder(); }, "smtProject", {{"txName", "Gamma"}, {"txSummary", "Third"}}, "OK");
     then([this] {
-        auto* add = eform().keywords().adders().fNewProject.get();
-        ASSERT_NE(add, nullptr);
-        scriptedUi().queueAnswer(vbOK);
-        add->sheet("smtProject")->find("txName")->setText("Gamma");
-        add->sheet("smtProject")->find("txSummary")->setText("Third");
-    });
-    then([this] {
-        Form* add = eform().keywords().adders().fNewProject.get();
-        add->sheet("smtAction")->click(*add->sheet("smtAction")->find("OK"));
-    });
-    then([this] {
-        if (auto add = eform().keywords().adders().fNewProject) add->hide();
-    });
-    then([this] {
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Gamma");
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha) << "the tag stays; the key comes from the entry";
+        EXPECT_EQ(tool("smtABOUT", "PROJECT").text(), "Gamma");
+        EXPECT_EQ(tool("smtABOUT", "PROJECT").tag(), kAlpha) << "the tag stays; the key comes from the entry";
         EXPECT_TRUE(eform().fields().IsDirty);
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(count("ProjectAdded"), 1);
     const std::string gamma = readOne("SELECT prjGUIDID FROM PROJECTS WHERE prjProject='Gamma'");
@@ -131,11 +123,11 @@ TEST_F(ExistingTaskKeywordsTest, MopProjectIsDisabledAndNoProjectStillSaves) {
     g().MOP = kBeta;
     task_.SetMOP(kBeta);
     then([this] {
-        EXPECT_FALSE(etool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta)->enabled());
-        etool("smtABOUT", "PROJECT").setText("");
+        EXPECT_FALSE(tool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta)->enabled());
+        tool("smtABOUT", "PROJECT").setText("");
         eform().editor("spellTask")->userEdit("Paint the shed");
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(readOne("SELECT tskProject FROM TASKS"), "");
     EXPECT_EQ(readOne("SELECT tskProjectKey FROM TASKS"), "NOPROJECT");

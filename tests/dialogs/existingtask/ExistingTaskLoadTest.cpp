@@ -2,6 +2,7 @@
 // row in its tool, the fixed status words, the red past deadline, the
 // checklist, the keyword ticks and the two modes' captions.
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ui.h"
@@ -9,9 +10,7 @@
 
 namespace qv {
 
-namespace {
-class ExistingTaskLoad : public ExistingTaskFixture {};
-}  // namespace
+using ExistingTaskLoad = ExistingTaskFixture;
 
 TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
     seed();
@@ -22,30 +21,23 @@ TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
         EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Edit Task");
         EXPECT_EQ(eform().editor("spellTask")->text(), "Paint the fence");
         EXPECT_EQ(eform().editor("SpellNotes")->text(), "Two coats");
-        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "In Progress");
-        EXPECT_EQ(etool("smtABOUT", "STATUS").tag(), "1");
-        EXPECT_FALSE(etool("smtABOUT", "STATUS").bold());
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").text(), "Alpha");
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").tag(), kAlpha);
-        EXPECT_EQ(etool("smtABOUT", "IMP").tag(), "2");
-        EXPECT_EQ(etool("smtABOUT", "IMP").text(), g().ImportanceList[2]);
-        EXPECT_EQ(etool("smtABOUT", "DIFF").text(), g().DifficultyList[3]);
-        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").text(), "Yes");
-        EXPECT_EQ(etool("smtABOUT", "ISCURRENT").tag(), "TRUE");
-        EXPECT_EQ(etool("smtABOUT", "NEEDED").text(), "1:30");
-        EXPECT_EQ(etool("smtABOUT", "SPENT").text(), "0:45");
-        EXPECT_EQ(etool("smtABOUT", "SCHEDULED").text(), "0:30");
-        EXPECT_EQ(etool("smtTimes", "TIMESPENT").text(), "0:45");
-        EXPECT_EQ(etool("smtReady", "POINTS").caption(), "12");
-        EXPECT_EQ(etool("smtABOUT", "DEADTIME").text(), "5:00:00 PM");
-        EXPECT_EQ(etool("smtABOUT", "DEADLINE").foreColor(), 0) << "a future deadline is not red";
-        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible());
-        EXPECT_TRUE(etool("smtKeywords", kKeyBlue).checked());
-        EXPECT_FALSE(etool("smtKeywords", kKeyRed).checked());
-        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
-        EXPECT_EQ(etool("smtActions", "UPDATE").caption(), "&Update");
-        EXPECT_EQ(etool("smtABOUT", "PROJECT").items().back()->caption(), "New Project");
-        EXPECT_TRUE(etool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta) != nullptr);
+        expectTools(sheet("smtABOUT"), &Tool::text,
+                    {{"STATUS", "In Progress"}, {"PROJECT", "Alpha"}, {"IMP", g().ImportanceList[2]},
+                     {"DIFF", g().DifficultyList[3]}, {"ISCURRENT", "Yes"}, {"NEEDED", "1:30"},
+                     {"SPENT", "0:45"}, {"SCHEDULED", "0:30"}, {"DEADTIME", "5:00:00 PM"}});
+        expectTools(sheet("smtABOUT"), &Tool::tag,
+                    {{"STATUS", "1"}, {"PROJECT", kAlpha}, {"IMP", "2"}, {"ISCURRENT", "TRUE"}});
+        EXPECT_FALSE(tool("smtABOUT", "STATUS").bold());
+        EXPECT_EQ(tool("smtTimes", "TIMESPENT").text(), "0:45");
+        EXPECT_EQ(tool("smtReady", "POINTS").caption(), "12");
+        EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 0) << "a future deadline is not red";
+        EXPECT_FALSE(tool("smtABOUT", "DATEDONE").visible());
+        EXPECT_TRUE(tool("smtKeywords", kKeyBlue).checked());
+        EXPECT_FALSE(tool("smtKeywords", kKeyRed).checked());
+        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(tool("smtActions", "UPDATE").caption(), "&Update");
+        EXPECT_EQ(tool("smtABOUT", "PROJECT").items().back()->caption(), "New Project");
+        EXPECT_TRUE(tool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta) != nullptr);
         EXPECT_FALSE(g().SettingUp);
         eform().hide();
     });
@@ -59,14 +51,14 @@ TEST_F(ExistingTaskLoad, CompletedPastDeadlineMidnightAndOddStatuses) {
     addTask(", tskDeadline", ", '2020-06-01 00:00:00.000'");
     exec("UPDATE TASKS SET tskStatus=0");
     then([this] {
-        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "Completed");
-        EXPECT_TRUE(etool("smtABOUT", "STATUS").bold());
-        EXPECT_TRUE(etool("smtReady", "DONE").checked());
-        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible()) << "no Date Done row, even when completed";
-        EXPECT_EQ(etool("smtABOUT", "DEADTIME").text(), "") << "a midnight deadline has no time";
-        EXPECT_EQ(etool("smtABOUT", "DEADLINE").foreColor(), 255);
-        EXPECT_TRUE(etool("smtABOUT", "DEADTIME").bold());
-        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled()) << "the load's Done tick enables nothing";
+        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
+        EXPECT_TRUE(tool("smtABOUT", "STATUS").bold());
+        EXPECT_TRUE(tool("smtReady", "DONE").checked());
+        EXPECT_FALSE(tool("smtABOUT", "DATEDONE").visible()) << "no Date Done row, even when completed";
+        EXPECT_EQ(tool("smtABOUT", "DEADTIME").text(), "") << "a midnight deadline has no time";
+        EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 255);
+        EXPECT_TRUE(tool("smtABOUT", "DEADTIME").bold());
+        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled()) << "the load's Done tick enables nothing";
         eform().hide();
     });
     openTask();
@@ -74,7 +66,7 @@ TEST_F(ExistingTaskLoad, CompletedPastDeadlineMidnightAndOddStatuses) {
     // A status beyond the list leaves the tool empty and fails nothing.
     exec("UPDATE TASKS SET tskStatus=42");
     then([this] {
-        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "");
+        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "");
         eform().hide();
     });
     openTask();
@@ -90,7 +82,7 @@ TEST_F(ExistingTaskLoad, ChecklistFoundOrLostAndAMissingRow) {
     then([this, longName] {
         EXPECT_EQ(eform().label("lblCk")->caption(), " Checklist: " + longName.substr(0, 80) + "...");
         EXPECT_EQ(eform().editor("spellCK")->text(), "step one");
-        EXPECT_TRUE(etool("smtCKActions", "EDIT").visible());
+        EXPECT_TRUE(tool("smtCKActions", "EDIT").visible());
         eform().hide();
     });
     openTask();
@@ -119,8 +111,8 @@ TEST_F(ExistingTaskLoad, ModeFiveOffersTheCatalogSaveAndTrimtoLen) {
     addTask();
     then([this] {
         EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Create Task Catalog Item");
-        EXPECT_EQ(etool("smtActions", "UPDATE").caption(), "Save to &Task Catalog");
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(tool("smtActions", "UPDATE").caption(), "Save to &Task Catalog");
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
         eform().hide();
     });
     openTask(5);

@@ -4,6 +4,7 @@
 
 #include <string>
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ui.h"
@@ -16,6 +17,9 @@ class ExistingTaskUpdate : public ExistingTaskFixture {
 protected:
     const std::string where = " FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'";
     std::string column(const std::string& name) const { return readOne("SELECT " + name + where); }
+    void expectColumns(Expected cases) const {
+        expectEach([this](const std::string& c) { return column(c); }, cases);
+    }
 };
 }  // namespace
 
@@ -24,25 +28,22 @@ TEST_F(ExistingTaskUpdate, ChangedDeadlineIsWrittenAndOnlyAssignedColumnsGoBack)
     addTask(", tskCustSortQV", ", 7");
     then([this] {
         eform().dateBox("ctDeadline")->userSetValue(46000.0);
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
-        EXPECT_EQ(etool("smtActions", "DONE").caption(), "D&one");
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(tool("smtActions", "DONE").caption(), "D&one");
         EXPECT_TRUE(eform().fields().IsDirty);
         // Another process writes the scheduled time while the dialog is up.
         exec("UPDATE TASKS SET tskTimeScheduled=555");
         fakeClock().setNow(45310.5);
     });
     etype("smtABOUT", "DEADTIME", "17:00");
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
 
     EXPECT_EQ(column("tskDeadline").substr(0, 16), "2025-12-09T16:59") << "the time goes through single precision";
-    EXPECT_EQ(column("tskLastMod"), dateserial::toIso(45310.5));
     EXPECT_EQ(column("tskTimeScheduled"), "555") << "a column the dialog did not assign keeps the host's change";
-    EXPECT_EQ(column("tskCustSortQV"), "7");
-    EXPECT_EQ(column("tskDesc"), "Paint the fence");
-    EXPECT_EQ(column("tskTimeSpent"), "45");
-    EXPECT_EQ(column("tskCurrent"), "1");
-    EXPECT_EQ(column("tskHasSchedule"), "0");
+    expectColumns({{"tskLastMod", dateserial::toIso(45310.5)}, {"tskCustSortQV", "7"},
+                   {"tskDesc", "Paint the fence"}, {"tskTimeSpent", "45"}, {"tskCurrent", "1"},
+                   {"tskHasSchedule", "0"}});
     EXPECT_EQ(count("TaskUpdated"), 1);
     EXPECT_EQ(count("TaskIsDone"), 0);
     EXPECT_EQ(events_.back(), "DoCloseTaskForm");
@@ -54,32 +55,29 @@ TEST_F(ExistingTaskUpdate, DoneTickCompletesTheTaskWithTodayAsDateDone) {
     addTask();
     then([this] {
         fakeClock().setNow(45320.75);
-        esheet("smtReady").click(etool("smtReady", "DONE"));
-        EXPECT_EQ(etool("smtABOUT", "STATUS").text(), "Completed");
-        EXPECT_EQ(etool("smtABOUT", "STATUS").tag(), "0");
-        EXPECT_TRUE(etool("smtABOUT", "DATEDONE").visible());
+        sheet("smtReady").click(tool("smtReady", "DONE"));
+        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
+        EXPECT_EQ(tool("smtABOUT", "STATUS").tag(), "0");
+        EXPECT_TRUE(tool("smtABOUT", "DATEDONE").visible());
         EXPECT_EQ(eform().dateBox("ctTheDateDone")->value(), 45320.0);
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
-    EXPECT_EQ(column("tskStatus"), "0");
-    EXPECT_EQ(column("tskDoneDate"), dateserial::toIso(45320.0));
-    EXPECT_EQ(column("tskWasImported"), "0");
+    expectColumns({{"tskStatus", "0"}, {"tskDoneDate", dateserial::toIso(45320.0)}, {"tskWasImported", "0"}});
     EXPECT_EQ(count("TaskIsDone"), 1);
     EXPECT_EQ(count("TaskUpdated"), 0);
 
     // Back to In Progress: Date Done goes, the stored date stays.
     choose("STATUS", "In Progress");
     then([this] {
-        EXPECT_FALSE(etool("smtABOUT", "DATEDONE").visible());
-        EXPECT_FALSE(etool("smtReady", "DONE").checked());
+        EXPECT_FALSE(tool("smtABOUT", "DATEDONE").visible());
+        EXPECT_FALSE(tool("smtReady", "DONE").checked());
         EXPECT_EQ(eform().fields().record().DateDone, 1.0);
     });
-    ekey(vbKeyReturn);
+    key(vbKeyReturn);
     openTask();
-    EXPECT_EQ(column("tskStatus"), "1");
-    EXPECT_EQ(column("tskDoneDate"), dateserial::toIso(45320.0));
+    expectColumns({{"tskStatus", "1"}, {"tskDoneDate", dateserial::toIso(45320.0)}});
     EXPECT_EQ(count("TaskUpdated"), 1);
 }
 
@@ -96,13 +94,13 @@ TEST_F(ExistingTaskUpdate, CompletedCatalogTaskShiftsTheTimeHistoryOnEachSave) {
         return h;
     };
     etype("smtABOUT", "NEEDED", "2:00");
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(history(), "45 10 20 30 40 ");
     EXPECT_EQ(count("TaskIsDone"), 1);
 
     etype("smtTimes", "TIMESPENT", "1:05");
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(history(), "65 45 10 20 30 ") << "a second save moves the history again";
     EXPECT_EQ(column("tskTimeSpent"), "65");
@@ -111,63 +109,59 @@ TEST_F(ExistingTaskUpdate, CompletedCatalogTaskShiftsTheTimeHistoryOnEachSave) {
     // error path; nothing of the save is committed.
     exec("UPDATE TASKS SET tskTimeSpent=40000");
     etype("smtABOUT", "NEEDED", "3:00");
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
     ASSERT_EQ(reporter().faults().size(), 1u);
     EXPECT_EQ(reporter().faults()[0].procedure, "UpdateTask");
-    EXPECT_EQ(column("tskTimeSpent"), "40000");
-    EXPECT_EQ(column("tskTimeNeeded"), "120");
+    expectColumns({{"tskTimeSpent", "40000"}, {"tskTimeNeeded", "120"}});
     EXPECT_EQ(history(), "65 45 10 20 30 ");
 }
 
 TEST_F(ExistingTaskUpdate, ChecksKeepUpdateDisabledAndTellWhatIsMissing) {
     seed();
     addTask();
-    edesc(std::string(256, 'x'));
+    typeDescription(std::string(256, 'x'));
     then([this] {
-        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled());
         EXPECT_TRUE(scriptedUi().messages().empty()) << "a long description is refused silently";
         EXPECT_TRUE(eform().fields().IsDirty) << "a handled edit stays dirty";
         eform().editor("spellTask")->userEdit(std::string(255, 'x'));
-        EXPECT_TRUE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
         scriptedUi().queueAnswer(vbOK);
-        esheet("smtABOUT").userChoose(etool("smtABOUT", "DEADTIME"), "half past");
+        sheet("smtABOUT").userChoose(tool("smtABOUT", "DEADTIME"), "half past");
         EXPECT_EQ(scriptedUi().lastMessage().text, "Deadline Time needs to be a recognizable time.");
         EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
-        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
-        EXPECT_EQ(etool("smtActions", "DONE").caption(), "D&one") << "the caption stays once a check passed";
-        esheet("smtABOUT").userChoose(etool("smtABOUT", "DEADTIME"), "");
+        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled());
+        EXPECT_EQ(tool("smtActions", "DONE").caption(), "D&one") << "the caption stays once a check passed";
+        sheet("smtABOUT").userChoose(tool("smtABOUT", "DEADTIME"), "");
         // Points: importance 2, difficulty 3, the time class of 90 minutes.
         const auto& p = g().PointsTable;
-        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[11]));
-        esheet("smtABOUT").userChoose(etool("smtABOUT", "NEEDED"), "0:10");
-        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[10]));
-        esheet("smtABOUT").userChoose(etool("smtABOUT", "NEEDED"), "2:00");
-        EXPECT_EQ(etool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[12]));
+        EXPECT_EQ(tool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[11]));
+        sheet("smtABOUT").userChoose(tool("smtABOUT", "NEEDED"), "0:10");
+        EXPECT_EQ(tool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[10]));
+        sheet("smtABOUT").userChoose(tool("smtABOUT", "NEEDED"), "2:00");
+        EXPECT_EQ(tool("smtReady", "POINTS").caption(), std::to_string(p[2] + p[8] + p[12]));
     });
-    eclick("smtActions", "UPDATE");
+    click("smtActions", "UPDATE");
     openTask();
-    EXPECT_EQ(column("tskDesc"), std::string(255, 'x'));
-    EXPECT_EQ(column("tskTimeNeeded"), "120");
+    expectColumns({{"tskDesc", std::string(255, 'x')}, {"tskTimeNeeded", "120"}});
 
     // A stored time of weeks does not read back to its minutes: left as it
     // is, it keeps them; a time of days typed anew is refused unwritten.
     exec("UPDATE TASKS SET tskTimeSpent=40000");
-    edesc("Paint it twice");
-    eclick("smtActions", "UPDATE");
+    typeDescription("Paint it twice");
+    click("smtActions", "UPDATE");
     openTask();
-    EXPECT_EQ(column("tskTimeSpent"), "40000");
-    EXPECT_EQ(column("tskDesc"), "Paint it twice");
-    edesc("Paint it thrice");
-    then([this] { etool("smtTimes", "TIMESPENT").setText("2 Days"); });
-    eclick("smtActions", "UPDATE");
+    expectColumns({{"tskTimeSpent", "40000"}, {"tskDesc", "Paint it twice"}});
+    typeDescription("Paint it thrice");
+    then([this] { tool("smtTimes", "TIMESPENT").setText("2 Days"); });
+    click("smtActions", "UPDATE");
     then([this] {
-        EXPECT_FALSE(etool("smtActions", "UPDATE").enabled());
+        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled());
         eform().hide();
     });
     openTask();
-    EXPECT_EQ(column("tskTimeSpent"), "40000");
-    EXPECT_EQ(column("tskDesc"), "Paint it twice");
+    expectColumns({{"tskTimeSpent", "40000"}, {"tskDesc", "Paint it twice"}});
     EXPECT_TRUE(reporter().faults().empty());
 }
 
@@ -175,15 +169,15 @@ TEST_F(ExistingTaskUpdate, OutlookIsToldOnlyWithIntegrationAndAnEntry) {
     seed();
     addTask(", tskOUTEntityID", ", 'OUT-1'");
     exec("UPDATE Settings SET SetSettingValue='True' WHERE SetSettingName='Integrate Outlook Tasks'");
-    edesc("Paint the gate");
-    eclick("smtActions", "UPDATE");
+    typeDescription("Paint the gate");
+    click("smtActions", "UPDATE");
     openTask();
     ASSERT_EQ(count("Fire1OutlookTaskUpdate"), 1);
     EXPECT_EQ(column("tskDesc"), "Paint the gate");
 
     exec("UPDATE Settings SET SetSettingValue='False' WHERE SetSettingName='Integrate Outlook Tasks'");
-    edesc("Paint the shed");
-    eclick("smtActions", "UPDATE");
+    typeDescription("Paint the shed");
+    click("smtActions", "UPDATE");
     openTask();
     EXPECT_EQ(count("Fire1OutlookTaskUpdate"), 1);
 }
@@ -191,9 +185,9 @@ TEST_F(ExistingTaskUpdate, OutlookIsToldOnlyWithIntegrationAndAnEntry) {
 TEST_F(ExistingTaskUpdate, EscapeAsksAfterAValidEditAndCloseBoxAsksItsOwn) {
     seed();
     addTask();
-    edesc("Paint the gate");
+    typeDescription("Paint the gate");
     answer(vbNo);
-    ekey(vbKeyEscape);
+    key(vbKeyEscape);
     then([this] {
         EXPECT_EQ(scriptedUi().lastMessage().text, "Discard changes made to this Task?");
         EXPECT_EQ(scriptedUi().lastMessage().style, vbYesNo | vbQuestion);
@@ -208,14 +202,14 @@ TEST_F(ExistingTaskUpdate, EscapeAsksAfterAValidEditAndCloseBoxAsksItsOwn) {
         EXPECT_TRUE(eform().visible());
     });
     answer(vbYes);
-    ekey(vbKeyEscape);
+    key(vbKeyEscape);
     openTask();
     EXPECT_EQ(column("tskDesc"), "Paint the fence");
     EXPECT_EQ(count("DoCloseTaskForm"), 2);
     EXPECT_EQ(count("TaskUpdated"), 0);
 
     // Untouched, Cancel asks nothing.
-    eclick("smtActions", "DONE");
+    click("smtActions", "DONE");
     openTask();
     EXPECT_EQ(scriptedUi().messages().size(), 3u);
 }

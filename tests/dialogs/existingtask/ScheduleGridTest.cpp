@@ -1,5 +1,6 @@
 #include "dialogs/existingtask/ScheduleGrid.h"
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "support/TestEnv.h"
@@ -46,6 +47,10 @@ protected:
     Grid& grid() { return sked->gridSked(); }
     int c(const char* key) { return grid().columnOf(key); }
     std::string shown(int row, const char* key) { return grid().displayText(row, c(key)); }
+    std::string width(const std::string& key) { return std::to_string(grid().column(c(key.c_str())).width); }
+    void expectCells(int row, Expected cases) {
+        expectEach([this, row](const std::string& key) { return grid().cell(row, c(key.c_str())); }, cases);
+    }
 
     Sheet about{"smtABOUT"}, skedTimes{"smtSkedTimes"}, times{"smtTimes"};
     TaskRecord record;
@@ -74,19 +79,14 @@ TEST_F(ScheduleGridTest, BindsNewestFirstWithItsColumnsAndCounts) {
     EXPECT_EQ(grid().column(c("taTimeWorked")).caption, "Time Spent");
     EXPECT_FALSE(grid().column(c("taTimeWorked")).visible);
     EXPECT_EQ(c("fakeColumn"), c("FakeColumn")) << "keys are found whatever their case";
-    EXPECT_EQ(grid().column(c("taStartTime")).width, 2750);
-    EXPECT_EQ(grid().column(c("BtnColumn")).width, 500);
-    sked->applyResizeWidths();
-    EXPECT_EQ(grid().column(c("taStartTime")).width, 2500);
-    EXPECT_EQ(grid().column(c("BtnColumn")).width, 1200);
-    EXPECT_EQ(grid().column(c("taWasWorked")).width, 600) << "the resize leaves Done? alone";
+    const auto widths = [this](const std::string& k) { return width(k); };
+    expectEach(widths, {{"taStartTime", "2750"}, {"BtnColumn", "500"}});
+    sked->applyResizeWidths();  // which leaves Done? alone
+    expectEach(widths, {{"taStartTime", "2500"}, {"BtnColumn", "1200"}, {"taWasWorked", "600"}});
 
     // Unbound cells; times outside edit mode, the date while editing.
-    EXPECT_EQ(grid().cell(1, c("CalcColumn")), "1:30");
     EXPECT_EQ(grid().cell(0, c("CalcColumn")), SetTimeFormat(-60)) << "an end before the start";
-    EXPECT_EQ(grid().cell(1, c("BtnColumn")), ">>>");
-    EXPECT_EQ(grid().cell(1, c("FakeColumn")), "0:45");
-    EXPECT_EQ(grid().cell(1, c("taTimeWorked")), "45");
+    expectCells(1, {{"CalcColumn", "1:30"}, {"BtnColumn", ">>>"}, {"FakeColumn", "0:45"}, {"taTimeWorked", "45"}});
     g().ScheduleTouched = false;
     EXPECT_EQ(shown(1, "taStartTime"), "09:00");
     EXPECT_TRUE(g().ScheduleTouched);

@@ -1,51 +1,54 @@
 // Closing, cancelling and clearing the New Task dialog, and a store fault
 // on the way to a save.
 
+#include <functional>
+
 #include "dialogs/newtask/NewTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
 
-namespace {
-class NewTaskCommands : public NewTaskFixture {};
-}  // namespace
+using NewTaskCommands = NewTaskFixture;
 
-TEST_F(NewTaskCommands, EscapeAsksOnlyWhenDirtyAndCancels) {
+TEST_F(NewTaskCommands, EachWayOutAsksOnTheDirtyDialogAndNoKeepsIt) {
     seed();
-    fireTimer();
-    then([this] { scriptedUi().queueAnswer(vbNo); });
-    key(vbKeyEscape);
-    then([this] {
-        EXPECT_TRUE(form().visible()) << "No keeps the dialog";
-        scriptedUi().queueAnswer(vbYes);
-    });
-    key(vbKeyEscape);
-    open();
+    // How to leave, how many DoCloseTaskForm exactly (0: at least one), the Done caption after.
+    struct Way {
+        std::string name;
+        std::function<void()> leave;
+        int closes;
+        std::string doneAfter;
+    };
+    const std::vector<Way> ways = {
+        {"Escape", [this] { form().keyDown(vbKeyEscape); }, 0, "C&ancel"},
+        {"Done tool", [this] { sheet("smtActions").click(tool("smtActions", "DONE")); }, 0, "Done"},
+        {"close box", [this] { form().requestClose(); }, 1, "C&ancel"}};
+    for (const auto& [name, leave, closes, doneAfter] : ways) {
+        SCOPED_TRACE(name);
+        scriptedUi().clearMessages();
+        events_.clear();
+        fireTimer();
+        then([this, leave] {
+            scriptedUi().queueAnswer(vbNo);
+            leave();
+            EXPECT_TRUE(form().visible()) << "No keeps the dialog";
+            EXPECT_EQ(tool("smtActions", "DONE").caption(), "C&ancel");
+            scriptedUi().queueAnswer(vbYes);
+            leave();
+        });
+        open();
+        ASSERT_EQ(scriptedUi().messages().size(), 2u);
+        EXPECT_EQ(scriptedUi().lastMessage().text, "Cancel creating the current task?");
+        EXPECT_EQ(scriptedUi().lastMessage().style, vbYesNo);
+        EXPECT_EQ(tool("smtActions", "DONE").caption(), doneAfter);
+        EXPECT_FALSE(form().loaded());
+        EXPECT_GE(count("DoCloseTaskForm"), 1);
+        if (closes) EXPECT_EQ(count("DoCloseTaskForm"), closes);
+        EXPECT_EQ(count("NewTask") + count("TaskCanceled"), 0);
+    }
 
-    EXPECT_EQ(scriptedUi().messages().size(), 2u);
-    EXPECT_EQ(scriptedUi().lastMessage().text, "Cancel creating the current task?");
-    EXPECT_EQ(scriptedUi().lastMessage().style, vbYesNo);
-    EXPECT_FALSE(form().loaded());
-    EXPECT_GE(count("DoCloseTaskForm"), 1);
-    EXPECT_EQ(count("NewTask"), 0);
-}
-
-TEST_F(NewTaskCommands, DoneToolAsksThenCloses) {
-    seed();
-    fireTimer();
-    then([this] { scriptedUi().queueAnswer(vbNo); });
-    click("smtActions", "DONE");
-    then([this] {
-        EXPECT_EQ(tool("smtActions", "DONE").caption(), "C&ancel");
-        scriptedUi().queueAnswer(vbYes);
-    });
-    click("smtActions", "DONE");
-    open();
-    EXPECT_EQ(tool("smtActions", "DONE").caption(), "Done");
-    EXPECT_FALSE(form().loaded());
-
-    // Right after a save the tool closes at once.
+    // Right after a save the Done tool closes at once.
     scriptedUi().clearMessages();
     fireTimer();
     typeDescription("Quick one");
@@ -55,22 +58,6 @@ TEST_F(NewTaskCommands, DoneToolAsksThenCloses) {
     EXPECT_TRUE(scriptedUi().messages().empty());
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKS"), 1);
     EXPECT_FALSE(form().loaded());
-}
-
-TEST_F(NewTaskCommands, CloseBoxAsksAndNoKeepsTheDialog) {
-    seed();
-    fireTimer();
-    then([this] {
-        scriptedUi().queueAnswer(vbNo);
-        form().requestClose();
-        EXPECT_TRUE(form().loaded());
-        scriptedUi().queueAnswer(vbYes);
-        form().requestClose();
-    });
-    open();
-    EXPECT_FALSE(form().loaded());
-    EXPECT_EQ(count("DoCloseTaskForm"), 1);
-    EXPECT_EQ(count("TaskCanceled"), 0);
 }
 
 TEST_F(NewTaskCommands, ClearEmptiesWithoutACheckAndAnAddThenRefuses) {

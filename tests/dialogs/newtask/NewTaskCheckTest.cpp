@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "dialogs/DialogExpect.h"
 #include "dialogs/newtask/NewTaskFixture.h"
 #include "dialogs/shared/PointsTally.h"
 #include "session/globals/SessionGlobals.h"
@@ -11,19 +12,14 @@
 
 namespace qv {
 
-namespace {
-class NewTaskCheck : public NewTaskFixture {};
-}  // namespace
+using NewTaskCheck = NewTaskFixture;
 
 TEST(PointsTallyClasses, TimeClassesAndFallbacks) {
     std::array<int32_t, 15> table{};
     for (int i = 0; i < 15; ++i) table[static_cast<size_t>(i)] = 1 << i;
     const auto timeOnly = [&](int32_t minutes) { return PointsTally::tally(table, 0, 0, minutes, false, false) - 1 - 32; };
-    EXPECT_EQ(timeOnly(-86), 1 << 10);
-    EXPECT_EQ(timeOnly(10), 1 << 10);
-    EXPECT_EQ(timeOnly(11), 1 << 11);
-    EXPECT_EQ(timeOnly(119), 1 << 11);
-    EXPECT_EQ(timeOnly(120), 1 << 12);
+    for (const auto [minutes, position] : {std::pair{-86, 10}, {10, 10}, {11, 11}, {119, 11}, {120, 12}})
+        EXPECT_EQ(timeOnly(minutes), 1 << position) << minutes << " minutes";
     // Unset importance takes the second level, unset difficulty the first.
     EXPECT_EQ(PointsTally::tally(table, -86, -86, 10, false, false), (1 << 1) + (1 << 5) + (1 << 10));
     EXPECT_EQ(PointsTally::tally(table, 4, 4, 10, true, true), (1 << 4) + (1 << 9) + (1 << 10) + (1 << 13) + (1 << 14));
@@ -73,10 +69,9 @@ TEST_F(NewTaskCheck, MissingPicksLightTheirFlagsAndStatusIsToldByABox) {
     EXPECT_EQ(scriptedUi().lastMessage().text, "Missing Task's Status.");
     EXPECT_EQ(scriptedUi().lastMessage().title, "Quorvel - Version 1.14");
     EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
-    EXPECT_EQ(tool("smtReady", "PROJECTFLAG").tip(), "Project not set.");
-    EXPECT_EQ(tool("smtReady", "IMPFLAG").tip(), "Importance not set.");
-    EXPECT_EQ(tool("smtReady", "DIFFFLAG").tip(), "Difficulty not set.");
-    EXPECT_EQ(tool("smtReady", "TIMENEEDEDFLAG").tip(), "Time Needed not set.");
+    expectTools(sheet("smtReady"), &Tool::tip,
+                {{"PROJECTFLAG", "Project not set."}, {"IMPFLAG", "Importance not set."},
+                 {"DIFFFLAG", "Difficulty not set."}, {"TIMENEEDEDFLAG", "Time Needed not set."}});
     EXPECT_EQ(tool("smtReady", "POINTS").text(), std::to_string(8 + 10 + 1)) << "unset levels fall back";
     EXPECT_FALSE(tool("smtActions", "QV").enabled());
 }

@@ -36,7 +36,7 @@ void NewTaskFixture::click(const std::string& sheetName, const std::string& key)
 }
 
 void NewTaskFixture::typeDescription(const std::string& text) {
-    then([this, text] { form().editor("spellTask")->userEdit(text); });
+    then([this, text] { shown().editor("spellTask")->userEdit(text); });
 }
 
 int NewTaskFixture::count(const std::string& eventName) const {

@@ -30,7 +30,9 @@ protected:
     // SetupTask in the mode; returns when the dialog has been hidden.
     void open(int32_t mode = 0, const std::string& guid = {}, const std::string& project = {});
     frmTask3& form() { return *task_.frm(); }
-    Sheet& sheet(const std::string& name) { return *form().sheet(name); }
+    // The dialog the scripted steps act on.
+    virtual Form& shown() { return form(); }
+    Sheet& sheet(const std::string& name) { return *shown().sheet(name); }
     Tool& tool(const std::string& sheetName, const std::string& key) { return *sheet(sheetName).find(key); }
 
     // Scripted steps, run while the dialog is shown.
@@ -38,8 +40,8 @@ protected:
     void fireTimer() { then([this] { fakeClock().advance(600); }); }
     void click(const std::string& sheetName, const std::string& key);
     void typeDescription(const std::string& text);
-    void key(int32_t code) { then([this, code] { form().keyDown(code); }); }
-    void closeHidden() { then([this] { form().hide(); }); }
+    void key(int32_t code) { then([this, code] { shown().keyDown(code); }); }
+    void closeHidden() { then([this] { shown().hide(); }); }
 
     [[nodiscard]] int count(const std::string& eventName) const;
 
