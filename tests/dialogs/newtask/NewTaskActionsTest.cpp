@@ -44,7 +44,9 @@ TEST_F(NewTaskCommands, EachWayOutAsksOnTheDirtyDialogAndNoKeepsIt) {
         EXPECT_EQ(tool("smtActions", "DONE").caption(), doneAfter);
         EXPECT_FALSE(form().loaded());
         EXPECT_GE(count("DoCloseTaskForm"), 1);
-        if (closes) EXPECT_EQ(count("DoCloseTaskForm"), closes);
+        if (closes) {
+            EXPECT_EQ(count("DoCloseTaskForm"), closes);
+        }
         EXPECT_EQ(count("NewTask") + count("TaskCanceled"), 0);
     }
 

@@ -18,7 +18,7 @@ TEST(PointsTallyClasses, TimeClassesAndFallbacks) {
     std::array<int32_t, 15> table{};
     for (int i = 0; i < 15; ++i) table[static_cast<size_t>(i)] = 1 << i;
     const auto timeOnly = [&](int32_t minutes) { return PointsTally::tally(table, 0, 0, minutes, false, false) - 1 - 32; };
-    for (const auto [minutes, position] : {std::pair{-86, 10}, {10, 10}, {11, 11}, {119, 11}, {120, 12}})
+    for (const auto& [minutes, position] : {std::pair{-86, 10}, {10, 10}, {11, 11}, {119, 11}, {120, 12}})
         EXPECT_EQ(timeOnly(minutes), 1 << position) << minutes << " minutes";
     // Unset importance takes the second level, unset difficulty the first.
     EXPECT_EQ(PointsTally::tally(table, -86, -86, 10, false, false), (1 << 1) + (1 << 5) + (1 << 10));
