@@ -1,6 +1,5 @@
 #include "kit/SheetModel.h"
 
-#include <QColor>
 #include <QFont>
 
 #include "kit/ToolCell.h"
@@ -12,8 +11,6 @@ namespace qv {
 
 namespace {
 QString qs(const std::string& s) { return QString::fromStdString(s); }
-// A colour as the model keeps it: red in the low byte.
-QColor colorOf(int32_t rgb) { return {rgb & 0xFF, (rgb >> 8) & 0xFF, (rgb >> 16) & 0xFF}; }
 }  // namespace
 
 SheetModel::SheetModel(Sheet& sheet, QObject* parent) : QAbstractListModel(parent), sheet_(sheet) {
@@ -54,13 +51,12 @@ int SheetModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
-// What a row reads: a button or label shows its reading after its caption;
-// a text or list tool shows its caption here and its text in its field.
+// What a row reads: a text or list tool shows its caption here and its
+// text in its field; the rest read as their cells do.
 QString SheetModel::shownText(const Tool& t, int kind) {
     const auto k = static_cast<ToolCell::Kind>(kind);
     if (k == ToolCell::Kind::TextBox || k == ToolCell::Kind::List || k == ToolCell::Kind::Hosted) return qs(t.caption());
-    if (t.caption().empty() || t.text().empty()) return qs(t.caption() + t.text());
-    return qs(t.caption()) + " " + qs(t.text());
+    return ToolCell::readingOf(t);
 }
 
 QVariant SheetModel::data(const QModelIndex& index, int role) const {
@@ -84,7 +80,10 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
         f.setBold(true);
         return f;
     }
-    case Qt::ForegroundRole: return t->foreColor() ? QVariant(colorOf(t->foreColor())) : QVariant();
+    case Qt::ForegroundRole: {
+        const QColor own = ToolCell::foreColorOf(*t);
+        return own.isValid() ? QVariant(own) : QVariant();
+    }
     default: return {};
     }
 }

@@ -132,8 +132,7 @@ void SheetWidget::rebuild() {
 void SheetWidget::showList() {
     scroll_->hide();
     if (list_) {
-        model_->follow();
-        list_->show();
+        list_->show();  // the refresh that follows brings its rows up to date
         return;
     }
     list_ = new QListView(this);
@@ -235,31 +234,31 @@ void SheetWidget::refresh() {
 }
 
 QSize SheetWidget::minimumSizeHint() const {
-    if (list_) return listMinimumSize();
-    if (!scroll_ || !body_) return QFrame::minimumSizeHint();
+    if (!scroll_ || (!body_ && !list_)) return QFrame::minimumSizeHint();
     // As wide as the widest tool (the list never scrolls sideways), and
     // tall enough for the title and a few tools.
+    const QSize content = list_ ? listMinimumSize() : cellsMinimumSize();
     const int frame = 2 * frameWidth();
     const int bar = scroll_->verticalScrollBar()->sizeHint().width();
-    const int titleWidth = title_ && !title_->isHidden() ? title_->minimumSizeHint().width() : 0;
-    const int width = std::max(body_->minimumSizeHint().width() + bar, titleWidth) + frame;
-    const int titleHeight = title_ && !title_->isHidden() ? title_->sizeHint().height() : 0;
-    const int rows = std::min(body_->minimumSizeHint().height(), 3 * fontMetrics().height() + 12);
-    return {width, titleHeight + rows + frame};
+    const bool titled = title_ && !title_->isHidden();
+    const int titleWidth = titled ? title_->minimumSizeHint().width() : 0;
+    const int titleHeight = titled ? title_->sizeHint().height() : 0;
+    return {std::max(content.width() + bar, titleWidth) + frame, titleHeight + content.height() + frame};
 }
 
-// As wide as the widest of the first rows: measuring every row of a long
-// list would cost what the list view saves.
+QSize SheetWidget::cellsMinimumSize() const {
+    const QSize body = body_->minimumSizeHint();
+    return {body.width(), std::min(body.height(), 3 * fontMetrics().height() + 12)};
+}
+
+// The widest of the first rows: measuring every row of a long list would
+// cost what the list view saves.
 QSize SheetWidget::listMinimumSize() const {
     int widest = 0;
     const int sampled = std::min(model_->rowCount(), static_cast<int>(kLongSheet));
     for (int r = 0; r < sampled; ++r) widest = std::max(widest, list_->sizeHintForIndex(model_->index(r)).width());
-    const int frame = 2 * frameWidth();
-    const int bar = list_->verticalScrollBar()->sizeHint().width();
-    const int titleWidth = title_ && !title_->isHidden() ? title_->minimumSizeHint().width() : 0;
-    const int titleHeight = title_ && !title_->isHidden() ? title_->sizeHint().height() : 0;
     const int row = model_->rowCount() > 0 ? list_->sizeHintForRow(0) : fontMetrics().height();
-    return {std::max(widest + bar, titleWidth) + frame, titleHeight + 3 * row + frame};
+    return {widest, 3 * row};
 }
 
 bool SheetWidget::complete() const { return !pending_; }

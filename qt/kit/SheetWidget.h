@@ -82,6 +82,7 @@ private:
     void showList();
     void dropList();
     void openHostedEditors();
+    [[nodiscard]] QSize cellsMinimumSize() const;
     [[nodiscard]] QSize listMinimumSize() const;
     void placeCell(QBoxLayout* column, QBoxLayout*& iconRow, ToolCell* cell);
     [[nodiscard]] int insertAt(QBoxLayout* column) const;

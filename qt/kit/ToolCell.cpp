@@ -55,6 +55,13 @@ QString ToolCell::objectNameOf(const Tool& t, int position) {
     return sheet + "." + (t.key().empty() ? QStringLiteral("#%1").arg(position) : qs(t.key()));
 }
 
+QString ToolCell::readingOf(const Tool& t) {
+    if (t.caption().empty() || t.text().empty()) return qs(t.caption() + t.text());
+    return qs(t.caption()) + " " + qs(t.text());
+}
+
+QColor ToolCell::foreColorOf(const Tool& t) { return t.foreColor() ? colorOf(t.foreColor()) : QColor(); }
+
 ToolCell::ToolCell(Tool& tool, SheetWidget& owner, int position, QWidget* parent)
     : QWidget(parent),
       tool_(&tool),
@@ -261,15 +268,11 @@ void ToolCell::refresh() {
     if (auto* b = qobject_cast<QAbstractButton*>(main_)) {
         QSignalBlocker block(b);
         // A button that shows a reading (the stopwatch) shows it after its caption.
-        const bool reading = kind_ == Kind::Button && !t.text().empty();
-        b->setText(reading ? caption + " " + qs(t.text()) : caption);
+        b->setText(kind_ == Kind::Button ? readingOf(t) : caption);
         if (kind_ == Kind::Button || kind_ == Kind::MenuButton) b->setIcon(ToolIcons::icon(t.image()));
         if (kind_ == Kind::Check || kind_ == Kind::Option) b->setChecked(t.checked());
     }
-    if (auto* l = qobject_cast<QLabel*>(main_)) {
-        const bool both = !t.caption().empty() && !t.text().empty();
-        l->setText(both ? caption + " " + qs(t.text()) : caption + qs(t.text()));
-    }
+    if (auto* l = qobject_cast<QLabel*>(main_)) l->setText(readingOf(t));
     if (kind_ == Kind::TextBox) {
         auto* edit = findChild<QLineEdit*>();
         if (edit && edit->text() != qs(t.text())) {
@@ -323,7 +326,8 @@ void ToolCell::refreshLook(QWidget* w) {
         w->setFont(f);
     }
     QPalette p = w->palette();
-    const QColor fore = tool_->foreColor() ? colorOf(tool_->foreColor()) : palette().color(QPalette::WindowText);
+    const QColor own = foreColorOf(*tool_);
+    const QColor fore = own.isValid() ? own : palette().color(QPalette::WindowText);
     for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Active, role, fore);
     for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Inactive, role, fore);
     w->setPalette(p);

@@ -3,6 +3,7 @@
 // check box, option, drop-down list, text box, heading, separator, label or
 // a hosted control, with its image, tip, bold and colour.
 
+#include <QColor>
 #include <QWidget>
 
 class QLabel;
@@ -30,6 +31,10 @@ public:
 
     [[nodiscard]] static Kind kindOf(const Tool& tool, bool toolbar);
     [[nodiscard]] static QString objectNameOf(const Tool& tool, int position);
+    // What a button or label reads: its caption, then its text (the stopwatch).
+    [[nodiscard]] static QString readingOf(const Tool& tool);
+    // The tool's own text colour, or an invalid colour for the palette's.
+    [[nodiscard]] static QColor foreColorOf(const Tool& tool);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* e) override;
