@@ -142,18 +142,36 @@ int64_t Connection::insertRow(const std::string& table, const std::vector<std::s
 }
 
 int64_t Connection::updateRow(const std::string& table, const std::vector<std::string>& names,
-                              const std::vector<Value>& values, int64_t id, std::string_view context) {
+                              const std::vector<Value>& values, const std::vector<std::string>& checkNames,
+                              const std::vector<Value>& checkValues, int64_t id, std::string_view context) {
     std::string sets;
     for (const auto& name : names) {
         if (!sets.empty()) sets += ", ";
         sets += jet::quoteIdentifier(name) + "=?";
     }
-    auto st = prepare("UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE rowid=?", context);
+    std::string checks;
+    for (const auto& name : checkNames) checks += " AND " + jet::quoteIdentifier(name) + " IS ?";
+    auto st = prepare("UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE rowid=?" + checks,
+                      context);
     int b = 1;
     for (const auto& v : values) FieldCodec::bindValue(st.get(), b++, v);
-    sqlite3_bind_int64(st.get(), b, id);
+    sqlite3_bind_int64(st.get(), b++, id);
+    for (const auto& v : checkValues) FieldCodec::bindValue(st.get(), b++, v);
     step(*this, st.get(), context);
     return sqlite3_changes(handle());
+}
+
+bool Connection::readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,
+                         RowStore& store, Cell* cells, std::string_view context) {
+    std::string cols;
+    for (const auto& name : names) cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
+    auto st = prepare("SELECT " + cols + " FROM " + jet::quoteIdentifier(table) + " WHERE rowid=?", context);
+    sqlite3_bind_int64(st.get(), 1, id);
+    const int rc = sqlite3_step(st.get());
+    if (rc == SQLITE_DONE) return false;
+    if (rc != SQLITE_ROW) fail(context);
+    for (size_t c = 0; c < names.size(); ++c) readCell(st.get(), static_cast<int>(c), cells[c], store);
+    return true;
 }
 
 bool Connection::inTransaction() const {

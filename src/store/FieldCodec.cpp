@@ -65,6 +65,17 @@ Value FieldCodec::convertFor(FieldType type, const Value& v) {
     return v;
 }
 
+bool FieldCodec::sameStored(const Value& a, const Value& b) {
+    const auto numeric = [](Value::Kind k) {
+        return k == Value::Kind::Bool || k == Value::Kind::Int16 || k == Value::Kind::Int32 ||
+               k == Value::Kind::Double;
+    };
+    if (a.kind() == Value::Kind::Date && b.kind() == Value::Kind::Date)
+        return dateserial::toIso(a.toDate().serial) == dateserial::toIso(b.toDate().serial);
+    if (a.kind() != b.kind() && numeric(a.kind()) && numeric(b.kind())) return a.toDouble() == b.toDouble();
+    return a == b;
+}
+
 void FieldCodec::bindValue(sqlite3_stmt* stmt, int index, const Value& v) {
     switch (v.kind()) {
         case Value::Kind::Null:

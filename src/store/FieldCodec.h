@@ -22,6 +22,9 @@ public:
     // overflow, invalid use of null) before anything changes.
     [[nodiscard]] static Value convertFor(FieldType type, const Value& v);
     static void bindValue(sqlite3_stmt* stmt, int index, const Value& v);
+    // Whether two values of a column would be stored alike: nulls are
+    // alike, dates to the millisecond, numbers by number, texts byte for byte.
+    [[nodiscard]] static bool sameStored(const Value& a, const Value& b);
     // Column names compare without regard to case, as the engine's do.
     [[nodiscard]] static bool equalsNoCase(std::string_view a, std::string_view b);
     [[nodiscard]] static bool fitsInt32(int64_t i);

@@ -531,7 +531,8 @@ int64_t PgConnection::insertRow(const std::string& table, const std::vector<std:
 }
 
 int64_t PgConnection::updateRow(const std::string& table, const std::vector<std::string>& names,
-                                const std::vector<Value>& values, int64_t id, std::string_view context) {
+                                const std::vector<Value>& values, const std::vector<std::string>& checkNames,
+                                const std::vector<Value>& checkValues, int64_t id, std::string_view context) {
     std::string sets;
     for (size_t i = 0; i < names.size(); ++i) {
         if (i) sets += ", ";
@@ -539,10 +540,28 @@ int64_t PgConnection::updateRow(const std::string& table, const std::vector<std:
     }
     std::vector<Value> params = values;
     params.emplace_back(std::to_string(id));
-    const Result r = run("UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE " +
-                             jet::kIdentityColumn + " = $" + std::to_string(names.size() + 1),
-                         params, context);
+    std::string sql = "UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE " + jet::kIdentityColumn +
+                      " = $" + std::to_string(params.size());
+    for (size_t i = 0; i < checkNames.size(); ++i) {
+        params.push_back(checkValues[i]);
+        sql += " AND " + jet::quoteIdentifier(checkNames[i]) + " IS NOT DISTINCT FROM $" + std::to_string(params.size());
+    }
+    const Result r = run(sql, params, context);
     return std::atoll(PQcmdTuples(r.get()));
+}
+
+// Within a save the row stays locked from this reading to the save's end,
+// so the write that follows meets it as read.
+bool PgConnection::readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,
+                           RowStore& store, Cell* cells, std::string_view context) {
+    std::string cols;
+    for (const auto& name : names) cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
+    const Result r = run("SELECT " + cols + " FROM " + jet::quoteIdentifier(table) + " WHERE " +
+                             jet::kIdentityColumn + " = $1" + (inTransaction() ? " FOR UPDATE" : ""),
+                         {Value(std::to_string(id))}, context);
+    if (PQntuples(r.get()) < 1) return false;
+    for (size_t c = 0; c < names.size(); ++c) readCell(r.get(), 0, static_cast<int>(c), cells[c], store);
+    return true;
 }
 
 }  // namespace qv

@@ -43,7 +43,10 @@ public:
     int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
                       const std::vector<Value>& values, std::string_view context) override;
     int64_t updateRow(const std::string& table, const std::vector<std::string>& names,
-                      const std::vector<Value>& values, int64_t id, std::string_view context) override;
+                      const std::vector<Value>& values, const std::vector<std::string>& checkNames,
+                      const std::vector<Value>& checkValues, int64_t id, std::string_view context) override;
+    bool readRow(const std::string& table, const std::vector<std::string>& names, int64_t id, RowStore& store,
+                 Cell* cells, std::string_view context) override;
     [[nodiscard]] bool inTransaction() const override;
     [[nodiscard]] const char* beginText() const override { return "BEGIN"; }
     void exec(const std::string& sql, std::string_view context) override;

@@ -10,6 +10,7 @@
 #include "store/FieldCodec.h"
 #include "store/RowStore.h"
 #include "store/StoreBackend.h"
+#include "store/WriteConflict.h"
 #include "toolkit/Failure.h"
 #include "values/DateSerial.h"
 
@@ -53,10 +54,17 @@ using Column = ColumnInfo;
 
 // Assigned values of a row: they override the cells as read.
 struct Edit {
-    explicit Edit(size_t n) : vals(n), has(n, 0), dirty(n, 0) {}
+    explicit Edit(size_t n) : vals(n), has(n, 0), dirty(n, 0), base(n), hasBase(n, 0), stored(n), clash(n, 0) {}
     std::vector<Value> vals;
     std::vector<uint8_t> has;    // assigned
-    std::vector<uint8_t> dirty;  // assigned and not yet written
+    std::vector<uint8_t> dirty;  // assigned, differing from the value read, and not yet written
+    // The value the store is known to hold where it is no longer the cell
+    // as read: what this set wrote, or what it took from the store since.
+    std::vector<Value> base;
+    std::vector<uint8_t> hasBase;
+    // Another user's value of a field this set changed too (a conflict).
+    std::vector<Value> stored;
+    std::vector<uint8_t> clash;
 };
 
 enum class RowState : uint8_t {
@@ -85,6 +93,7 @@ struct Recordset::Impl {
     const std::vector<Column>& cols = plan.cols;
     bool readOnly = true;  // opened with adLockReadOnly
     bool batch = true;     // writes wait for UpdateBatch
+    std::vector<uint8_t> unchecked;  // fields written without the check (stamps, sums)
 
     bool loaded = false;
     int64_t counted = -1;  // the count of a set not read yet, once asked
@@ -223,6 +232,40 @@ struct Recordset::Impl {
         return decode(row.cells[c], cols[c].type);
     }
 
+    // The field's value as this set last knew the store to hold it.
+    [[nodiscard]] Value originalAt(size_t r, size_t c) const {
+        const Row& row = rows[r];
+        if (row.edit && row.edit->hasBase[c]) return row.edit->base[c];
+        if (!row.cells) return {};
+        return decode(row.cells[c], cols[c].type);
+    }
+
+    // The same as the store holds it, for the check of a write: a cell goes
+    // back as it was read, whatever its column's declared type.
+    [[nodiscard]] Value expectedAt(size_t r, size_t c) const {
+        const Row& row = rows[r];
+        if (row.edit && row.edit->hasBase[c]) return row.edit->base[c];
+        if (!row.cells) return {};
+        return rawValue(row.cells[c]);
+    }
+
+    [[nodiscard]] static Value rawValue(const Cell& cell) {
+        switch (cell.kind) {
+            case kCellInteger:
+                if (FieldCodec::fitsInt32(cell.i)) return Value(static_cast<int32_t>(cell.i));
+                return Value(static_cast<double>(cell.i));
+            case kCellFloat:
+                return Value(cell.d);
+            case kCellText:
+            case kCellBlob:
+                return Value(std::string(cell.text, cell.len));
+            default:
+                return {};
+        }
+    }
+
+    [[nodiscard]] bool checked(size_t c) const { return c >= unchecked.size() || !unchecked[c]; }
+
     int findColumn(std::string_view name) const {
         for (size_t i = 0; i < cols.size(); ++i)
             if (FieldCodec::equalsNoCase(cols[i].name, name)) return static_cast<int>(i);
@@ -261,11 +304,19 @@ struct Recordset::Impl {
         Value converted = FieldCodec::convertFor(col.type, v);  // may throw: nothing changed yet
         beginEdit();
         Row& row = rows[pos];
+        // A stored row given the value it holds is not changed: nothing is
+        // written, and another user's change to that field stays.
+        const bool same = row.state != RowState::New && FieldCodec::sameStored(converted, originalAt(pos, c));
         if (!row.edit) row.edit = std::make_unique<Edit>(cols.size());
         row.edit->vals[c] = std::move(converted);
         row.edit->has[c] = 1;
-        row.edit->dirty[c] = 1;
-        if (row.state == RowState::Clean) row.state = RowState::Modified;
+        row.edit->dirty[c] = same ? 0 : 1;
+        if (row.state == RowState::Clean && !same) row.state = RowState::Modified;
+        if (row.state == RowState::Modified && !anyDirty(row)) row.state = RowState::Clean;
+    }
+
+    [[nodiscard]] static bool anyDirty(const Row& row) {
+        return row.edit && std::find(row.edit->dirty.begin(), row.edit->dirty.end(), 1) != row.edit->dirty.end();
     }
 
     void deleteRow(size_t r) {
@@ -307,12 +358,118 @@ struct Recordset::Impl {
             return;
         }
         if (names.empty()) return;
-        if (conn->updateRow(table, names, values, row.rowid, ctx) == 0)
-            throw Failure(err::StoreFailure,
-                          "Row cannot be located for updating. Some values may have "
-                          "been changed since it was last read. (" +
-                              ctx + ")",
-                          "Recordset");
+        const size_t r = static_cast<size_t>(&row - rows.data());
+        std::vector<std::string> checkNames;
+        std::vector<Value> checkValues;
+        for (size_t c = 0; c < cols.size(); ++c) {
+            if (!row.edit->dirty[c] || !checked(c)) continue;
+            checkNames.push_back(cols[c].origin);
+            checkValues.push_back(expectedAt(r, c));
+        }
+        if (conn->updateRow(table, names, values, checkNames, checkValues, row.rowid, ctx) > 0) return;
+        // Nothing matched: the row is gone, or another user changed a field
+        // this set changes. Read it again to tell which.
+        if (findClashes(r, ctx)) throw WriteConflict(plan.table, clashNames(row), ctx);
+        // Only the stored form differed: write over what is the same value.
+        if (conn->updateRow(table, names, values, {}, {}, row.rowid, ctx) == 0) throwGone(ctx);
+    }
+
+    [[noreturn]] void throwGone(const std::string& ctx) const {
+        throw Failure(err::StoreFailure,
+                      "The row being written was deleted by another user since it was read (" + ctx + ")",
+                      "Recordset");
+    }
+
+    // The stored row's values, as cells of the set's columns; false when it is gone.
+    bool readStored(size_t r, RowStore& scratch, std::vector<Cell>& cells, const std::string& ctx) {
+        std::vector<std::string> names;
+        for (const Column& col : cols) names.push_back(col.origin.empty() ? std::string() : col.origin);
+        cells.assign(cols.size(), Cell{});
+        return conn->readRow(plan.table, names, rows[r].rowid, scratch, cells.data(), ctx);
+    }
+
+    // Marks the checked fields this set changes that the store no longer
+    // holds as read (and not as this set would write them); true for any.
+    bool findClashes(size_t r, const std::string& ctx) {
+        RowStore scratch;
+        std::vector<Cell> cells;
+        if (!readStored(r, scratch, cells, ctx)) throwGone(ctx);
+        Row& row = rows[r];
+        bool any = false;
+        for (size_t c = 0; c < cols.size(); ++c) {
+            if (!row.edit->dirty[c] || !checked(c)) continue;
+            const Value now = decode(cells[c], cols[c].type);
+            if (FieldCodec::sameStored(now, originalAt(r, c))) {
+                row.edit->base[c] = rawValue(cells[c]);
+                row.edit->hasBase[c] = 1;
+                continue;
+            }
+            row.edit->stored[c] = rawValue(cells[c]);
+            row.edit->clash[c] = 1;
+            any = true;
+        }
+        return any;
+    }
+
+    [[nodiscard]] std::vector<std::string> clashNames(const Row& row) const {
+        std::vector<std::string> out;
+        for (size_t c = 0; c < cols.size(); ++c)
+            if (row.edit->clash[c]) out.push_back(cols[c].name);
+        return out;
+    }
+
+    // Other users' changes into the current row: a field this set leaves
+    // as read takes the stored value; a field it changes that another user
+    // changed too (to another value) is a conflict.
+    std::vector<std::string> merge() {
+        requireCurrent();
+        Row& row = rows[pos];
+        if (row.state == RowState::New) return {};
+        const std::string ctx = conn->where("reading again a row of table " + plan.table + " of \"" + source + "\"");
+        RowStore scratch;
+        std::vector<Cell> cells;
+        if (!readStored(pos, scratch, cells, ctx)) throwGone(ctx);
+        if (!row.edit) row.edit = std::make_unique<Edit>(cols.size());
+        Edit& e = *row.edit;
+        std::vector<std::string> taken;
+        bool clash = false;
+        for (size_t c = 0; c < cols.size(); ++c) {
+            if (cols[c].origin.empty()) continue;
+            const Value now = decode(cells[c], cols[c].type);
+            const bool unchanged = FieldCodec::sameStored(now, originalAt(pos, c));
+            if (e.dirty[c] && !checked(c)) continue;
+            if (e.dirty[c] && !unchanged && !FieldCodec::sameStored(now, e.vals[c])) {
+                e.stored[c] = rawValue(cells[c]);
+                e.clash[c] = 1;
+                clash = true;
+                continue;
+            }
+            if (e.dirty[c] && !unchanged) e.dirty[c] = 0;  // both made the same change
+            if (!e.dirty[c] && !unchanged) {
+                e.vals[c] = now;
+                e.has[c] = 1;
+                taken.push_back(cols[c].name);
+            }
+            e.base[c] = rawValue(cells[c]);
+            e.hasBase[c] = 1;
+        }
+        if (row.state == RowState::Modified && !anyDirty(row)) row.state = RowState::Clean;
+        if (clash) throw WriteConflict(plan.table, clashNames(row), ctx);
+        return taken;
+    }
+
+    // The conflicting fields count as read with the other user's values,
+    // so that the next write puts this set's values over them.
+    void overwriteStored() {
+        for (Row& row : rows) {
+            if (!row.edit) continue;
+            for (size_t c = 0; c < cols.size(); ++c) {
+                if (!row.edit->clash[c]) continue;
+                row.edit->base[c] = row.edit->stored[c];
+                row.edit->hasBase[c] = 1;
+                row.edit->clash[c] = 0;
+            }
+        }
     }
 
     // Writes every pending change in one transaction: all or nothing.
@@ -346,9 +503,18 @@ struct Recordset::Impl {
                 row.state = RowState::Gone;
                 continue;
             }
-            if (row.state == RowState::New) row.rowid = newIds[k];
+            const bool added = row.state == RowState::New;
+            if (added) row.rowid = newIds[k];
             row.state = RowState::Clean;
-            if (row.edit) std::fill(row.edit->dirty.begin(), row.edit->dirty.end(), 0);
+            if (!row.edit) continue;
+            // What was written is what the store holds now.
+            for (size_t c = 0; c < cols.size(); ++c) {
+                if (!(added ? row.edit->has[c] : row.edit->dirty[c])) continue;
+                row.edit->base[c] = row.edit->vals[c];
+                row.edit->hasBase[c] = 1;
+                row.edit->clash[c] = 0;
+            }
+            std::fill(row.edit->dirty.begin(), row.edit->dirty.end(), 0);
         }
     }
 };
@@ -539,6 +705,26 @@ void Recordset::Requery(int32_t /*options*/) {
     d_->requireOpen();
     d_->reset();
     if (!d_->plan.isSelect) d_->load();
+}
+
+void Recordset::WriteUnchecked(const std::string& name) {
+    d_->requireOpen();
+    const int i = d_->findColumn(name);
+    if (i < 0) throwNotFound();
+    d_->unchecked.resize(d_->cols.size(), 0);
+    d_->unchecked[static_cast<size_t>(i)] = 1;
+}
+
+std::vector<std::string> Recordset::MergeStored() {
+    d_->requireOpen();
+    d_->requireWritable();
+    d_->ensureLoaded();
+    return d_->merge();
+}
+
+void Recordset::OverwriteStored() {
+    d_->requireOpen();
+    d_->overwriteStored();
 }
 
 const std::string& Recordset::Source() const {

@@ -3,7 +3,10 @@
 // layer offered. Rows are read on first use (RecordCount alone counts
 // without loading them, and asks the store once until they are read);
 // changes are written back by the row's own identity (rowid) and only for
-// the fields that were assigned.
+// the fields that were assigned a value other than the one read. The write
+// checks that each such field still holds the value read (optimistic
+// concurrency): another user's change to it is a WriteConflict, never
+// silently overwritten, and a row deleted meanwhile is a failure.
 
 #include <cstdint>
 #include <memory>
@@ -81,6 +84,17 @@ public:
     void CancelUpdate();
     void Delete(int32_t affect = adAffectCurrent);
     void Requery(int32_t options = -1);
+
+    // The field is written without the check: a stamp or a value worked
+    // out from others, which every save sets anew.
+    void WriteUnchecked(const std::string& name);
+    // Reads the current row again and takes other users' changes to the
+    // fields this set leaves as read; returns their names. A field this
+    // set changes that another user changed too throws WriteConflict.
+    std::vector<std::string> MergeStored();
+    // After a WriteConflict: the conflicting fields count as read with the
+    // other user's values, so the next write puts this set's over them.
+    void OverwriteStored();
 
     [[nodiscard]] const std::string& Source() const;
 

@@ -69,9 +69,15 @@ public:
     // The new row's identity.
     virtual int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
                               const std::vector<Value>& values, std::string_view context) = 0;
-    // The number of rows changed (0: the row is gone).
+    // The number of rows changed: 0 when the row is gone or a checked
+    // column no longer holds its expected value (null matches null).
     virtual int64_t updateRow(const std::string& table, const std::vector<std::string>& names,
-                              const std::vector<Value>& values, int64_t id, std::string_view context) = 0;
+                              const std::vector<Value>& values, const std::vector<std::string>& checkNames,
+                              const std::vector<Value>& checkValues, int64_t id, std::string_view context) = 0;
+    // Reads one row by identity into cells, one per name (an empty name
+    // stays null); false when the row is gone.
+    virtual bool readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,
+                         RowStore& store, Cell* cells, std::string_view context) = 0;
 
     // Transactions: the outermost save begins the engine's transaction
     // (taking the write lock where the engine has one); inner ones are
