@@ -6,8 +6,12 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/clsKeywords.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Failure.h"
+#include "toolkit/Tool.h"
+#include "values/CNull.h"
+#include "values/TextCase.h"
 
 namespace qv {
 
@@ -30,8 +34,18 @@ ExistingTaskKeywords::~ExistingTaskKeywords() = default;
 
 bool ExistingTaskKeywords::build() { return KeywordSheet::build(f_.controls().smtKeywords); }
 
+// The ticks as loaded are what the save's merge starts from.
 bool ExistingTaskKeywords::tickFromStore() {
-    return KeywordSheet::tickFromLinks(f_.controls().smtKeywords, g().CurrentTaskGUID);
+    const bool ok = KeywordSheet::tickFromLinks(f_.controls().smtKeywords, g().CurrentTaskGUID);
+    loadedLinks_ = tickedKeys();
+    return ok;
+}
+
+std::unordered_set<std::string> ExistingTaskKeywords::tickedKeys() const {
+    std::unordered_set<std::string> keys;
+    for (const auto& t : f_.controls().smtKeywords.tools())
+        if (t->checked() && KeywordSheet::isKeyword(*t)) keys.insert(TextCase::upper(t->key()));
+    return keys;
 }
 
 // The check runs before the count, so HasKeywords lags one click behind.
@@ -82,16 +96,58 @@ void ExistingTaskKeywords::openAddProject() {
                         [this] { f_.GotErrExitNow(); });
 }
 
+// Three ways: the links as loaded, the ticks as the user left them, the
+// links as they stand now. The user's additions and removals apply to what
+// stands, so another user's link changes stay; every row is written anew
+// with the description as saved, and a link to a keyword that no longer
+// exists goes. With nobody else writing this is the whole rewrite of the
+// ticks, in the sheet's order.
 void ExistingTaskKeywords::rewriteLinks() {
     const std::string guid = g().CurrentTaskGUID;
     clsNewTask source;
     RecordsetPtr rs = openLinks(source, guid);
-    for (rs->MoveFirst(); !rs->EOF_(); rs->MoveNext()) rs->Delete(adAffectCurrent);
+    std::vector<std::string> standing;
+    for (rs->MoveFirst(); !rs->EOF_(); rs->MoveNext()) {
+        standing.push_back(CNull::NVLStr(rs->Fields("ktKEYGUID").value()));
+        rs->Delete(adAffectCurrent);
+    }
     rs->UpdateBatch(adAffectAllChapters);
+    const auto mine = tickedKeys();
+    const auto keywords = keywordCaptions();
+    std::unordered_set<std::string> written;
+    const auto wanted = [&](const std::string& upperKey) {
+        return keywords.count(upperKey) && !written.count(upperKey);
+    };
     const std::string taskText = f_.controls().spellTask.text();
-    for (const auto& t : f_.controls().smtKeywords.tools())
-        if (t->checked()) KeywordSheet::addLink(*rs, *t, taskText, guid);
+    for (const auto& t : f_.controls().smtKeywords.tools()) {
+        const std::string key = TextCase::upper(t->key());
+        if (!t->checked() || !wanted(key)) continue;
+        KeywordSheet::addLink(*rs, *t, taskText, guid);
+        written.insert(key);
+    }
+    // Links another user made, and the user did not untick.
+    for (const auto& stored : standing) {
+        const std::string key = TextCase::upper(stored);
+        if (!wanted(key) || (loadedLinks_.count(key) && !mine.count(key))) continue;
+        const Tool link(nullptr, nullptr, ttCheck, stored, keywords.at(key));
+        KeywordSheet::addLink(*rs, link, taskText, guid);
+        written.insert(key);
+    }
     rs->Close();
+}
+
+// Every keyword's caption by its key (upper case).
+std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptions() {
+    clsKeywords source;
+    RecordsetPtr rs;
+    source.SetSQL("SELECT keyGUIDID, keyKeyword from KEYWORDS");
+    if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
+    std::unordered_map<std::string, std::string> captions;
+    for (; !rs->EOF_(); rs->MoveNext())
+        captions.emplace(TextCase::upper(CNull::NVLStr(rs->Fields("keyGUIDID").value())),
+                         CNull::NVLStr(rs->Fields("keyKeyword").value()));
+    rs->Close();
+    return captions;
 }
 
 void ExistingTaskKeywords::addCatalogLinks(const std::string& taskGUID) {

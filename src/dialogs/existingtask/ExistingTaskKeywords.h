@@ -6,6 +6,8 @@
 // "PROJECT", and an added keyword ticks from the stored links again.
 
 #include <string>
+#include <unordered_map>
+#include <unordered_set>
 
 #include "dialogs/shared/AddPickers.h"
 
@@ -26,8 +28,9 @@ public:
     bool projectChanged(Tool& tool);
     void fNewKeyword_KeywordAdded();
     void fNewProject_ProjectAdded(const std::string& name);
-    // The last step of the update: every link of the task deleted, then
-    // one row per ticked keyword.
+    // The last step of the update: the user's changes to the ticks since
+    // they were loaded, applied to the links as they stand, every link
+    // written anew.
     void rewriteLinks();
     // The catalog save's links: added for the ticks of the packed list,
     // with no link deleted first.
@@ -38,10 +41,14 @@ public:
 
 private:
     void openAddKeyword();
+    [[nodiscard]] std::unordered_set<std::string> tickedKeys() const;
+    [[nodiscard]] static std::unordered_map<std::string, std::string> keywordCaptions();
     void openAddProject();
 
     frmExistingTask& f_;
     AddPickers add_;
+    // The keys ticked when the links were last read from the store (upper case).
+    std::unordered_set<std::string> loadedLinks_;
 };
 
 }  // namespace qv

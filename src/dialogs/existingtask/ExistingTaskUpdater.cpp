@@ -3,7 +3,10 @@
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 #include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/shared/PointsTally.h"
+#include "dialogs/shared/SaveConflict.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/FieldCodec.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
 #include "store/clsNewTask.h"
@@ -16,6 +19,8 @@
 #include "values/TextChars.h"
 #include "values/TimeValues.h"
 
+#include <algorithm>
+
 namespace qv {
 
 namespace {
@@ -23,11 +28,12 @@ constexpr std::size_t kGuidLength = 36;
 const char* const kHistory[] = {"tskTimeN0", "tskTimeN1", "tskTimeN2", "tskTimeN3", "tskTimeN4"};
 }  // namespace
 
-// Only the columns below are assigned, so a change another process made to
-// any other column of the row (the scheduled time, the sort numbers) stays.
-// The row and its keyword links are one save, committed before the host
-// hears of it: the Outlook task too is told once the save stands. Links
-// that fail leave the row saved and the old links whole.
+// Only the columns the user changed since the dialog loaded the row are
+// written, each checked to hold still what was loaded: another user's
+// change to any other field stays, and a change to the same field is asked
+// about (SaveConflict). The row and its keyword links are one save,
+// committed before the host hears of it: the Outlook task too is told once
+// the save stands. Links that fail leave the row saved and the old links whole.
 bool ExistingTaskUpdater::UpdateTask() {
     const double now = clock().now();
     if (!f_.ValidateTask()) return false;
@@ -35,20 +41,11 @@ bool ExistingTaskUpdater::UpdateTask() {
     if (!takeTimeSpent()) return false;
     std::string outlookEntry;
     std::string taskKey;
-    {
-        SaveTransaction save;
-        if (!fields.TaskRow && !fields.openTaskRow()) return false;
-        Recordset& row = *fields.TaskRow;
-        writeColumns(row, now);
-        row.Update();
-        row.UpdateBatch(adAffectAllChapters);
-        row.UpdateBatch(adAffectAllChapters);
-        readOutlookEntry(outlookEntry, taskKey);
-        fields.closeTaskRow();
-        save.keepSoFar();
-        f_.keywords().rewriteLinks();
-        save.commit();
-    }
+    const bool saved = SaveConflict::settle([&] { return save(now, outlookEntry, taskKey); },
+                                            [&] {
+                                                if (fields.TaskRow) fields.TaskRow->OverwriteStored();
+                                            });
+    if (!saved) return false;
     ui().doEvents();
     if (!outlookEntry.empty()) f_.FireOneOutlookTaskUpdate(outlookEntry, taskKey);
     ui().doEvents();
@@ -56,7 +53,55 @@ bool ExistingTaskUpdater::UpdateTask() {
     return true;
 }
 
+bool ExistingTaskUpdater::save(double now, std::string& outlookEntry, std::string& taskKey) {
+    auto& fields = f_.fields();
+    SaveTransaction save;
+    if (!fields.TaskRow && !fields.openTaskRow()) return false;
+    Recordset& row = *fields.TaskRow;
+    writeColumns(row, now);
+    takeOthersChanges(row);
+    shiftCatalogHistory(row);
+    row.Update();
+    row.UpdateBatch(adAffectAllChapters);
+    row.UpdateBatch(adAffectAllChapters);
+    readOutlookEntry(outlookEntry, taskKey);
+    fields.closeTaskRow();
+    save.keepSoFar();
+    f_.keywords().rewriteLinks();
+    save.commit();
+    return true;
+}
+
+// Stamps and what is worked out from other fields are written as this save
+// has them, without the check, so two saves of different fields never meet.
+void ExistingTaskUpdater::markBookkeeping(Recordset& row) {
+    for (const char* field : {"tskLastMod", "tskPossPoints", "tskHasNotes", "tskHasSchedule", "tskWasImported"})
+        row.WriteUnchecked(field);
+}
+
+// Another user's changes to fields this save leaves alone come into the
+// row; the points follow the levels and times as they then stand.
+void ExistingTaskUpdater::takeOthersChanges(Recordset& row) {
+    const auto taken = row.MergeStored();
+    const auto feedsPoints = [](const std::string& f) {
+        for (const char* name : {"tskImp", "tskDifficulty", "tskTimeNeeded", "tskHasChecklist"})
+            if (FieldCodec::equalsNoCase(f, name)) return true;
+        return false;
+    };
+    if (std::none_of(taken.begin(), taken.end(), feedsPoints)) return;
+    const auto level = [&](const char* field) {
+        const Value v = row.Fields(field).value();
+        return v.isNull() ? -1 : v.toInt32();
+    };
+    const Value needed = row.Fields("tskTimeNeeded").value();
+    row.Fields("tskPossPoints") =
+        Value(PointsTally::tally(g().PointsTable, level("tskImp"), level("tskDifficulty"),
+                                 needed.isNull() ? 0 : needed.toInt32(),
+                                 CNull::NVLBool(row.Fields("tskHasChecklist").value()), false));
+}
+
 void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {
+    markBookkeeping(row);
     auto& fields = f_.fields();
     const TaskRecord& r = fields.record();
     row.Fields("tskDesc") = Value(r.Desc);
@@ -65,7 +110,6 @@ void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {
     row.Fields("tskStatus") = Value(r.Status);
     if (r.DateDone > kNoDate) row.Fields("tskDoneDate") = Value(Date{r.DateDone});
     row.Fields("tskTimeSpent") = Value(r.TimeSpent);
-    shiftCatalogHistory(row);
     row.Fields("tskImp") = Value(r.Imp);
     row.Fields("tskDifficulty") = Value(r.Diff);
     row.Fields("tskTimeNeeded") = Value(r.TimeNeeded);

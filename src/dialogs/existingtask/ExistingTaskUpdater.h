@@ -1,6 +1,6 @@
 #pragma once
 // The update of a stored task: the columns the dialog changed go to its
-// open row, a finished task from the Task Catalog moves the item's time
+// row as loaded (checked against another user's change to the same field), a finished task from the Task Catalog moves the item's time
 // history on, a task linked to Outlook is told to the host, and the
 // keyword links are rewritten.
 
@@ -18,7 +18,11 @@ public:
     bool UpdateTask();
 
 private:
+    // One try of the save; a WriteConflict leaves it undone.
+    bool save(double now, std::string& outlookEntry, std::string& taskKey);
     void writeColumns(Recordset& row, double now);
+    static void markBookkeeping(Recordset& row);
+    static void takeOthersChanges(Recordset& row);
     [[nodiscard]] bool takeTimeSpent();
     void writeChecklist(Recordset& row);
     // tskTimeN0..N4 of the catalog item move one place on.
