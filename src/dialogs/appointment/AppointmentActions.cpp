@@ -66,7 +66,8 @@ void AppointmentActions::smtReady_Click(Tool& tool) {
 void AppointmentActions::Form_KeyDown(int32_t keyCode) {
     if (keyCode == vbKeyReturn) {
         g().SettingUp = true;
-        f_.UpdateTASTask();
+        // Only a No to overwriting another user's change keeps the dialog.
+        if (!f_.UpdateTASTask() && f_.OverwriteDeclined) return;
         f_.CloseTASForm();
     } else if (keyCode == vbKeyEscape) {
         f_.StopTHETimer();

@@ -125,7 +125,7 @@ bool AppointmentLoader::readAppointment() {
     if (!worked.isNull()) c.smtTimes.tool("DONE").setText(worked.toBool() ? "Complete" : "Not Complete");
     const int32_t minutes = CNull::NVLLng(rs->Fields("taTimeWorked").value());
     c.smtTimes.tool("TIMESPENT").setText(minutes > 0 ? SetTimeFormat(minutes) : "0:00");
-    rs->Close();
+    f_.SlotRow = rs;
     return true;
 }
 
@@ -159,7 +159,7 @@ void AppointmentLoader::readTask() {
     }
     showStatus(rs->Fields("tskStatus").value().toInt32());
     readChecklist(*rs);
-    if (rs->State() == adStateOpen) rs->Close();
+    f_.TaskRow = rs;
 }
 
 void AppointmentLoader::showStatus(int32_t status) {

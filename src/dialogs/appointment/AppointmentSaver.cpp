@@ -5,6 +5,7 @@
 #include "dialogs/appointment/frmTAS2.h"
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/PointsTally.h"
+#include "dialogs/shared/SaveConflict.h"
 #include "dialogs/shared/StatusWords.h"
 #include "dialogs/shared/UnlessEqual.h"
 #include "session/globals/SessionGlobals.h"
@@ -95,41 +96,77 @@ bool AppointmentSaver::askBlankTimeSpent() {
     return false;
 }
 
-// One save, committed before the host hears of it. A failure on the task's
-// row leaves the slot's row stored, as two separate writes always did.
+// One save, committed before the host hears of it. Both rows are those the
+// dialog loaded: only what the user changed since is written, each field
+// checked to hold still what was loaded, so another user's changes to other
+// fields stay and one to the same field is asked about first. A failure on
+// the task's row leaves the slot's row stored, as two separate writes
+// always did; a No to the question leaves both as they were.
 bool AppointmentSaver::UpdateTASTask() {
+    f_.OverwriteDeclined = false;
     if (!ValidateTask()) return false;
     g().SettingUp = true;
-    SaveTransaction save;
-    writeAppointment();
-    save.keepSoFar();
-    writeTask();
-    save.commit();
+    const bool saved = SaveConflict::settle([&] { return saveRows(); },
+                                            [&] {
+                                                for (auto* rs : {f_.SlotRow.get(), f_.TaskRow.get()})
+                                                    if (rs) rs->OverwriteStored();
+                                            },
+                                            &f_.OverwriteDeclined);
+    if (!saved) {
+        if (f_.OverwriteDeclined) g().SettingUp = false;
+        return false;
+    }
     g().SettingUp = false;
     return true;
 }
 
-void AppointmentSaver::writeAppointment() {
-    auto& c = f_.controls();
-    clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
+// The two rows are judged against other users' changes before either is
+// written; then the slot, then the task with its sums.
+bool AppointmentSaver::saveRows() {
+    SaveTransaction save;
+    clsNewTask slotSource;
+    clsNewTask taskSource;
+    RecordsetPtr slot = f_.SlotRow
+                            ? f_.SlotRow
+                            : openKeyed(slotSource, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
     f_.StopTHETimer();
-    markWorked(*rs);
-    rs->Fields("taTimeWorked") = Value(FormatCTasTime(c.smtTimes.tool("TIMESPENT").text()));
-    const Tool& project = c.smtABOUT.tool("PROJECT");
-    if (!UnlessEqual::same(rs->Fields("taProject").value(), Value(project.text()))) {
-        rs->Fields("taProject") = Value(project.text());
-        rs->Fields("taProjectGUIDID") = Value(project.tag());
-    }
-    UnlessEqual::write(*rs, "taImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
-    UnlessEqual::write(*rs, "taDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
-    writeSlotTimes(*rs);
-    UnlessEqual::write(*rs, "taTaskDesc", Value(c.spellTask.text()));
-    rs->Update();
-    rs->UpdateBatch(adAffectAllChapters);
-    rs->UpdateBatch(adAffectAllChapters);
+    writeAppointment(*slot);
+    RecordsetPtr task = f_.TaskRow
+                            ? f_.TaskRow
+                            : openKeyed(taskSource, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+    writeTask(*task);
+    slot->Update();
+    slot->UpdateBatch(adAffectAllChapters);
+    slot->UpdateBatch(adAffectAllChapters);
     ui().doEvents();
-    rs->Close();
+    save.keepSoFar();
+    writeTaskSums(*task);
+    save.commit();
+    for (auto* rows : {&f_.SlotRow, &f_.TaskRow}) {
+        if (*rows && (*rows)->State() == adStateOpen) (*rows)->Close();
+        rows->reset();
+    }
+    return true;
+}
+
+void AppointmentSaver::writeAppointment(Recordset& rs) {
+    auto& c = f_.controls();
+    rs.WriteUnchecked("taDuration");
+    markWorked(rs);
+    rs.Fields("taTimeWorked") = Value(FormatCTasTime(c.smtTimes.tool("TIMESPENT").text()));
+    const Tool& project = c.smtABOUT.tool("PROJECT");
+    if (!UnlessEqual::same(rs.Fields("taProject").value(), Value(project.text()))) {
+        rs.Fields("taProject") = Value(project.text());
+        rs.Fields("taProjectGUIDID") = Value(project.tag());
+    }
+    UnlessEqual::write(rs, "taImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
+    UnlessEqual::write(rs, "taDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
+    writeSlotTimes(rs);
+    UnlessEqual::write(rs, "taTaskDesc", Value(c.spellTask.text()));
+    rs.MergeStored();
+    const double start = rs.Fields("taStartTime").value().toDate().serial;
+    const double end = rs.Fields("taEndTime").value().toDate().serial;
+    rs.Fields("taDuration") = Value(minutesBetween(start, end));
 }
 
 // Only the two words of the pick say worked or not; the loaded
@@ -156,43 +193,45 @@ void AppointmentSaver::writeSlotTimes(Recordset& rs) {
     const double day = std::floor(c.ctTADate.value());
     UnlessEqual::write(rs, "taStartTime", Value(Date{day + timeOfDay(c.smtTimes.tool("START").text())}));
     UnlessEqual::write(rs, "taEndTime", Value(Date{day + timeOfDay(c.smtTimes.tool("END").text())}));
-    const double start = rs.Fields("taStartTime").value().toDate().serial;
-    const double end = rs.Fields("taEndTime").value().toDate().serial;
-    rs.Fields("taDuration") = Value(minutesBetween(start, end));
 }
 
-void AppointmentSaver::writeTask() {
+// Points and the time scheduled are worked out here, not checked.
+void AppointmentSaver::writeTask(Recordset& rs) {
     auto& c = f_.controls();
-    clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
-    const std::string oldChecklist = CNull::NVLStr(rs->Fields("tskTCheckListGUID").value());
-    rs->Fields("tskNotes") = Value("" + c.SpellNotes.text());
+    for (const char* field : {"tskPossPoints", "tskTimeScheduled", "tskLastMod", "tskHasChecklist"})
+        rs.WriteUnchecked(field);
+    const std::string oldChecklist = CNull::NVLStr(rs.Fields("tskTCheckListGUID").value());
+    rs.Fields("tskNotes") = Value("" + c.SpellNotes.text());
     const Tool& project = c.smtABOUT.tool("PROJECT");
-    if (!UnlessEqual::same(rs->Fields("tskProject").value(), Value(project.text()))) {
-        rs->Fields("tskProject") = Value(project.text());
-        rs->Fields("tskProjectKey") = Value(project.tag());
+    if (!UnlessEqual::same(rs.Fields("tskProject").value(), Value(project.text()))) {
+        rs.Fields("tskProject") = Value(project.text());
+        rs.Fields("tskProjectKey") = Value(project.tag());
     }
-    UnlessEqual::write(*rs, "tskImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
-    UnlessEqual::write(*rs, "tskDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
-    UnlessEqual::write(*rs, "tskTimeNeeded", Value(FormatCTasTime(c.smtABOUT.tool("NEEDED").text())));
-    UnlessEqual::write(*rs, "tskDesc", Value(c.spellTask.text()));
-    writeTaskStatus(*rs);
-    writeTaskChecklist(*rs, oldChecklist);
-    const Value needed = rs->Fields("tskTimeNeeded").value();
+    UnlessEqual::write(rs, "tskImp", Value(levelOf(c.smtABOUT.tool("IMP").tag())));
+    UnlessEqual::write(rs, "tskDifficulty", Value(levelOf(c.smtABOUT.tool("DIFF").tag())));
+    UnlessEqual::write(rs, "tskTimeNeeded", Value(FormatCTasTime(c.smtABOUT.tool("NEEDED").text())));
+    UnlessEqual::write(rs, "tskDesc", Value(c.spellTask.text()));
+    writeTaskStatus(rs);
+    writeTaskChecklist(rs, oldChecklist);
+    rs.MergeStored();
+}
+
+// From the row as it now stands, the slot's own row already stored.
+void AppointmentSaver::writeTaskSums(Recordset& rs) {
+    const Value needed = rs.Fields("tskTimeNeeded").value();
     // A null Time Needed is neither short nor long.
     const int32_t minutes = needed.isNull() ? 11 : needed.toInt32();
-    rs->Fields("tskPossPoints") = Value(PointsTally::tally(
-        g().PointsTable, levelIn(*rs, "tskImp"), levelIn(*rs, "tskDifficulty"), minutes,
-        CNull::NVLBool(rs->Fields("tskHasChecklist").value()), CNull::NVLBool(rs->Fields("tskHasSchedule").value())));
+    rs.Fields("tskPossPoints") = Value(PointsTally::tally(
+        g().PointsTable, levelIn(rs, "tskImp"), levelIn(rs, "tskDifficulty"), minutes,
+        CNull::NVLBool(rs.Fields("tskHasChecklist").value()), CNull::NVLBool(rs.Fields("tskHasSchedule").value())));
     clsStatusList sum;
     RecordsetPtr total;
     sum.SetSQL("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =" + sqlLiteral(f_.TATaskGUID));
     if (!sum.GetDataKEY(total)) throw Failure(err::ObjectRequired, "Object required");
-    rs->Fields("tskTimeScheduled") = Value(CNull::NVLLng(total->Fields("QVTOTAL").value()));
+    rs.Fields("tskTimeScheduled") = Value(CNull::NVLLng(total->Fields("QVTOTAL").value()));
     total->Close();
-    rs->Update();
-    rs->UpdateBatch(adAffectAllChapters);
-    rs->Close();
+    rs.Update();
+    rs.UpdateBatch(adAffectAllChapters);
 }
 
 // Only Completed is ever written here; any other pick changes the tool alone.

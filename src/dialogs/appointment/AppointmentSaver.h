@@ -1,7 +1,8 @@
 #pragma once
 // Checking the Task Appointment dialog and writing it back: the slot's row
 // in TASKAPPTS, then its task's row in TASKS with the points worked out
-// anew from the row and Time Scheduled summed over the task's slots.
+// anew from the row and Time Scheduled summed over the task's slots. Both
+// rows are those the dialog loaded.
 
 #include <string>
 
@@ -23,8 +24,11 @@ private:
     [[nodiscard]] const char* firstFailure() const;
     // The blank Time Spent question; false when the user keeps it blank.
     bool askBlankTimeSpent();
-    void writeAppointment();
-    void writeTask();
+    // One try of the save; a WriteConflict leaves it undone.
+    bool saveRows();
+    void writeAppointment(Recordset& rs);
+    void writeTask(Recordset& rs);
+    void writeTaskSums(Recordset& rs);
     void markWorked(Recordset& rs);
     void writeSlotTimes(Recordset& rs);
     void writeTaskStatus(Recordset& rs);

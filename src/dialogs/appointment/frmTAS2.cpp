@@ -10,6 +10,7 @@
 #include "dialogs/shared/ReportPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
+#include "store/Recordset.h"
 #include "store/ErrorPath.h"
 #include "values/DateFormats.h"
 
@@ -168,6 +169,8 @@ void frmTAS2::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
 void frmTAS2::Form_Unload() {
     trapped("Form_Unload", [&] {
         c_.Timer1.setEnabled(false);
+        SlotRow.reset();
+        TaskRow.reset();
         if (!geometrySaved_) layout_->onClose();
         geometrySaved_ = true;
     });

@@ -22,6 +22,7 @@ class AppointmentSaver;
 class AppointmentTimes;
 class AppointmentActions;
 class AppointmentLayout;
+class Recordset;
 class TaskPrinter;
 
 class frmTAS2 : public Form {
@@ -60,6 +61,13 @@ public:
     // once the user removed it; empty when there is none.
     std::string TACheckListGUID;
     ChecklistState checklist;
+    // The slot's row and its task's row as GetTAS read them, kept until the
+    // save: what the user changed is told against these.
+    std::shared_ptr<Recordset> SlotRow;
+    std::shared_ptr<Recordset> TaskRow;
+    // The user answered No to overwriting another user's change: the
+    // dialog stays open with what was typed.
+    bool OverwriteDeclined = false;
     // Read by "EDIT" before it opens the task; nothing sets them.
     bool SaveBeforeEdit[2] = {false, false};
     int32_t currentTab = tabChecklist;
