@@ -86,8 +86,14 @@ void Splitter::resetToDefaults() {
     Changed();
 }
 
+// A layout the file holds already is not written again: an open and close
+// that moved nothing writes nothing.
 void Splitter::saveLayout(const std::string& path) {
     AboutToSave();
+    if (std::ifstream in{path, std::ios::binary}) {
+        const std::string stored((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+        if (stored == layout_) return;
+    }
     std::ofstream out(path, std::ios::binary | std::ios::trunc);
     if (out) out.write(layout_.data(), static_cast<std::streamsize>(layout_.size()));
     if (!out) throw Failure(err::PathNotFound, "Path not found: " + path);

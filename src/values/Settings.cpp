@@ -60,6 +60,8 @@ void loadAppVersion(clsSettings& reader) {
     const int32_t count = section.count();
     if (count > 1) return;
     if (count == 1) {
+        // A row that holds the number already is not written (the set
+        // writes only what differs): an open writes nothing.
         section.rows().Fields("SetSettingValue") = Value(kLayoutVersion);
         section.rows().Update();
         section.rows().UpdateBatch(adAffectAllChapters);

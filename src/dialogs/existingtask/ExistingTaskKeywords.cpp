@@ -114,6 +114,8 @@ void ExistingTaskKeywords::rewriteLinks() {
     rs->UpdateBatch(adAffectAllChapters);
     const auto mine = tickedKeys();
     const auto keywords = keywordCaptions();
+    std::unordered_set<std::string> stands;
+    for (const auto& key : standing) stands.insert(TextCase::upper(key));
     std::unordered_set<std::string> written;
     const auto wanted = [&](const std::string& upperKey) {
         return keywords.count(upperKey) && !written.count(upperKey);
@@ -121,7 +123,8 @@ void ExistingTaskKeywords::rewriteLinks() {
     const std::string taskText = f_.controls().spellTask.text();
     for (const auto& t : f_.controls().smtKeywords.tools()) {
         const std::string key = TextCase::upper(t->key());
-        if (!t->checked() || !wanted(key)) continue;
+        // A tick the user made, or one that stands as it was loaded.
+        if (!t->checked() || !wanted(key) || (loadedLinks_.count(key) && !stands.count(key))) continue;
         KeywordSheet::addLink(*rs, *t, taskText, guid);
         written.insert(key);
     }
