@@ -54,17 +54,32 @@ using Column = ColumnInfo;
 
 // Assigned values of a row: they override the cells as read.
 struct Edit {
-    explicit Edit(size_t n) : vals(n), has(n, 0), dirty(n, 0), base(n), hasBase(n, 0), stored(n), clash(n, 0) {}
+    explicit Edit(size_t n)
+        : vals(n), has(n, 0), dirty(n, 0), read(n), hasRead(n, 0), base(n), baseRaw(n), hasBase(n, 0), stored(n),
+          storedRaw(n), clash(n, 0) {}
     std::vector<Value> vals;
     std::vector<uint8_t> has;    // assigned
     std::vector<uint8_t> dirty;  // assigned, differing from the value read, and not yet written
+    // What this set wrote, where it stands for the cell as read: an
+    // assignment is a change when it differs from this.
+    std::vector<Value> read;
+    std::vector<uint8_t> hasRead;
     // The value the store is known to hold where it is no longer the cell
-    // as read: what this set wrote, or what it took from the store since.
+    // as read: what this set wrote, or what it took from the store since;
+    // as a value, and in the form the store holds it (for a write's check).
     std::vector<Value> base;
+    std::vector<Value> baseRaw;
     std::vector<uint8_t> hasBase;
     // Another user's value of a field this set changed too (a conflict).
     std::vector<Value> stored;
+    std::vector<Value> storedRaw;
     std::vector<uint8_t> clash;
+
+    void setBase(size_t c, Value value, Value raw) {
+        base[c] = std::move(value);
+        baseRaw[c] = std::move(raw);
+        hasBase[c] = 1;
+    }
 };
 
 enum class RowState : uint8_t {
@@ -232,6 +247,14 @@ struct Recordset::Impl {
         return decode(row.cells[c], cols[c].type);
     }
 
+    // The field's value as read, or as this set last wrote it.
+    [[nodiscard]] Value readAt(size_t r, size_t c) const {
+        const Row& row = rows[r];
+        if (row.edit && row.edit->hasRead[c]) return row.edit->read[c];
+        if (!row.cells) return {};
+        return decode(row.cells[c], cols[c].type);
+    }
+
     // The field's value as this set last knew the store to hold it.
     [[nodiscard]] Value originalAt(size_t r, size_t c) const {
         const Row& row = rows[r];
@@ -244,7 +267,7 @@ struct Recordset::Impl {
     // back as it was read, whatever its column's declared type.
     [[nodiscard]] Value expectedAt(size_t r, size_t c) const {
         const Row& row = rows[r];
-        if (row.edit && row.edit->hasBase[c]) return row.edit->base[c];
+        if (row.edit && row.edit->hasBase[c]) return row.edit->baseRaw[c];
         if (!row.cells) return {};
         return rawValue(row.cells[c]);
     }
@@ -306,7 +329,7 @@ struct Recordset::Impl {
         Row& row = rows[pos];
         // A stored row given the value it holds is not changed: nothing is
         // written, and another user's change to that field stays.
-        const bool same = row.state != RowState::New && FieldCodec::sameStored(converted, originalAt(pos, c));
+        const bool same = row.state != RowState::New && FieldCodec::sameStored(converted, readAt(pos, c));
         if (!row.edit) row.edit = std::make_unique<Edit>(cols.size());
         row.edit->vals[c] = std::move(converted);
         row.edit->has[c] = 1;
@@ -400,11 +423,11 @@ struct Recordset::Impl {
             if (!row.edit->dirty[c] || !checked(c)) continue;
             const Value now = decode(cells[c], cols[c].type);
             if (FieldCodec::sameStored(now, originalAt(r, c))) {
-                row.edit->base[c] = rawValue(cells[c]);
-                row.edit->hasBase[c] = 1;
+                row.edit->setBase(c, now, rawValue(cells[c]));
                 continue;
             }
-            row.edit->stored[c] = rawValue(cells[c]);
+            row.edit->stored[c] = now;
+            row.edit->storedRaw[c] = rawValue(cells[c]);
             row.edit->clash[c] = 1;
             any = true;
         }
@@ -439,19 +462,19 @@ struct Recordset::Impl {
             const bool unchanged = FieldCodec::sameStored(now, originalAt(pos, c));
             if (e.dirty[c] && !checked(c)) continue;
             if (e.dirty[c] && !unchanged && !FieldCodec::sameStored(now, e.vals[c])) {
-                e.stored[c] = rawValue(cells[c]);
+                e.stored[c] = now;
+                e.storedRaw[c] = rawValue(cells[c]);
                 e.clash[c] = 1;
                 clash = true;
                 continue;
             }
-            if (e.dirty[c] && !unchanged) e.dirty[c] = 0;  // both made the same change
-            if (!e.dirty[c] && !unchanged) {
+            // A field this set leaves as read shows what stands now.
+            if (!e.dirty[c] && !FieldCodec::sameStored(now, valueAt(pos, c))) {
                 e.vals[c] = now;
                 e.has[c] = 1;
                 taken.push_back(cols[c].name);
             }
-            e.base[c] = rawValue(cells[c]);
-            e.hasBase[c] = 1;
+            e.setBase(c, now, rawValue(cells[c]));
         }
         if (row.state == RowState::Modified && !anyDirty(row)) row.state = RowState::Clean;
         if (clash) throw WriteConflict(plan.table, clashNames(row), ctx);
@@ -465,8 +488,7 @@ struct Recordset::Impl {
             if (!row.edit) continue;
             for (size_t c = 0; c < cols.size(); ++c) {
                 if (!row.edit->clash[c]) continue;
-                row.edit->base[c] = row.edit->stored[c];
-                row.edit->hasBase[c] = 1;
+                row.edit->setBase(c, row.edit->stored[c], row.edit->storedRaw[c]);
                 row.edit->clash[c] = 0;
             }
         }
@@ -510,8 +532,9 @@ struct Recordset::Impl {
             // What was written is what the store holds now.
             for (size_t c = 0; c < cols.size(); ++c) {
                 if (!(added ? row.edit->has[c] : row.edit->dirty[c])) continue;
-                row.edit->base[c] = row.edit->vals[c];
-                row.edit->hasBase[c] = 1;
+                row.edit->setBase(c, row.edit->vals[c], row.edit->vals[c]);
+                row.edit->read[c] = row.edit->vals[c];
+                row.edit->hasRead[c] = 1;
                 row.edit->clash[c] = 0;
             }
             std::fill(row.edit->dirty.begin(), row.edit->dirty.end(), 0);
