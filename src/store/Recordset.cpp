@@ -422,7 +422,8 @@ struct Recordset::Impl {
         for (size_t c = 0; c < cols.size(); ++c) {
             if (!row.edit->dirty[c] || !checked(c)) continue;
             const Value now = decode(cells[c], cols[c].type);
-            if (FieldCodec::sameStored(now, originalAt(r, c))) {
+            // Unchanged, or changed by both alike: no conflict.
+            if (FieldCodec::sameStored(now, originalAt(r, c)) || FieldCodec::sameStored(now, row.edit->vals[c])) {
                 row.edit->setBase(c, now, rawValue(cells[c]));
                 continue;
             }

@@ -8,10 +8,12 @@
 #include <fstream>
 #include <functional>
 #include <sstream>
+#include <vector>
 
 #include "store/Connection.h"
 #include "store/JetDialect.h"
 #include "store/Recordset.h"
+#include "store/WriteConflict.h"
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -533,6 +535,104 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     // A query the store can't run fails with the store's words and the query.
     expectStoreFailure(failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); }), {"is missing the table NOSUCH"});
     EXPECT_EQ(rs.State(), adStateClosed);
+}
+
+}  // namespace
+}  // namespace qv
+
+namespace qv {
+namespace {
+
+// Another writer between the read and the write-back, case by case: what
+// the set writes, what it refuses, and what it tells.
+TEST_F(RecordsetTest, AWriteBackChecksThatItsFieldsStillHoldWhatWasRead) {
+    struct Case {
+        const char* name;
+        std::string host;                           // the other writer, after the read
+        std::function<void(Recordset&)> assign;     // the set's changes
+        std::vector<std::string> conflict;          // the fields a WriteConflict names
+        std::string row;                            // T1's desc|imp|spent|deadline after
+    };
+    const std::vector<Case> cases = {
+        {"the same values write nothing", "",
+         [](Recordset& rs) {
+             rs.Fields("tskDesc") = Value("First");
+             rs.Fields("tskImp") = Value(int32_t{2});
+             rs.Fields("tskDeadline") = Value(Date{37000.0});
+         },
+         {}, "First|2|30|2001-04-19T00:00:00.000"},
+        {"another field: both stay", "UPDATE TASKS SET tskDesc='Host' WHERE tskGUIDID='T1'",
+         [](Recordset& rs) { rs.Fields("tskImp") = Value(int16_t{4}); }, {}, "Host|4|30|2001-04-19T00:00:00.000"},
+        {"the same field: refused and named", "UPDATE TASKS SET tskDesc='Host', tskImp=3 WHERE tskGUIDID='T1'",
+         [](Recordset& rs) {
+             rs.Fields("tskDesc") = Value("Mine");
+             rs.Fields("tskImp") = Value(int16_t{3});  // the same change by both is no conflict
+             rs.Fields("tskTimeSpent") = Value(int32_t{31});
+         },
+         {"tskDesc"}, "Host|3|30|2001-04-19T00:00:00.000"},
+        {"a field written unchecked", "UPDATE TASKS SET tskTimeSpent=99 WHERE tskGUIDID='T1'",
+         [](Recordset& rs) {
+             rs.WriteUnchecked("tskTimeSpent");
+             rs.Fields("tskTimeSpent") = Value(int32_t{5});
+         },
+         {}, "First|2|5|2001-04-19T00:00:00.000"},
+        {"a null read checks as null", "UPDATE TASKS SET tskDeadline=NULL WHERE tskGUIDID='T1'",
+         [](Recordset& rs) { rs.Fields("tskDeadline") = Value(Date{37001.0}); }, {"tskDeadline"},
+         "First|2|30|"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        exec("UPDATE TASKS SET tskDesc='First', tskImp=2, tskTimeSpent=30, "
+             "tskDeadline='2001-04-19T00:00:00.000' WHERE tskGUIDID='T1'");
+        auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
+        ASSERT_FALSE(rs->EOF_());
+        if (!c.host.empty()) exec(c.host);
+        c.assign(*rs);
+        rs->Update();
+        std::vector<std::string> named;
+        try {
+            rs->UpdateBatch();
+        } catch (const WriteConflict& e) {
+            named = e.fields();
+            EXPECT_NE(e.description().find("TASKS"), std::string::npos);
+        }
+        EXPECT_EQ(named, c.conflict);
+        EXPECT_EQ(readOne("SELECT tskDesc || '|' || tskImp || '|' || tskTimeSpent || '|' || "
+                          "coalesce(tskDeadline, '') FROM TASKS WHERE tskGUIDID='T1'"),
+                  c.row);
+        if (named.empty()) continue;
+        // Told yes: the set's values go over the other writer's.
+        rs->OverwriteStored();
+        rs->UpdateBatch();
+        EXPECT_EQ(readOne("SELECT tskTimeSpent FROM TASKS WHERE tskGUIDID='T1'"),
+                  c.name == std::string("the same field: refused and named") ? "31" : "30");
+    }
+}
+
+TEST_F(RecordsetTest, AMergeTakesOtherWritersFieldsAndARowGoneIsTold) {
+    auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
+    ASSERT_EQ(rs->Fields("tskDesc").value(), Value("First"));
+    exec("UPDATE TASKS SET tskDesc='Host', tskImp=4 WHERE tskGUIDID='T1'");
+    rs->Fields("tskImp") = Value(int16_t{2});  // as read: no change, so the host's 4 comes in
+    rs->Fields("tskTimeSpent") = Value(int32_t{40});
+    EXPECT_EQ(rs->MergeStored(), (std::vector<std::string>{"tskDesc", "tskImp"}));
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("Host"));
+    EXPECT_EQ(rs->Fields("tskImp").value(), Value(int16_t{4}));
+    rs->UpdateBatch();
+    EXPECT_EQ(readOne("SELECT tskDesc || tskImp || tskTimeSpent FROM TASKS WHERE tskGUIDID='T1'"), "Host440");
+
+    // Nothing to write while another connection holds the write lock: no wait.
+    sqlite3* host = nullptr;
+    ASSERT_EQ(sqlite3_open_v2(path_.c_str(), &host, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(host, "BEGIN IMMEDIATE; DELETE FROM TASKS WHERE tskGUIDID='T1'", nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    rs->Fields("tskTimeSpent") = Value(int32_t{40});
+    EXPECT_NO_THROW(rs->UpdateBatch());
+    ASSERT_EQ(sqlite3_exec(host, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(host);
+
+    rs->Fields("tskTimeSpent") = Value(int32_t{41});
+    expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"deleted by another user", "TASKS"});
 }
 
 }  // namespace
