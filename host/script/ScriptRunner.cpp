@@ -13,6 +13,7 @@
 #include "installer/HelpPages.h"
 #include "script/FormChecks.h"
 #include "script/GridCommands.h"
+#include "script/SyncCommands.h"
 #include "installer/StoreInstaller.h"
 #include "store/ADOCode.h"
 #include "store/PgConnection.h"
@@ -182,6 +183,7 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"drag", &ScriptRunner::cmdDrag},     {"clock", &ScriptRunner::cmdClock},
         {"settings-file", &ScriptRunner::cmdSettingsFile}};
     if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
+    if (SyncCommands::handles(lower(line.word(0)))) return SyncCommands::run(line);
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);

@@ -1,0 +1,39 @@
+#include "script/SyncCommands.h"
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <thread>
+
+#include "script/ScriptLine.h"
+
+namespace qv {
+
+namespace {
+constexpr int kDefaultWaitSeconds = 60;
+constexpr auto kPoll = std::chrono::milliseconds(10);
+}  // namespace
+
+bool SyncCommands::handles(const std::string& command) { return command == "signal" || command == "wait-for"; }
+
+void SyncCommands::run(const ScriptLine& line) {
+    const std::string& path = line.word(1);
+    if (path.empty()) throw std::invalid_argument(line.word(0) + " needs a file");
+    if (line.word(0) == "signal") {
+        // Made beside and renamed, so the waiting side never sees half a file.
+        const std::string part = path + ".part";
+        std::ofstream(part).close();
+        std::filesystem::rename(part, path);
+        return;
+    }
+    const int seconds = line.word(2).empty() ? kDefaultWaitSeconds : std::stoi(line.word(2));
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+    while (!std::filesystem::exists(path)) {
+        if (std::chrono::steady_clock::now() > until)
+            throw std::runtime_error("waited " + std::to_string(seconds) + " s for " + path);
+        std::this_thread::sleep_for(kPoll);
+    }
+}
+
+}  // namespace qv
