@@ -15,9 +15,11 @@ constexpr int kDefaultWaitSeconds = 60;
 constexpr auto kPoll = std::chrono::milliseconds(10);
 }  // namespace
 
-bool SyncCommands::handles(const std::string& command) { return command == "signal" || command == "wait-for"; }
+void SyncCommands::addTo(ScriptCommands& table) {
+    for (const char* command : {"signal", "wait-for"}) table.commands.insert({command, &run});
+}
 
-void SyncCommands::run(const ScriptLine& line) {
+void SyncCommands::run(ScriptContext& /*c*/, const ScriptLine& line) {
     const std::string& path = line.word(1);
     if (path.empty()) throw std::invalid_argument(line.word(0) + " needs a file");
     if (line.word(0) == "signal") {

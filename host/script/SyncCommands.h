@@ -6,18 +6,18 @@
 //   signal FILE               make FILE (empty) now
 //   wait-for FILE [SECONDS]   wait until FILE exists; fail after SECONDS (default 60)
 
-#include <string>
+#include "script/ScriptCommands.h"
 
 namespace qv {
 
-struct ScriptLine;
-
 class SyncCommands {
 public:
-    [[nodiscard]] static bool handles(const std::string& command);
-    // Runs a command; throws std::invalid_argument for a bad line and
-    // std::runtime_error when the wait ran out.
-    static void run(const ScriptLine& line);
+    static void addTo(ScriptCommands& table);
+
+private:
+    // Throws std::invalid_argument for a bad line and std::runtime_error
+    // when the wait ran out.
+    static void run(ScriptContext& c, const ScriptLine& line);
 };
 
 }  // namespace qv
