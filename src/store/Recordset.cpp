@@ -240,36 +240,29 @@ struct Recordset::Impl {
         return {};
     }
 
-    [[nodiscard]] Value valueAt(size_t r, size_t c) const {
+    // A field's value from one layer of the row's edit where it holds one,
+    // else the cell as read (decoded for the column, or as stored).
+    using Values = std::vector<Value> Edit::*;
+    using Flags = std::vector<uint8_t> Edit::*;
+    [[nodiscard]] Value layered(size_t r, size_t c, Values vals, Flags has, bool raw = false) const {
         const Row& row = rows[r];
-        if (row.edit && row.edit->has[c]) return row.edit->vals[c];
+        if (row.edit && ((*row.edit).*has)[c]) return ((*row.edit).*vals)[c];
         if (!row.cells) return {};
-        return decode(row.cells[c], cols[c].type);
+        return raw ? rawValue(row.cells[c]) : decode(row.cells[c], cols[c].type);
     }
+
+    [[nodiscard]] Value valueAt(size_t r, size_t c) const { return layered(r, c, &Edit::vals, &Edit::has); }
 
     // The field's value as read, or as this set last wrote it.
-    [[nodiscard]] Value readAt(size_t r, size_t c) const {
-        const Row& row = rows[r];
-        if (row.edit && row.edit->hasRead[c]) return row.edit->read[c];
-        if (!row.cells) return {};
-        return decode(row.cells[c], cols[c].type);
-    }
+    [[nodiscard]] Value readAt(size_t r, size_t c) const { return layered(r, c, &Edit::read, &Edit::hasRead); }
 
     // The field's value as this set last knew the store to hold it.
-    [[nodiscard]] Value originalAt(size_t r, size_t c) const {
-        const Row& row = rows[r];
-        if (row.edit && row.edit->hasBase[c]) return row.edit->base[c];
-        if (!row.cells) return {};
-        return decode(row.cells[c], cols[c].type);
-    }
+    [[nodiscard]] Value originalAt(size_t r, size_t c) const { return layered(r, c, &Edit::base, &Edit::hasBase); }
 
     // The same as the store holds it, for the check of a write: a cell goes
     // back as it was read, whatever its column's declared type.
     [[nodiscard]] Value expectedAt(size_t r, size_t c) const {
-        const Row& row = rows[r];
-        if (row.edit && row.edit->hasBase[c]) return row.edit->baseRaw[c];
-        if (!row.cells) return {};
-        return rawValue(row.cells[c]);
+        return layered(r, c, &Edit::baseRaw, &Edit::hasBase, true);
     }
 
     [[nodiscard]] static Value rawValue(const Cell& cell) {
