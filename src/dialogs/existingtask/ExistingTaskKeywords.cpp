@@ -104,6 +104,7 @@ void ExistingTaskKeywords::openAddProject() {
 // ticks, in the sheet's order.
 void ExistingTaskKeywords::rewriteLinks() {
     const std::string guid = g().CurrentTaskGUID;
+    const auto keywords = keywordCaptions(guid);
     clsNewTask source;
     RecordsetPtr rs = openLinks(source, guid);
     std::vector<std::string> standing;
@@ -113,25 +114,26 @@ void ExistingTaskKeywords::rewriteLinks() {
     }
     rs->UpdateBatch(adAffectAllChapters);
     const auto mine = tickedKeys();
-    const auto keywords = keywordCaptions();
     std::unordered_set<std::string> stands;
     for (const auto& key : standing) stands.insert(TextCase::upper(key));
     std::unordered_set<std::string> written;
-    const auto wanted = [&](const std::string& upperKey) {
-        return keywords.count(upperKey) && !written.count(upperKey);
+    // A keyword of the sheet stood when the sheet was built; a stored link's
+    // keyword must stand now.
+    const auto wanted = [&](const std::string& upperKey, bool onSheet) {
+        return (onSheet || keywords.count(upperKey)) && !written.count(upperKey);
     };
     const std::string taskText = f_.controls().spellTask.text();
     for (const auto& t : f_.controls().smtKeywords.tools()) {
         const std::string key = TextCase::upper(t->key());
         // A tick the user made, or one that stands as it was loaded.
-        if (!t->checked() || !wanted(key) || (loadedLinks_.count(key) && !stands.count(key))) continue;
+        if (!t->checked() || !wanted(key, true) || (loadedLinks_.count(key) && !stands.count(key))) continue;
         KeywordSheet::addLink(*rs, *t, taskText, guid);
         written.insert(key);
     }
     // Links another user made, and the user did not untick.
     for (const auto& stored : standing) {
         const std::string key = TextCase::upper(stored);
-        if (!wanted(key) || (loadedLinks_.count(key) && !mine.count(key))) continue;
+        if (!wanted(key, false) || (loadedLinks_.count(key) && !mine.count(key))) continue;
         const Tool link(nullptr, nullptr, ttCheck, stored, keywords.at(key));
         KeywordSheet::addLink(*rs, link, taskText, guid);
         written.insert(key);
@@ -139,11 +141,13 @@ void ExistingTaskKeywords::rewriteLinks() {
     rs->Close();
 }
 
-// Every keyword's caption by its key (upper case).
-std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptions() {
+// The captions of the keywords the task's stored links name, by key (upper
+// case): a link whose keyword is gone has none.
+std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptions(const std::string& taskGUID) {
     clsKeywords source;
     RecordsetPtr rs;
-    source.SetSQL("SELECT keyGUIDID, keyKeyword from KEYWORDS");
+    source.SetSQL("SELECT keyGUIDID, keyKeyword from KEYWORDS WHERE keyGUIDID IN (SELECT ktKEYGUID from "
+                  "TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(taskGUID) + ")");
     if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
     std::unordered_map<std::string, std::string> captions;
     for (; !rs->EOF_(); rs->MoveNext())
