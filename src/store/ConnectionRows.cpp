@@ -164,7 +164,8 @@ int64_t Connection::updateRow(const std::string& table, const std::vector<std::s
 bool Connection::readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,
                          RowStore& store, Cell* cells, std::string_view context) {
     std::string cols;
-    for (const auto& name : names) cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
+    for (const auto& name : names)
+        cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
     auto st = prepare("SELECT " + cols + " FROM " + jet::quoteIdentifier(table) + " WHERE rowid=?", context);
     sqlite3_bind_int64(st.get(), 1, id);
     const int rc = sqlite3_step(st.get());

@@ -540,11 +540,12 @@ int64_t PgConnection::updateRow(const std::string& table, const std::vector<std:
     }
     std::vector<Value> params = values;
     params.emplace_back(std::to_string(id));
-    std::string sql = "UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE " + jet::kIdentityColumn +
-                      " = $" + std::to_string(params.size());
+    std::string sql = "UPDATE " + jet::quoteIdentifier(table) + " SET " + sets + " WHERE " +
+                      jet::kIdentityColumn + " = $" + std::to_string(params.size());
     for (size_t i = 0; i < checkNames.size(); ++i) {
         params.push_back(checkValues[i]);
-        sql += " AND " + jet::quoteIdentifier(checkNames[i]) + " IS NOT DISTINCT FROM $" + std::to_string(params.size());
+        sql += " AND " + jet::quoteIdentifier(checkNames[i]) + " IS NOT DISTINCT FROM $" +
+               std::to_string(params.size());
     }
     const Result r = run(sql, params, context);
     return std::atoll(PQcmdTuples(r.get()));
@@ -555,7 +556,8 @@ int64_t PgConnection::updateRow(const std::string& table, const std::vector<std:
 bool PgConnection::readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,
                            RowStore& store, Cell* cells, std::string_view context) {
     std::string cols;
-    for (const auto& name : names) cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
+    for (const auto& name : names)
+        cols += (cols.empty() ? "" : ", ") + (name.empty() ? "NULL" : jet::quoteIdentifier(name));
     const Result r = run("SELECT " + cols + " FROM " + jet::quoteIdentifier(table) + " WHERE " +
                              jet::kIdentityColumn + " = $1" + (inTransaction() ? " FOR UPDATE" : ""),
                          {Value(std::to_string(id))}, context);

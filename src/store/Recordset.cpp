@@ -55,8 +55,17 @@ using Column = ColumnInfo;
 // Assigned values of a row: they override the cells as read.
 struct Edit {
     explicit Edit(size_t n)
-        : vals(n), has(n, 0), dirty(n, 0), read(n), hasRead(n, 0), base(n), baseRaw(n), hasBase(n, 0), stored(n),
-          storedRaw(n), clash(n, 0) {}
+        : vals(n),
+          has(n, 0),
+          dirty(n, 0),
+          read(n),
+          hasRead(n, 0),
+          base(n),
+          baseRaw(n),
+          hasBase(n, 0),
+          stored(n),
+          storedRaw(n),
+          clash(n, 0) {}
     std::vector<Value> vals;
     std::vector<uint8_t> has;    // assigned
     std::vector<uint8_t> dirty;  // assigned, differing from the value read, and not yet written
@@ -254,10 +263,14 @@ struct Recordset::Impl {
     [[nodiscard]] Value valueAt(size_t r, size_t c) const { return layered(r, c, &Edit::vals, &Edit::has); }
 
     // The field's value as read, or as this set last wrote it.
-    [[nodiscard]] Value readAt(size_t r, size_t c) const { return layered(r, c, &Edit::read, &Edit::hasRead); }
+    [[nodiscard]] Value readAt(size_t r, size_t c) const {
+        return layered(r, c, &Edit::read, &Edit::hasRead);
+    }
 
     // The field's value as this set last knew the store to hold it.
-    [[nodiscard]] Value originalAt(size_t r, size_t c) const { return layered(r, c, &Edit::base, &Edit::hasBase); }
+    [[nodiscard]] Value originalAt(size_t r, size_t c) const {
+        return layered(r, c, &Edit::base, &Edit::hasBase);
+    }
 
     // The same as the store holds it, for the check of a write: a cell goes
     // back as it was read, whatever its column's declared type.
@@ -332,7 +345,8 @@ struct Recordset::Impl {
     }
 
     [[nodiscard]] static bool anyDirty(const Row& row) {
-        return row.edit && std::find(row.edit->dirty.begin(), row.edit->dirty.end(), 1) != row.edit->dirty.end();
+        return row.edit &&
+               std::find(row.edit->dirty.begin(), row.edit->dirty.end(), 1) != row.edit->dirty.end();
     }
 
     void deleteRow(size_t r) {
@@ -416,7 +430,8 @@ struct Recordset::Impl {
             if (!row.edit->dirty[c] || !checked(c)) continue;
             const Value now = decode(cells[c], cols[c].type);
             // Unchanged, or changed by both alike: no conflict.
-            if (FieldCodec::sameStored(now, originalAt(r, c)) || FieldCodec::sameStored(now, row.edit->vals[c])) {
+            if (FieldCodec::sameStored(now, originalAt(r, c)) ||
+                FieldCodec::sameStored(now, row.edit->vals[c])) {
                 row.edit->setBase(c, now, rawValue(cells[c]));
                 continue;
             }
@@ -442,7 +457,8 @@ struct Recordset::Impl {
         requireCurrent();
         Row& row = rows[pos];
         if (row.state == RowState::New) return {};
-        const std::string ctx = conn->where("reading again a row of table " + plan.table + " of \"" + source + "\"");
+        const std::string ctx =
+            conn->where("reading again a row of table " + plan.table + " of \"" + source + "\"");
         RowStore scratch;
         std::vector<Cell> cells;
         if (!readStored(pos, scratch, cells, ctx)) throwGone(ctx);

@@ -73,7 +73,8 @@ public:
     // column no longer holds its expected value (null matches null).
     virtual int64_t updateRow(const std::string& table, const std::vector<std::string>& names,
                               const std::vector<Value>& values, const std::vector<std::string>& checkNames,
-                              const std::vector<Value>& checkValues, int64_t id, std::string_view context) = 0;
+                              const std::vector<Value>& checkValues, int64_t id,
+                              std::string_view context) = 0;
     // Reads one row by identity into cells, one per name (an empty name
     // stays null); false when the row is gone.
     virtual bool readRow(const std::string& table, const std::vector<std::string>& names, int64_t id,

@@ -60,7 +60,8 @@ TEST_F(OpenUnderWriteLock, EveryDialogOpensAndClosesWithoutWaiting) {
             if (o.asksToCancel) then([this] { answer(vbYes); });
             then([] { Form::openForms().back()->keyDown(vbKeyEscape); });
             o.run();
-            EXPECT_EQ(scriptedUi().messages().size(), o.asksToCancel ? 1U : 0U) << scriptedUi().messages().back().text;
+            EXPECT_EQ(scriptedUi().messages().size(), o.asksToCancel ? 1U : 0U)
+                << scriptedUi().messages().back().text;
             EXPECT_TRUE(reporter().faults().empty()) << reporter().faults().front().description;
         }
     }

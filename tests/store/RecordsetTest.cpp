@@ -548,42 +548,54 @@ namespace {
 TEST_F(RecordsetTest, AWriteBackChecksThatItsFieldsStillHoldWhatWasRead) {
     struct Case {
         const char* name;
-        std::string host;                           // the other writer, after the read
-        std::function<void(Recordset&)> assign;     // the set's changes
-        std::vector<std::string> conflict;          // the fields a WriteConflict names
-        std::string row;                            // T1's desc|imp|spent|deadline after
+        std::string host;                        // the other writer, after the read
+        std::function<void(Recordset&)> assign;  // the set's changes
+        std::vector<std::string> conflict;       // the fields a WriteConflict names
+        std::string row;                         // T1's desc|imp|spent|deadline after
     };
     const std::vector<Case> cases = {
-        {"the same values write nothing", "",
+        {"the same values write nothing",
+         "",
          [](Recordset& rs) {
              rs.Fields("tskDesc") = Value("First");
              rs.Fields("tskImp") = Value(int32_t{2});
              rs.Fields("tskDeadline") = Value(Date{37000.0});
          },
-         {}, "First|2|30|2001-04-19T00:00:00.000"},
-        {"another field: both stay", "UPDATE TASKS SET tskDesc='Host' WHERE tskGUIDID='T1'",
-         [](Recordset& rs) { rs.Fields("tskImp") = Value(int16_t{4}); }, {}, "Host|4|30|2001-04-19T00:00:00.000"},
-        {"the same field: refused and named", "UPDATE TASKS SET tskDesc='Host', tskImp=3 WHERE tskGUIDID='T1'",
+         {},
+         "First|2|30|2001-04-19T00:00:00.000"},
+        {"another field: both stay",
+         "UPDATE TASKS SET tskDesc='Host' WHERE tskGUIDID='T1'",
+         [](Recordset& rs) { rs.Fields("tskImp") = Value(int16_t{4}); },
+         {},
+         "Host|4|30|2001-04-19T00:00:00.000"},
+        {"the same field: refused and named",
+         "UPDATE TASKS SET tskDesc='Host', tskImp=3 WHERE tskGUIDID='T1'",
          [](Recordset& rs) {
              rs.Fields("tskDesc") = Value("Mine");
              rs.Fields("tskImp") = Value(int16_t{3});  // the same change by both is no conflict
              rs.Fields("tskTimeSpent") = Value(int32_t{31});
          },
-         {"tskDesc"}, "Host|3|30|2001-04-19T00:00:00.000"},
-        {"a field written unchecked", "UPDATE TASKS SET tskTimeSpent=99 WHERE tskGUIDID='T1'",
+         {"tskDesc"},
+         "Host|3|30|2001-04-19T00:00:00.000"},
+        {"a field written unchecked",
+         "UPDATE TASKS SET tskTimeSpent=99 WHERE tskGUIDID='T1'",
          [](Recordset& rs) {
              rs.WriteUnchecked("tskTimeSpent");
              rs.Fields("tskTimeSpent") = Value(int32_t{5});
          },
-         {}, "First|2|5|2001-04-19T00:00:00.000"},
-        {"a null read checks as null", "UPDATE TASKS SET tskDeadline=NULL WHERE tskGUIDID='T1'",
-         [](Recordset& rs) { rs.Fields("tskDeadline") = Value(Date{37001.0}); }, {"tskDeadline"},
+         {},
+         "First|2|5|2001-04-19T00:00:00.000"},
+        {"a null read checks as null",
+         "UPDATE TASKS SET tskDeadline=NULL WHERE tskGUIDID='T1'",
+         [](Recordset& rs) { rs.Fields("tskDeadline") = Value(Date{37001.0}); },
+         {"tskDeadline"},
          "First|2|30|"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        exec("UPDATE TASKS SET tskDesc='First', tskImp=2, tskTimeSpent=30, "
-             "tskDeadline='2001-04-19T00:00:00.000' WHERE tskGUIDID='T1'");
+        exec(
+            "UPDATE TASKS SET tskDesc='First', tskImp=2, tskTimeSpent=30, "
+            "tskDeadline='2001-04-19T00:00:00.000' WHERE tskGUIDID='T1'");
         auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'");
         ASSERT_FALSE(rs->EOF_());
         if (!c.host.empty()) exec(c.host);
@@ -624,7 +636,8 @@ TEST_F(RecordsetTest, AMergeTakesOtherWritersFieldsAndARowGoneIsTold) {
     // Nothing to write while another connection holds the write lock: no wait.
     sqlite3* host = nullptr;
     ASSERT_EQ(sqlite3_open_v2(path_.c_str(), &host, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(host, "BEGIN IMMEDIATE; DELETE FROM TASKS WHERE tskGUIDID='T1'", nullptr, nullptr, nullptr),
+    ASSERT_EQ(sqlite3_exec(host, "BEGIN IMMEDIATE; DELETE FROM TASKS WHERE tskGUIDID='T1'", nullptr, nullptr,
+                           nullptr),
               SQLITE_OK);
     rs->Fields("tskTimeSpent") = Value(int32_t{40});
     EXPECT_NO_THROW(rs->UpdateBatch());

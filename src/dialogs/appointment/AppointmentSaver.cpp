@@ -126,14 +126,15 @@ bool AppointmentSaver::saveRows() {
     SaveTransaction save;
     clsNewTask slotSource;
     clsNewTask taskSource;
-    RecordsetPtr slot = f_.SlotRow
-                            ? f_.SlotRow
-                            : openKeyed(slotSource, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
+    RecordsetPtr slot = f_.SlotRow ? f_.SlotRow
+                                   : openKeyed(slotSource, "SELECT * from TASKAPPTS WHERE taGUIDID=" +
+                                                               sqlLiteral(g().CurrentTaskGUID));
     f_.StopTHETimer();
     writeAppointment(*slot);
-    RecordsetPtr task = f_.TaskRow
-                            ? f_.TaskRow
-                            : openKeyed(taskSource, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+    RecordsetPtr task =
+        f_.TaskRow
+            ? f_.TaskRow
+            : openKeyed(taskSource, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
     writeTask(*task);
     slot->Update();
     slot->UpdateBatch(adAffectAllChapters);
@@ -221,9 +222,10 @@ void AppointmentSaver::writeTaskSums(Recordset& rs) {
     const Value needed = rs.Fields("tskTimeNeeded").value();
     // A null Time Needed is neither short nor long.
     const int32_t minutes = needed.isNull() ? 11 : needed.toInt32();
-    rs.Fields("tskPossPoints") = Value(PointsTally::tally(
-        g().PointsTable, levelIn(rs, "tskImp"), levelIn(rs, "tskDifficulty"), minutes,
-        CNull::NVLBool(rs.Fields("tskHasChecklist").value()), CNull::NVLBool(rs.Fields("tskHasSchedule").value())));
+    rs.Fields("tskPossPoints") =
+        Value(PointsTally::tally(g().PointsTable, levelIn(rs, "tskImp"), levelIn(rs, "tskDifficulty"),
+                                 minutes, CNull::NVLBool(rs.Fields("tskHasChecklist").value()),
+                                 CNull::NVLBool(rs.Fields("tskHasSchedule").value())));
     clsStatusList sum;
     RecordsetPtr total;
     sum.SetSQL("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =" + sqlLiteral(f_.TATaskGUID));

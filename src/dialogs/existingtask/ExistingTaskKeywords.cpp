@@ -143,11 +143,14 @@ void ExistingTaskKeywords::rewriteLinks() {
 
 // The captions of the keywords the task's stored links name, by key (upper
 // case): a link whose keyword is gone has none.
-std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptions(const std::string& taskGUID) {
+std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptions(
+    const std::string& taskGUID) {
     clsKeywords source;
     RecordsetPtr rs;
-    source.SetSQL("SELECT keyGUIDID, keyKeyword from KEYWORDS WHERE keyGUIDID IN (SELECT ktKEYGUID from "
-                  "TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(taskGUID) + ")");
+    source.SetSQL(
+        "SELECT keyGUIDID, keyKeyword from KEYWORDS WHERE keyGUIDID IN (SELECT ktKEYGUID from "
+        "TaskKeywords WHERE ktTASKGUID= " +
+        sqlLiteral(taskGUID) + ")");
     if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
     std::unordered_map<std::string, std::string> captions;
     for (; !rs->EOF_(); rs->MoveNext())

@@ -42,7 +42,8 @@ public:
 private:
     void openAddKeyword();
     [[nodiscard]] std::unordered_set<std::string> tickedKeys() const;
-    [[nodiscard]] static std::unordered_map<std::string, std::string> keywordCaptions(const std::string& taskGUID);
+    [[nodiscard]] static std::unordered_map<std::string, std::string> keywordCaptions(
+        const std::string& taskGUID);
     void openAddProject();
 
     frmExistingTask& f_;

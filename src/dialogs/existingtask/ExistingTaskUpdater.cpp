@@ -1,5 +1,7 @@
 #include "dialogs/existingtask/ExistingTaskUpdater.h"
 
+#include <algorithm>
+
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 #include "dialogs/existingtask/frmExistingTask.h"
@@ -18,8 +20,6 @@
 #include "values/TextCase.h"
 #include "values/TextChars.h"
 #include "values/TimeValues.h"
-
-#include <algorithm>
 
 namespace qv {
 
@@ -75,7 +75,8 @@ bool ExistingTaskUpdater::save(double now, std::string& outlookEntry, std::strin
 // Stamps and what is worked out from other fields are written as this save
 // has them, without the check, so two saves of different fields never meet.
 void ExistingTaskUpdater::markBookkeeping(Recordset& row) {
-    for (const char* field : {"tskLastMod", "tskPossPoints", "tskHasNotes", "tskHasSchedule", "tskWasImported"})
+    for (const char* field :
+         {"tskLastMod", "tskPossPoints", "tskHasNotes", "tskHasSchedule", "tskWasImported"})
         row.WriteUnchecked(field);
 }
 
@@ -94,10 +95,9 @@ void ExistingTaskUpdater::takeOthersChanges(Recordset& row) {
         return v.isNull() ? -1 : v.toInt32();
     };
     const Value needed = row.Fields("tskTimeNeeded").value();
-    row.Fields("tskPossPoints") =
-        Value(PointsTally::tally(g().PointsTable, level("tskImp"), level("tskDifficulty"),
-                                 needed.isNull() ? 0 : needed.toInt32(),
-                                 CNull::NVLBool(row.Fields("tskHasChecklist").value()), false));
+    row.Fields("tskPossPoints") = Value(PointsTally::tally(
+        g().PointsTable, level("tskImp"), level("tskDifficulty"), needed.isNull() ? 0 : needed.toInt32(),
+        CNull::NVLBool(row.Fields("tskHasChecklist").value()), false));
 }
 
 void ExistingTaskUpdater::writeColumns(Recordset& row, double now) {

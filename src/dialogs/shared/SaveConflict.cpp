@@ -12,14 +12,29 @@ namespace qv {
 namespace {
 
 const std::pair<const char*, const char*> kCaptions[] = {
-    {"tskDesc", "Description"},      {"taTaskDesc", "Description"},   {"tskNotes", "Notes"},
-    {"tskProject", "Project"},       {"tskProjectKey", "Project"},    {"taProject", "Project"},
-    {"taProjectGUIDID", "Project"},  {"tskStatus", "Status"},         {"tskImp", "Importance"},
-    {"taImp", "Importance"},         {"tskDifficulty", "Difficulty"}, {"taDifficulty", "Difficulty"},
-    {"tskTimeNeeded", "Time Needed"}, {"tskTimeSpent", "Time Spent"}, {"taTimeWorked", "Time Spent"},
-    {"tskDeadline", "Deadline"},     {"tskDoneDate", "Date Done"},    {"tskCurrent", "Current List"},
-    {"tskHasChecklist", "Checklist"}, {"tskTCheckListGUID", "Checklist"}, {"taStartTime", "Start"},
-    {"taEndTime", "End"},            {"taWasWorked", "Done"},
+    {"tskDesc", "Description"},
+    {"taTaskDesc", "Description"},
+    {"tskNotes", "Notes"},
+    {"tskProject", "Project"},
+    {"tskProjectKey", "Project"},
+    {"taProject", "Project"},
+    {"taProjectGUIDID", "Project"},
+    {"tskStatus", "Status"},
+    {"tskImp", "Importance"},
+    {"taImp", "Importance"},
+    {"tskDifficulty", "Difficulty"},
+    {"taDifficulty", "Difficulty"},
+    {"tskTimeNeeded", "Time Needed"},
+    {"tskTimeSpent", "Time Spent"},
+    {"taTimeWorked", "Time Spent"},
+    {"tskDeadline", "Deadline"},
+    {"tskDoneDate", "Date Done"},
+    {"tskCurrent", "Current List"},
+    {"tskHasChecklist", "Checklist"},
+    {"tskTCheckListGUID", "Checklist"},
+    {"taStartTime", "Start"},
+    {"taEndTime", "End"},
+    {"taWasWorked", "Done"},
 };
 
 }  // namespace

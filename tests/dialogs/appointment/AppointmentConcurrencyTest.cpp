@@ -27,7 +27,8 @@ TEST_F(AppointmentConcurrency, DifferentFieldsBothStay) {
     typeDescription("Mow the lawn");
     type("smtTimes", "END", "11:00");
     otherUser("UPDATE TASKS SET tskNotes='Their notes', tskImp=4");
-    otherUser("UPDATE TASKAPPTS SET taStartTime='2026-11-24T08:00:00.000' WHERE taGUIDID='" + std::string(kSlot) + "'");
+    otherUser("UPDATE TASKAPPTS SET taStartTime='2026-11-24T08:00:00.000' WHERE taGUIDID='" +
+              std::string(kSlot) + "'");
     click("smtActions", "SAVE");
     open();
     EXPECT_TRUE(scriptedUi().messages().empty());
@@ -56,7 +57,8 @@ TEST_F(AppointmentConcurrency, TheSameFieldIsAskedAboutFirst) {
     then([this] {
         ASSERT_EQ(scriptedUi().messages().size(), 2U);
         EXPECT_EQ(scriptedUi().messages().front().title, kProgramTitle);
-        EXPECT_NE(scriptedUi().messages().front().text.find("Another user changed Description"), std::string::npos);
+        EXPECT_NE(scriptedUi().messages().front().text.find("Another user changed Description"),
+                  std::string::npos);
         EXPECT_TRUE(form().visible());
         EXPECT_EQ(form().editor("spellTask")->text(), "Mow the lawn");
         EXPECT_EQ(taskValue("tskDesc"), "Their desc");

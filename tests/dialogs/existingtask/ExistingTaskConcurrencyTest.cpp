@@ -62,7 +62,8 @@ TEST_F(ExistingTaskConcurrency, DifferentFieldsOfTwoEditorsBothStay) {
              EXPECT_EQ(column("tskDesc"), "Paint the gate");
              EXPECT_EQ(column("tskNotes"), "Their notes");
          }},
-        {"notes, description", [&] { editor("SpellNotes", "My notes"); }, "UPDATE TASKS SET tskDesc='Their desc'",
+        {"notes, description", [&] { editor("SpellNotes", "My notes"); },
+         "UPDATE TASKS SET tskDesc='Their desc'",
          [&] {
              EXPECT_EQ(column("tskDesc"), "Their desc");
              EXPECT_EQ(column("tskNotes"), "My notes");
@@ -130,9 +131,10 @@ TEST_F(ExistingTaskConcurrency, TheSameFieldIsAskedAboutFirst) {
         const auto& m = scriptedUi().messages().front();
         EXPECT_EQ(m.title, kProgramTitle);
         EXPECT_EQ(m.style, vbYesNo);
-        EXPECT_EQ(m.text,
-                  "Another user changed Description, Notes since you opened this task.\r\n\r\nOverwrite them with "
-                  "your changes? (No saves nothing and keeps this window open.)");
+        EXPECT_EQ(
+            m.text,
+            "Another user changed Description, Notes since you opened this task.\r\n\r\nOverwrite them with "
+            "your changes? (No saves nothing and keeps this window open.)");
         EXPECT_TRUE(eform().visible());
         EXPECT_EQ(eform().editor("spellTask")->text(), "My desc");
         EXPECT_EQ(eform().editor("SpellNotes")->text(), "My notes");
@@ -177,8 +179,9 @@ TEST_F(ExistingTaskConcurrency, KeywordLinksMergeThreeWays) {
     EXPECT_TRUE(linked("12121212-0000-0000-0000-000000000012"));
     EXPECT_EQ(links(), "2");
     EXPECT_EQ(readOne("SELECT count(*) FROM TaskKeywords WHERE ktTask='Paint the gate'"), "2");
-    EXPECT_EQ(readOne("SELECT ktKeyword FROM TaskKeywords WHERE ktKEYGUID='12121212-0000-0000-0000-000000000012'"),
-              "Large");
+    EXPECT_EQ(
+        readOne("SELECT ktKeyword FROM TaskKeywords WHERE ktKEYGUID='12121212-0000-0000-0000-000000000012'"),
+        "Large");
 }
 
 }  // namespace qv
