@@ -1,6 +1,7 @@
 #include "app/AppFolder.h"
 
 #include <cstdlib>
+#include <filesystem>
 
 namespace qv {
 
@@ -15,6 +16,16 @@ std::string defaultAppFolder() {
     if (auto home = env("QUORVEL_HOME"); !home.empty()) return home;
     if (auto xdg = env("XDG_DATA_HOME"); !xdg.empty()) return xdg + "/quorvel";
     return env("HOME") + "/.local/share/quorvel";
+}
+
+std::string absoluteFolder(const std::string& folder) {
+    if (folder.empty()) return folder;
+    std::error_code ec;
+    const auto path = std::filesystem::absolute(folder, ec);
+    if (ec) return folder;
+    std::string out = path.lexically_normal().string();
+    if (out.size() > 1 && out.back() == '/') out.pop_back();
+    return out;
 }
 
 HostOptions parseHostOptions(int argc, char** argv) {
@@ -43,6 +54,7 @@ HostOptions parseHostOptions(int argc, char** argv) {
     }
     if (!o.storeUri.empty() && !o.installStoreOnly) o.error = "--store goes with --install-store";
     if (o.home.empty()) o.home = defaultAppFolder();
+    o.home = absoluteFolder(o.home);
     o.headless = env("DISPLAY").empty() && env("WAYLAND_DISPLAY").empty();
     return o;
 }

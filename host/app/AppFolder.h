@@ -18,5 +18,8 @@ struct HostOptions {
 
 HostOptions parseHostOptions(int argc, char** argv);
 std::string defaultAppFolder();
+// A folder as an absolute path, so that what is stored from it holds from
+// any working folder.
+std::string absoluteFolder(const std::string& folder);
 
 }  // namespace qv

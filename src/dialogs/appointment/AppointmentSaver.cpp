@@ -10,6 +10,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "store/clsStatusList.h"
 #include "toolkit/Clock.h"
@@ -29,7 +30,7 @@ const char* const kBlankTimeSpent =
     "Task Appointment Time Spent is blank. Set it to this Task Appointment's duration?";
 const char* const kNoChecklist = "-NONE";
 
-RecordsetPtr openKeyed(clsNewTask& source, const std::string& sql) {
+RecordsetPtr openKeyed(clsNewTask& source, const Query& sql) {
     RecordsetPtr rs;
     source.SetSQLKey(sql);
     if (!source.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
@@ -112,7 +113,7 @@ bool AppointmentSaver::UpdateTASTask() {
 void AppointmentSaver::writeAppointment() {
     auto& c = f_.controls();
     clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
+    auto rs = openKeyed(source, queries::appointmentByKey(g().CurrentTaskGUID));
     f_.StopTHETimer();
     markWorked(*rs);
     rs->Fields("taTimeWorked") = Value(FormatCTasTime(c.smtTimes.tool("TIMESPENT").text()));
@@ -164,7 +165,7 @@ void AppointmentSaver::writeSlotTimes(Recordset& rs) {
 void AppointmentSaver::writeTask() {
     auto& c = f_.controls();
     clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+    auto rs = openKeyed(source, queries::taskByKey(f_.TATaskGUID));
     const std::string oldChecklist = CNull::NVLStr(rs->Fields("tskTCheckListGUID").value());
     rs->Fields("tskNotes") = Value("" + c.SpellNotes.text());
     const Tool& project = c.smtABOUT.tool("PROJECT");
@@ -186,7 +187,7 @@ void AppointmentSaver::writeTask() {
         CNull::NVLBool(rs->Fields("tskHasChecklist").value()), CNull::NVLBool(rs->Fields("tskHasSchedule").value())));
     clsStatusList sum;
     RecordsetPtr total;
-    sum.SetSQL("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =" + sqlLiteral(f_.TATaskGUID));
+    sum.SetSQL(queries::scheduledMinutesOfTask(f_.TATaskGUID));
     if (!sum.GetDataKEY(total)) throw Failure(err::ObjectRequired, "Object required");
     rs->Fields("tskTimeScheduled") = Value(CNull::NVLLng(total->Fields("QVTOTAL").value()));
     total->Close();

@@ -6,6 +6,7 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Failure.h"
 
@@ -17,7 +18,7 @@ const char* const kNewProjectCaption = "New Project";
 
 RecordsetPtr openLinks(clsNewTask& source, const std::string& taskGUID) {
     RecordsetPtr rs;
-    source.SetSQL("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(taskGUID));
+    source.SetSQL(queries::keywordLinksOfTask(taskGUID));
     if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
     return rs;
 }
