@@ -39,9 +39,10 @@ Query newCatalogRow() {
 }
 
 Query catalogTimeHistory(const std::string& key) {
-    return byKey("SELECT tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4 from TASKSCAT WHERE "
-                 "tskGUIDID = ?",
-                 key);
+    return byKey(
+        "SELECT tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4 from TASKSCAT WHERE "
+        "tskGUIDID = ?",
+        key);
 }
 
 Query appointmentByKey(const std::string& key) {
@@ -114,8 +115,9 @@ Query checklistPickerList() {
 }
 
 Query settingsSection(const std::string& section) {
-    return byKey("SELECT * from Settings WHERE SetUser='1' and SetSettingSection = ? ORDER BY setSettingDisplayOrd",
-                 section);
+    return byKey(
+        "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = ? ORDER BY setSettingDisplayOrd",
+        section);
 }
 
 }  // namespace qv::queries

@@ -28,8 +28,9 @@ struct Column {
     bool bounded = false;
 };
 
-const char* const kHostile[] = {"NULL",  "-1",           "99",          "2147483648", "1e308", "-1e308",
-                                "'abc'", "'not a date'", "'9999-99-99'", "X'00ff'",    "''",    "'1D 1:00'"};
+const std::vector<std::string> kHostile = {"NULL",         "-1",      "99",    "2147483648",
+                                           "1e308",        "-1e308",  "'abc'", "'not a date'",
+                                           "'9999-99-99'", "X'00ff'", "''",    "'1D 1:00'"};
 
 // A number that a level list can't hold, as opposed to a null or a text.
 bool beyondList(const std::string& value) {
@@ -38,9 +39,9 @@ bool beyondList(const std::string& value) {
 
 struct Tally {
     int cases = 0;
-    int opened = 0;      // opened without a word
-    int told = 0;        // opened with the one message naming the field
-    int reported = 0;    // the error path, naming table, column, key and value
+    int opened = 0;    // opened without a word
+    int told = 0;      // opened with the one message naming the field
+    int reported = 0;  // the error path, naming table, column, key and value
     void print(const char* what) const {
         std::cout << "[bad rows] " << what << ": " << cases << " cases, " << opened << " open as they are, "
                   << told << " open with a message naming the field, " << reported
@@ -65,7 +66,7 @@ protected:
               const std::function<void()>& openRow, const std::map<std::string, std::string>& keys) {
         Tally tally;
         for (const Column& column : columns) {
-            for (const std::string value : kHostile) {
+            for (const std::string& value : kHostile) {
                 SCOPED_TRACE(std::string(column.table) + "." + column.name + " = " + value);
                 setRow();
                 this->exec(std::string("UPDATE ") + column.table + " SET " + column.name + " = " + value);
@@ -88,7 +89,8 @@ protected:
     }
 
 private:
-    void judge(const Column& column, const std::string& value, const std::string& key, bool shown, Tally& tally) {
+    void judge(const Column& column, const std::string& value, const std::string& key, bool shown,
+               Tally& tally) {
         const auto& faults = this->reporter().faults();
         const auto& messages = this->scriptedUi().messages();
         for (const auto& m : messages) EXPECT_FALSE(libraryText(m.text)) << m.text;
@@ -96,7 +98,8 @@ private:
         if (!faults.empty()) {
             ASSERT_EQ(faults.size(), 1u);
             const std::string& report = faults.front().description;
-            EXPECT_TRUE(column.bounded && beyondList(value)) << "only a level beyond its list fails: " << report;
+            EXPECT_TRUE(column.bounded && beyondList(value))
+                << "only a level beyond its list fails: " << report;
             for (const std::string& part : {std::string(column.table), std::string(column.name), key})
                 EXPECT_NE(report.find(part), std::string::npos) << report;
             ++tally.reported;
@@ -119,19 +122,28 @@ using ExistingTaskBadRow = BadRowMatrix<ExistingTaskFixture>;
 using AppointmentBadRow = BadRowMatrix<AppointmentFixture>;
 
 const std::vector<Column> kTaskColumns = {
-    {"TASKS", "tskImp", "Importance", true},       {"TASKS", "tskDifficulty", "Difficulty", true},
-    {"TASKS", "tskStatus", "Status"},              {"TASKS", "tskTimeNeeded", "Time Needed"},
-    {"TASKS", "tskTimeScheduled", "Time Scheduled"}, {"TASKS", "tskTimeSpent", "Time Spent"},
-    {"TASKS", "tskPossPoints", "Possible Points"},  {"TASKS", "tskDeadline", "Deadline"},
-    {"TASKS", "tskCurrent", "Current"},            {"TASKS", "tskHasSchedule", "Has Schedule"},
-    {"TASKS", "tskDesc", "Description"},           {"TASKS", "tskNotes", "Notes"},
-    {"TASKS", "tskProjectKey", "Project"},         {"TASKS", "tskTCheckListGUID", "Checklist"},
+    {"TASKS", "tskImp", "Importance", true},
+    {"TASKS", "tskDifficulty", "Difficulty", true},
+    {"TASKS", "tskStatus", "Status"},
+    {"TASKS", "tskTimeNeeded", "Time Needed"},
+    {"TASKS", "tskTimeScheduled", "Time Scheduled"},
+    {"TASKS", "tskTimeSpent", "Time Spent"},
+    {"TASKS", "tskPossPoints", "Possible Points"},
+    {"TASKS", "tskDeadline", "Deadline"},
+    {"TASKS", "tskCurrent", "Current"},
+    {"TASKS", "tskHasSchedule", "Has Schedule"},
+    {"TASKS", "tskDesc", "Description"},
+    {"TASKS", "tskNotes", "Notes"},
+    {"TASKS", "tskProjectKey", "Project"},
+    {"TASKS", "tskTCheckListGUID", "Checklist"},
 };
 
 TEST_F(ExistingTaskBadRow, EachHostileValueOpensOrNamesItself) {
+    QV_FILE_STORE_ONLY();  // a server's typed columns refuse these values at the door
     seed();
     const Tally tally = run(
-        kTaskColumns, [this] {
+        kTaskColumns,
+        [this] {
             exec("DELETE FROM TASKS");
             addTask();
         },
@@ -141,6 +153,7 @@ TEST_F(ExistingTaskBadRow, EachHostileValueOpensOrNamesItself) {
 }
 
 TEST_F(ExistingTaskBadRow, EachHostileValueOfACatalogItemOpensOrNamesItself) {
+    QV_FILE_STORE_ONLY();  // a server's typed columns refuse these values at the door
     seed();
     std::vector<Column> columns;
     for (Column c : kTaskColumns) {
@@ -153,9 +166,11 @@ TEST_F(ExistingTaskBadRow, EachHostileValueOfACatalogItemOpensOrNamesItself) {
         columns,
         [this] {
             exec("DELETE FROM TASKSCAT");
-            exec("INSERT INTO TASKSCAT (tskGUIDID, tskDesc, tskProjectKey, tskImp, tskDifficulty, tskTimeNeeded, "
-                 "tskStatus, tskHasChecklist, tskCurrent) VALUES ('" + std::string(kCatalogItem) + "', 'Old', '" +
-                 kAlpha + "', 0, 0, 95, 2, 0, 1)");
+            exec(
+                "INSERT INTO TASKSCAT (tskGUIDID, tskDesc, tskProjectKey, tskImp, tskDifficulty, "
+                "tskTimeNeeded, "
+                "tskStatus, tskHasChecklist, tskCurrent) VALUES ('" +
+                std::string(kCatalogItem) + "', 'Old', '" + kAlpha + "', 0, 0, 95, 2, 0, 1)");
         },
         [this] { open(6, kCatalogItem); }, {{"TASKSCAT", kCatalogItem}});
     tally.print("Task Catalog item");
@@ -163,22 +178,26 @@ TEST_F(ExistingTaskBadRow, EachHostileValueOfACatalogItemOpensOrNamesItself) {
 }
 
 TEST_F(AppointmentBadRow, EachHostileValueOpensOrNamesItself) {
+    QV_FILE_STORE_ONLY();  // a server's typed columns refuse these values at the door
     std::vector<Column> columns = {
-        {"TASKAPPTS", "taImp", "Importance", true},  {"TASKAPPTS", "taDifficulty", "Difficulty", true},
-        {"TASKAPPTS", "taStartTime", "Start"},       {"TASKAPPTS", "taEndTime", "End"},
-        {"TASKAPPTS", "taWasWorked", "Was Worked"},  {"TASKAPPTS", "taTimeWorked", "Time Worked"},
-        {"TASKAPPTS", "taTaskDesc", "Description"},  {"TASKAPPTS", "taProject", "Project"},
-        {"TASKS", "tskStatus", "Status", true},      {"TASKS", "tskTimeNeeded", "Time Needed"},
-        {"TASKS", "tskTimeSpent", "Time Spent"},     {"TASKS", "tskPossPoints", "Possible Points"},
-        {"TASKS", "tskDeadline", "Deadline"},        {"TASKS", "tskCurrent", "Current"},
+        {"TASKAPPTS", "taImp", "Importance", true}, {"TASKAPPTS", "taDifficulty", "Difficulty", true},
+        {"TASKAPPTS", "taStartTime", "Start"},      {"TASKAPPTS", "taEndTime", "End"},
+        {"TASKAPPTS", "taWasWorked", "Was Worked"}, {"TASKAPPTS", "taTimeWorked", "Time Worked"},
+        {"TASKAPPTS", "taTaskDesc", "Description"}, {"TASKAPPTS", "taProject", "Project"},
+        {"TASKS", "tskStatus", "Status", true},     {"TASKS", "tskTimeNeeded", "Time Needed"},
+        {"TASKS", "tskTimeSpent", "Time Spent"},    {"TASKS", "tskPossPoints", "Possible Points"},
+        {"TASKS", "tskDeadline", "Deadline"},       {"TASKS", "tskCurrent", "Current"},
     };
     const Tally tally = run(
         columns,
         [this] {
-            for (const char* table : {"PROJECTS", "TASKS", "TASKAPPTS"}) exec(std::string("DELETE FROM ") + table);
+            for (const char* table : {"PROJECTS", "TASKS", "TASKAPPTS"})
+                exec(std::string("DELETE FROM ") + table);
             seed();
         },
-        [this] { task_.SetupTask(2, kSlot, {"u0", "u1", "u2", "u3", "u4", "u5"}, 1, "", kSlot); },
+        [this] {
+            task_.SetupTask(2, kSlot, {"u0", "u1", "u2", "u3", "u4", "u5"}, 1, "", kSlot);
+        },
         {{"TASKAPPTS", kSlot}, {"TASKS", kTask}});
     tally.print("Task Appointment");
     EXPECT_EQ(tally.cases, tally.opened + tally.told + tally.reported);

@@ -43,8 +43,10 @@ protected:
     void TearDown() override {
         if (mount_.empty()) return;
         ExistingTaskFixture::TearDown();
-        if (oldTmp_.empty()) ::unsetenv("TMPDIR");
-        else ::setenv("TMPDIR", oldTmp_.c_str(), 1);
+        if (oldTmp_.empty())
+            ::unsetenv("TMPDIR");
+        else
+            ::setenv("TMPDIR", oldTmp_.c_str(), 1);
         ::umount2(mount_.c_str(), MNT_DETACH);
         fs::remove(mount_);
     }

@@ -47,7 +47,9 @@ TEST_F(ServerDrop, AConnectionLostMidSaveNamesTheServer) {
     openTask();
     ASSERT_EQ(reporter().faults().size(), 1u);
     const std::string& d = reporter().faults()[0].description;
-    EXPECT_EQ(d.rfind("The Quorvel data server \"" + serverName(storeLocationOf(folder())) + "\" can't be reached: ", 0),
+    EXPECT_EQ(d.rfind("The Quorvel data server \"" + serverName(storeLocationOf(folder())) +
+                          "\" can't be reached: ",
+                      0),
               0u)
         << d;
     EXPECT_EQ(d.find("SELECT"), std::string::npos) << d;

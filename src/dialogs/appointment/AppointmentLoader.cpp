@@ -7,6 +7,7 @@
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/StatusWords.h"
 #include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
@@ -36,8 +37,6 @@ RecordsetPtr openKeyed(clsNewTask& source, const Query& sql) {
 }
 
 std::string text(Recordset& rs, const char* column) { return CNull::NVLStr(rs.Fields(column).value()); }
-
-constexpr int32_t kMissingStatus = -86;
 
 double timeOfDay(double serial) { return serial - std::floor(serial); }
 
@@ -173,7 +172,7 @@ void AppointmentLoader::readTask() {
 // the missing status.
 int32_t AppointmentLoader::readStatus(StoredRow& row) {
     const auto status = row.number("tskStatus", "Status");
-    if (!status) return kMissingStatus;
+    if (!status) return kNothingChosen;
     if (*status > StatusWords::kDefined && static_cast<std::size_t>(*status) >= g().StatusList.size())
         row.beyondList("tskStatus", "Status");
     if (*status < 0) row.beyondList("tskStatus", "Status");
@@ -183,7 +182,7 @@ int32_t AppointmentLoader::readStatus(StoredRow& row) {
 void AppointmentLoader::showStatus(int32_t status) {
     auto& c = f_.controls();
     Tool& t = c.smtABOUT.tool("STATUS");
-    if (status == kMissingStatus) return;
+    if (status == kNothingChosen) return;
     t.setTag(std::to_string(status));
     t.setText(StatusWords::word(status));
     t.setBold(status == StatusWords::kCompleted);

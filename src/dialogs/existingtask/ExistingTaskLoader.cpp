@@ -10,6 +10,7 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
@@ -30,8 +31,6 @@ const char* const kLostChecklist = "The checklist formerly associated with this 
 constexpr int32_t kRed = 255;
 constexpr std::size_t kChecklistCaptionLimit = 80;
 constexpr int32_t kNoCurrentRecord = 3021;
-
-constexpr int32_t kMissingStatus = -86;
 
 // A level's word and tag, or nothing for a level that can't be read.
 void showLevel(Tool& tool, const std::array<std::string, 5>& list, std::optional<int32_t> n) {
@@ -165,7 +164,7 @@ void ExistingTaskLoader::fillDeadline(StoredRow& row) {
 void ExistingTaskLoader::fillStatus(StoredRow& row) {
     static const char* const kFixedWords[] = {"Completed", "In Progress", "On Hold", "Defined"};
     auto& c = f_.controls();
-    const int32_t status = row.number("tskStatus", "Status").value_or(kMissingStatus);
+    const int32_t status = row.number("tskStatus", "Status").value_or(kNothingChosen);
     Tool& tool = c.smtABOUT.tool("STATUS");
     Tool& done = c.smtReady.tool("DONE");
     f_.fields().record().Status = status;

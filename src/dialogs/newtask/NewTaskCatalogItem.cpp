@@ -9,6 +9,7 @@
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
@@ -25,7 +26,6 @@ namespace qv {
 namespace {
 
 constexpr int32_t kRed = 255;
-constexpr int32_t kMissingStatus = -86;
 
 // The first four status words are fixed here, whatever the settings say;
 // nothing for a status beyond the list.
@@ -127,10 +127,10 @@ void NewTaskCatalogItem::fillDeadline(StoredRow& rs) {
 }
 
 void NewTaskCatalogItem::fillStatus(StoredRow& rs) {
-    int32_t status = rs.number("tskStatus", "Status").value_or(kMissingStatus);
+    int32_t status = rs.number("tskStatus", "Status").value_or(kNothingChosen);
     auto word = statusWord(status);
-    if (!word && status != kMissingStatus) rs.unshown("tskStatus", "Status");
-    if (!word) status = kMissingStatus;
+    if (!word && status != kNothingChosen) rs.unshown("tskStatus", "Status");
+    if (!word) status = kNothingChosen;
     Tool& tool = f_.controls().smtOther.tool("STATUS");
     tool.setText(word.value_or(std::string()));
     tool.setTag(std::to_string(status));

@@ -80,8 +80,8 @@ std::optional<int32_t> StoredRow::level(const char* column, const char* field, s
 void StoredRow::beyondList(const char* column, const char* field) const {
     throw Failure(err::SubscriptOutOfRange, "Subscript out of range: the " + table_ + " row \"" +
                                                 cutForMessage(key_) + "\" holds " +
-                                                shown(row_.Fields(column).value()) + " in its column " + column +
-                                                ", beyond the " + field + " list");
+                                                shown(row_.Fields(column).value()) + " in its column " +
+                                                column + ", beyond the " + field + " list");
 }
 
 void StoredRow::note(const char* field, const Value& stored) {
