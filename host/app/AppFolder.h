@@ -9,5 +9,8 @@ namespace qv {
 std::string defaultAppFolder();
 // True when DISPLAY or WAYLAND_DISPLAY names a display to open windows on.
 bool displayReachable();
+// A folder as an absolute path, so that what is stored from it holds from
+// any working folder.
+std::string absoluteFolder(const std::string& folder);
 
 }  // namespace qv

@@ -103,8 +103,11 @@ bool installStore(const std::string& folder) {
     return true;
 }
 
+// The store's path is written absolute: the settings file is read from
+// whatever folder the next program starts in.
 void installSettingsFile(const std::string& folder) {
-    writeSettingsFile(folder, pathInFolder(folder, kStoreFileName));
+    const std::string absolute = std::filesystem::absolute(folder).lexically_normal().string();
+    writeSettingsFile(folder, pathInFolder(absolute, kStoreFileName));
 }
 
 void installReportsFolder(const std::string& folder) {

@@ -103,6 +103,7 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     else if (!cl.storeUri.empty() && !cl.installStore)
         cl.error = "--store goes with --install-store";
     if (cl.home.empty()) cl.home = defaultAppFolder();
+    cl.home = absoluteFolder(cl.home);
     return cl;
 }
 

@@ -18,11 +18,11 @@
 #include <QTimer>
 
 #include "installer/StoreFile.h"
-#include "store/Recordset.h"
 #include "kit/TabStripView.h"
 #include "kit/ToolCell.h"
 #include "view/AppointmentList.h"
 #include "view/HostApp.h"
+#include "view/HostRows.h"
 #include "view/HostSession.h"
 #include "view/HostWindow.h"
 #include "view/TaskTableModel.h"
@@ -272,19 +272,21 @@ void DemoDriver::planExistingTask() {
 }
 
 void DemoDriver::scheduleTwenty(const std::string& taskKey) const {
-    std::string sql = "UPDATE TASKS SET tskHasSchedule = 1 WHERE tskGUIDID = " + sqlLiteral(taskKey) + ";";
+    HostRows store(storeLocationOf(app_.folder()));
+    store.runTogether({"UPDATE TASKS SET tskHasSchedule = 1 WHERE tskGUIDID = ?"}, taskKey);
     const QDateTime first = QDateTime(QDate::currentDate().addDays(-14), QTime(9, 0));
+    const auto iso = [](const QDateTime& t) { return t.toString("yyyy-MM-ddTHH:mm:ss.zzz").toStdString(); };
     for (int i = 0; i < 20; ++i) {
         const QDateTime start = first.addDays(i).addSecs((i % 3) * 3600);
         const QDateTime end = start.addSecs(3600 + (i % 4) * 1800);
-        const auto iso = [](const QDateTime& t) { return sqlLiteral(t.toString("yyyy-MM-ddTHH:mm:ss.zzz").toStdString()); };
-        sql += "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taWasWorked, taTimeWorked, "
-               "taImp, taDifficulty) VALUES (" +
-               sqlLiteral(QStringLiteral("DEMO%1-0000-0000-0000-000000000000").arg(i, 4, 10, QChar('0')).toStdString()) +
-               ", " + sqlLiteral(taskKey) + ", " + iso(start) + ", " + iso(end) + ", " + (i < 12 ? "1" : "0") + ", " +
-               (i < 12 ? std::to_string(60 + (i % 4) * 30) : "NULL") + ", 1, 1);";
+        const bool worked = i < 12;
+        // An empty time worked stands for none.
+        (void)store.select(
+            "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taWasWorked, taTimeWorked, "
+            "taImp, taDifficulty) VALUES (?, ?, ?, ?, ?, NULLIF(?, ''), 1, 1)",
+            {QStringLiteral("DEMO%1-0000-0000-0000-000000000000").arg(i, 4, 10, QChar('0')).toStdString(), taskKey,
+             iso(start), iso(end), worked ? "1" : "0", worked ? std::to_string(60 + (i % 4) * 30) : std::string()});
     }
-    StoreFile(storeLocationOf(app_.folder())).exec(sql);
 }
 
 void DemoDriver::shootWhenShown(const QString& form, const QString& name, bool sizes, int settleMs) {

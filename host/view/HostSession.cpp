@@ -7,12 +7,14 @@
 
 #include <QSettings>
 
+#include "app/AppFolder.h"
 #include "installer/StoreInstaller.h"
 #include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Connection.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsTaskSchedule.h"
 #include "values/CCreateGuid.h"
 #include "values/DateSerial.h"
@@ -103,7 +105,8 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
     emit listsChanged();
 }
 
-void HostSession::useFolder(const std::string& folder) {
+void HostSession::useFolder(const std::string& chosen) {
+    const std::string folder = absoluteFolder(chosen);
     try {
         installApplicationFolder(folder);
     } catch (const std::exception& e) {
@@ -143,7 +146,7 @@ std::string HostSession::scheduleAppointment(const std::string& taskKey) {
     const std::string key = CCreateGuid::guid();
     clsTaskSchedule schedule;
     RecordsetPtr rs;
-    schedule.SetSQL("SELECT * from TASKAPPTS WHERE taTaskGUIDID=" + sqlLiteral(taskKey));
+    schedule.SetSQL(queries::appointmentsOfTask(taskKey));
     if (!schedule.GetDataKEY(rs)) return {};
     // Importance before difficulty, a digit each.
     const std::string levels = std::to_string(std::clamp(it->imp, 0, 4)) + std::to_string(std::clamp(it->diff, 0, 4));

@@ -13,6 +13,7 @@
 #include "store/ErrorPath.h"
 #include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
+#include "toolkit/MessageText.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
 
@@ -22,6 +23,14 @@ namespace {
 
 constexpr const char* kCrLf = "\r\n";
 constexpr int32_t kPathFileAccessError = 75;
+constexpr int32_t kDiskFull = 61;
+
+// The sentence of a settings file that could not be written for want of
+// room: the session's store requests end in it, not in a missing file.
+std::string& settingsWriteFault() {
+    static std::string sentence;
+    return sentence;
+}
 
 std::string settingsPath() {
     return pathInFolder(g().AppPath, kSettingsFileName);
@@ -44,7 +53,15 @@ std::string readWholeFile(const std::string& path) {
 }
 
 [[noreturn]] void accessError(const std::string& path) {
-    throw Failure(kPathFileAccessError, "Path/File access error: " + path);
+    throw Failure(kPathFileAccessError, "Path/File access error: " + cutForMessage(path));
+}
+
+// A write that found no room says so; anything else is an access error.
+[[noreturn]] void writeError(const std::string& path, int error) {
+    if (error == ENOSPC || error == EDQUOT)
+        throw Failure(kDiskFull, "The Quorvel settings file \"" + cutForMessage(path) +
+                                     "\" can't be written: the disk is full.");
+    accessError(path);
 }
 
 // Writes text to path whole or not at all: into a file beside it, to the
@@ -53,18 +70,31 @@ std::string readWholeFile(const std::string& path) {
 void replaceFile(const std::string& path, const std::string& text) {
     const std::string part = path + ".part";
     const int fd = ::open(part.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (fd < 0) accessError(path);
+    if (fd < 0) writeError(path, errno);
     size_t done = 0;
+    int error = 0;
     while (done < text.size()) {
         const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
         if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) break;
+        if (n <= 0) {
+            error = n < 0 ? errno : ENOSPC;
+            break;
+        }
         done += static_cast<size_t>(n);
     }
-    const bool written = done == text.size() && ::fsync(fd) == 0;
-    if (::close(fd) != 0 || !written || ::rename(part.c_str(), path.c_str()) != 0) {
+    bool written = done == text.size();
+    if (written && ::fsync(fd) != 0) {
+        error = errno;
+        written = false;
+    }
+    if (::close(fd) != 0 && written) {
+        error = errno;
+        written = false;
+    }
+    if (!written || ::rename(part.c_str(), path.c_str()) != 0) {
+        if (written) error = errno;
         ::unlink(part.c_str());
-        accessError(path);
+        writeError(path, error);
     }
     // The rename itself reaches the disk with its folder.
     const auto slash = path.find_last_of('/');
@@ -111,14 +141,14 @@ std::string dbLocFrom(const std::string& text) {
 }
 
 std::string lostStoreMessage(const std::string& path) {
-    return std::string("The Quorvel data file, \"") + path + "\", could not be found." + kCrLf +
+    return std::string("The Quorvel data file, \"") + cutForMessage(path) + "\", could not be found." + kCrLf +
            "Without this file, Quorvel cannot work." + kCrLf + kCrLf + "Quorvel will now check in " +
-           g().AppPath + " in hopes of locating the originally installed datafile (QuorvelData.mdb).";
+           cutForMessage(g().AppPath) + " in hopes of locating the originally installed datafile (QuorvelData.mdb).";
 }
 
 std::string settingsFileMessage() {
     return std::string("The Quorvel settings file, \"QuorvelSettings.txt\", could not be found in (\"") +
-           g().AppPath + "\" )." + kCrLf +
+           cutForMessage(g().AppPath) + "\" )." + kCrLf +
            "Without this file, Quorvel cannot determine where its database resides. Please find "
            "this file and put it back!";
 }
@@ -150,8 +180,17 @@ bool locateStore() {
 }  // namespace
 
 bool ADOTest() {
+    settingsWriteFault().clear();
     try {
         return locateStore();
+    } catch (const Failure& f) {
+        if (f.number() == kDiskFull) {
+            // Told once, by the request that needed the store.
+            settingsWriteFault() = f.description();
+            return false;
+        }
+        if (ports().ui) ui().msgBox(settingsFileMessage(), vbCritical, kProgramTitle);
+        return false;
     } catch (...) {
         // Any file fault ends in the one message; the next data request retries.
         if (ports().ui) ui().msgBox(settingsFileMessage(), vbCritical, kProgramTitle);
@@ -166,9 +205,10 @@ std::string dbLocationIn(const std::string& settingsText) {
 void locateSessionStore() {
     if (errorPathTaken()) throw Failure(err::StoreFailure, "The session has ended on an earlier fault.");
     if (!g().ConnString.empty() || ADOTest()) return;
+    if (!settingsWriteFault().empty()) throw Failure(err::StoreFailure, settingsWriteFault());
     if (g().DBLocation.empty())
         throw Failure(err::StoreFailure, "The Quorvel data file could not be located.");
-    throw Failure(err::StoreFailure, "The Quorvel data file \"" + g().DBLocation + "\" is missing.");
+    throw Failure(err::StoreFailure, "The Quorvel data file \"" + cutForMessage(g().DBLocation) + "\" is missing.");
 }
 
 void saveTheLoc() {

@@ -1,6 +1,7 @@
 #include "store/Connection.h"
 
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -9,6 +10,7 @@
 #include <vector>
 
 #include "toolkit/Failure.h"
+#include "toolkit/MessageText.h"
 
 namespace qv {
 
@@ -24,11 +26,20 @@ std::map<std::string, std::shared_ptr<Connection>>& registry() {
 }
 
 std::string quotedPath(const std::string& path) {
-    return "\"" + path + "\"";
+    return "\"" + cutForMessage(path) + "\"";
 }
 
 [[noreturn]] void storeFailure(const std::string& message, std::string_view context) {
-    throw Failure(err::StoreFailure, message + " (" + std::string(context) + ")", "Store");
+    throw Failure(err::StoreFailure, cutForMessage(message) + " (" + cutForMessage(context) + ")", "Store");
+}
+
+// True when the file system that holds path has no room left: an engine
+// that can't write its journal or lock file says "disk I/O error" then.
+bool diskFull(const std::string& path) {
+    const auto slash = path.find_last_of('/');
+    const std::string folder = slash == std::string::npos ? "." : path.substr(0, std::max<size_t>(slash, 1));
+    struct statvfs fs {};
+    return ::statvfs(folder.c_str(), &fs) == 0 && fs.f_bavail == 0;
 }
 
 // The one clear sentence where there is one, else the engine's words and
@@ -138,6 +149,9 @@ std::string describeFault(const std::string& path, int code, const std::string& 
             return storeProblem(path, "is read-only");
         case SQLITE_FULL:
             return storeProblem(path, "can't grow: the disk is full");
+        case SQLITE_IOERR:
+            if (diskFull(path)) return storeProblem(path, "can't grow: the disk is full");
+            break;
         case SQLITE_CANTOPEN:
             return storeProblem(path, "can't be opened (" + engineMessage + ")");
         default:

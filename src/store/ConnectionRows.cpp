@@ -14,6 +14,10 @@ void step(Connection& conn, sqlite3_stmt* stmt, std::string_view ctx) {
     if (sqlite3_step(stmt) != SQLITE_DONE) conn.fail(ctx);
 }
 
+void bindAll(sqlite3_stmt* stmt, const std::vector<Value>& params) {
+    for (size_t i = 0; i < params.size(); ++i) FieldCodec::bindValue(stmt, static_cast<int>(i + 1), params[i]);
+}
+
 void readCell(sqlite3_stmt* stmt, int c, Cell& cell, RowStore& store) {
     sqlite3_value* v = sqlite3_column_value(stmt, c);
     cell.kind = static_cast<uint8_t>(sqlite3_value_type(v));
@@ -95,6 +99,7 @@ void Connection::read(const QueryPlan& plan, RowStore& store, const std::functio
                       std::string_view context) {
     Statement st = prepare(plan.selectSql, context);
     sqlite3_stmt* stmt = st.get();
+    bindAll(stmt, plan.params);
     const int n = static_cast<int>(plan.cols.size());
     int rc;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
@@ -108,6 +113,7 @@ int64_t Connection::count(const QueryPlan& plan, std::string_view context) {
     if (plan.countSql.empty()) return -1;
     Statement st = tryPrepare(plan.countSql);
     if (!st) return -1;
+    bindAll(st.get(), plan.params);
     if (sqlite3_step(st.get()) != SQLITE_ROW) fail(context);
     return sqlite3_column_int64(st.get(), 0);
 }

@@ -14,7 +14,7 @@ DataSource::DataSource(const char* className, OpenParams bindingSpec)
 
 DataSource::~DataSource() = default;
 
-void DataSource::SetSQL(const std::string& SQL) {
+void DataSource::SetSQL(const Query& SQL) {
     sql_ = SQL;
 }
 
@@ -46,14 +46,14 @@ void DataSource::setTempErrReport(Reporter* reporter) {
     });
 }
 
-bool DataSource::openSet(const char* procedure, const std::string& sql, const OpenParams& params,
+bool DataSource::openSet(const char* procedure, const Query& sql, const OpenParams& params,
                          RecordsetPtr& rst) {
     const bool opened = trapped(procedure, [&] { rst = makeSet(sql, params); });
     if (!opened) rst = nullptr;
     return opened;
 }
 
-RecordsetPtr DataSource::makeSet(const std::string& sql, const OpenParams& params) {
+RecordsetPtr DataSource::makeSet(const Query& sql, const OpenParams& params) {
     locateSessionStore();
     rs_ = std::make_shared<Recordset>();
     rs_->CursorLocation = adUseClient;

@@ -31,7 +31,8 @@ public:
     DataSource(const DataSource&) = delete;
     DataSource& operator=(const DataSource&) = delete;
 
-    void SetSQL(const std::string& SQL);
+    // A text, or a text with the values of its ? placeholders.
+    void SetSQL(const Query& SQL);
     // Requery of the class's set.
     bool UpdateRST();
     // The set's record count; the set must be open.
@@ -50,7 +51,7 @@ protected:
     DataSource(const char* className, OpenParams bindingSpec);
 
     // Makes a new set with params, opens it with sql and hands it to rst.
-    bool openSet(const char* procedure, const std::string& sql, const OpenParams& params, RecordsetPtr& rst);
+    bool openSet(const char* procedure, const Query& sql, const OpenParams& params, RecordsetPtr& rst);
     // Runs body under this class's trap.
     template <class F>
     auto trapped(const char* procedure, F&& body) {
@@ -61,14 +62,14 @@ protected:
     // After a write: one pass of the event pump.
     static void pumpEvents();
 
-    [[nodiscard]] const std::string& sql() const { return sql_; }
+    [[nodiscard]] const Query& sql() const { return sql_; }
 
 private:
-    RecordsetPtr makeSet(const std::string& sql, const OpenParams& params);
+    RecordsetPtr makeSet(const Query& sql, const OpenParams& params);
 
     const char* className_;
     OpenParams bindingSpec_;
-    std::string sql_;
+    Query sql_;
     RecordsetPtr rs_;
     Reporter* tempErrReport_ = nullptr;
     std::size_t relayId_ = 0;

@@ -23,7 +23,8 @@ struct Described {
     std::string description;
 };
 
-// Numbers as the platform gave them for the usual kinds of fault.
+// Numbers as the platform gave them for the usual kinds of fault; a
+// library's own words never reach the user.
 Described describeCurrent() {
     try {
         throw;
@@ -31,12 +32,12 @@ Described describeCurrent() {
         return {f.number(), f.description()};
     } catch (const std::bad_alloc&) {
         return {kOutOfMemory, "Out of memory"};
-    } catch (const std::out_of_range& e) {
-        return {err::SubscriptOutOfRange, std::string("Subscript out of range: ") + e.what()};
-    } catch (const std::overflow_error& e) {
-        return {err::Overflow, std::string("Overflow: ") + e.what()};
-    } catch (const std::exception& e) {
-        return {err::InvalidProcedureCall, e.what()};
+    } catch (const std::out_of_range&) {
+        return {err::SubscriptOutOfRange, "Subscript out of range"};
+    } catch (const std::overflow_error&) {
+        return {err::Overflow, "Overflow"};
+    } catch (const std::exception&) {
+        return {err::InvalidProcedureCall, "Unexpected failure"};
     } catch (...) {
         return {err::InvalidProcedureCall, "Unknown failure"};
     }

@@ -273,6 +273,7 @@ std::string forPostgres(std::string_view s) {
     std::string out;
     out.reserve(s.size());
     size_t i = 0;
+    int marks = 0;
     while (i < s.size()) {
         const char c = s[i];
         if (c == '\'' || c == '"' || c == '`' || c == '[') {
@@ -294,6 +295,9 @@ std::string forPostgres(std::string_view s) {
             else
                 out.append(w);
             i = end;
+        } else if (c == '?') {
+            out += "$" + std::to_string(++marks);
+            ++i;
         } else {
             out.push_back(c);
             ++i;

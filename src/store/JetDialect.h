@@ -45,7 +45,8 @@ std::string withRowid(std::string_view sql, const SelectShape& shape, std::strin
 std::string withColumns(std::string_view sql, const SelectShape& shape, std::string_view columns);
 
 // A translated text as PostgreSQL reads it: TRUE and FALSE outside literals
-// become 1 and 0, since yes/no columns hold 0/1 there as on the file store.
+// become 1 and 0, since yes/no columns hold 0/1 there as on the file store;
+// the placeholders ? become $1, $2, ... in their order.
 std::string forPostgres(std::string_view sql);
 
 // "SELECT COUNT(*) FROM (<query>)", without a trailing ORDER BY that can't

@@ -8,7 +8,7 @@ namespace qv {
 
 class NewRowSource : public DataSource {
 public:
-    void SetSQLKey(const std::string& SQL) { sqlKey_ = SQL; }
+    void SetSQLKey(const Query& SQL) { sqlKey_ = SQL; }
     bool GetData(RecordsetPtr& rst);
     bool GetDataKEY(RecordsetPtr& rst);
 
@@ -16,7 +16,7 @@ protected:
     explicit NewRowSource(const char* className);
 
 private:
-    std::string sqlKey_;
+    Query sqlKey_;
 };
 
 }  // namespace qv

@@ -5,6 +5,7 @@
 
 #include "store/JetDialect.h"
 #include "toolkit/Failure.h"
+#include "toolkit/MessageText.h"
 #include "values/DateSerial.h"
 
 namespace qv {
@@ -182,7 +183,8 @@ std::shared_ptr<PgConnection> PgConnection::forUri(const std::string& uri) {
         const std::string why = conn ? firstLine(PQerrorMessage(conn)) : std::string("out of memory");
         if (conn) PQfinish(conn);
         throw Failure(err::StoreFailure,
-                      "The Quorvel data server \"" + serverName(uri) + "\" can't be reached: " + why + ".",
+                      "The Quorvel data server \"" + cutForMessage(serverName(uri)) +
+                          "\" can't be reached: " + cutForMessage(why) + ".",
                       "Store");
     }
     std::shared_ptr<PgConnection> c(new PgConnection(uri, conn));
@@ -201,16 +203,27 @@ std::string PgConnection::where(std::string_view what) const {
     return std::string(what) + " in the store \"" + name_ + "\"";
 }
 
+// The connection went: the server stopped, restarted or ended this session.
+// A result that never came carries no state, only libpq's words.
+bool PgConnection::connectionLost(const std::string& code, const std::string& engine) const {
+    if (PQstatus(conn_) != CONNECTION_OK || code.starts_with("08") || code.starts_with("57P")) return true;
+    if (!code.empty()) return false;
+    for (const char* words : {"server closed the connection", "no connection to the server",
+                              "could not receive data", "could not send data", "terminating connection"})
+        if (engine.find(words) != std::string::npos) return true;
+    return false;
+}
+
 void PgConnection::fail(const PGresult* result, std::string_view context) {
     const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
     const std::string code = state ? state : "";
     const std::string engine = firstLine(result ? PQresultErrorMessage(result) : PQerrorMessage(conn_));
     const std::string store = "The Quorvel data store \"" + name_ + "\" ";
     std::string clear;
-    if (PQstatus(conn_) != CONNECTION_OK || code.starts_with("08")) {
+    if (connectionLost(code, engine)) {
         registry().erase(uri_);
-        clear = "The Quorvel data server \"" + name_ +
-                "\" can't be reached: " + (engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
+        clear = "The Quorvel data server \"" + cutForMessage(name_) + "\" can't be reached: " +
+                cutForMessage(engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
     } else if (code == "55P03") {
         clear = store + "is busy: another program has kept it locked for more than 5 seconds";
     } else if (code == "40P01" || code == "40001") {
@@ -223,7 +236,7 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
         clear = store + "is read-only (" + engine + ")";
     }
     if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
-    throw Failure(err::StoreFailure, engine + " (" + std::string(context) + ")", "Store");
+    throw Failure(err::StoreFailure, cutForMessage(engine) + " (" + cutForMessage(context) + ")", "Store");
 }
 
 // BEGIN costs no round trip of its own: it goes with the first statement
@@ -305,8 +318,16 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
     const std::string& name = prepared(sql, context);
     std::vector<std::string> texts(params.size());
     std::vector<const char*> values(params.size(), nullptr);
-    for (size_t i = 0; i < params.size(); ++i)
-        if (paramText(params[i], texts[i])) values[i] = texts[i].c_str();
+    for (size_t i = 0; i < params.size(); ++i) {
+        if (!paramText(params[i], texts[i])) continue;
+        // The server holds no NUL in a text; cut short there, a value would name another row.
+        if (texts[i].find('\0') != std::string::npos)
+            throw Failure(err::StoreFailure,
+                          "The Quorvel data server \"" + cutForMessage(name_) +
+                              "\" can't hold a text with a NUL character (" + cutForMessage(context) + ").",
+                          "Store");
+        values[i] = texts[i].c_str();
+    }
     const int count = static_cast<int>(params.size());
     Result r = beginPending_
                    ? runAfterBegin(name, count, values.data())
@@ -429,8 +450,9 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
 
 void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
                         std::string_view context) {
-    Result r = plan.isSelect ? run(plan.selectSql, {}, context)
-                             : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
+    Result r = plan.isSelect || !plan.params.empty()
+                   ? run(plan.selectSql, plan.params, context)
+                   : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
     if (!plan.isSelect) {
         const auto status = r ? PQresultStatus(r.get()) : PGRES_FATAL_ERROR;
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
@@ -456,7 +478,7 @@ void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField,
 
 int64_t PgConnection::count(const QueryPlan& plan, std::string_view context) {
     if (plan.countSql.empty()) return -1;
-    const Result r = run(plan.countSql, {}, context);
+    const Result r = run(plan.countSql, plan.params, context);
     if (PQntuples(r.get()) < 1) return -1;
     return std::atoll(PQgetvalue(r.get(), 0, 0));
 }
@@ -466,7 +488,7 @@ int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
                                   bool& read) {
     read = false;
     if (plan.probeSql.empty()) return count(plan, context);
-    const Result r = run(plan.probeSql, {}, context);
+    const Result r = run(plan.probeSql, plan.params, context);
     const PGresult* res = r.get();
     const int rows = PQntuples(res);
     const int fields = PQnfields(res);

@@ -88,6 +88,7 @@ private:
     QueryPlan describe(const std::string& sql, bool withIdentity, std::string_view context);
     const TableColumns& tableColumns(Oid table, std::string_view context);
     [[noreturn]] void fail(const PGresult* result, std::string_view context);
+    [[nodiscard]] bool connectionLost(const std::string& code, const std::string& engine) const;
     void fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
               const std::function<Cell*(int64_t)>& newRow);
 

@@ -577,15 +577,17 @@ Recordset::Recordset() : d_(std::make_unique<Impl>()) {}
 
 Recordset::~Recordset() = default;
 
-void Recordset::Open(const std::string& source, const std::string& connString, int32_t cursor, int32_t lock,
-                     int32_t options) {
+void Recordset::Open(const Query& query, const std::string& connString, int32_t cursor, int32_t lock,
+                     int32_t /*options*/) {
     if (d_->open) throwAlreadyOpen();
+    const std::string& source = query.text;
     const int32_t effCursor = cursor != -1 ? cursor : CursorType;
     const int32_t effLock = lock != -1 ? lock : LockType;
 
     auto conn = StoreBackend::forConnString(connString);
     auto d = std::make_unique<Impl>();
     d->plan = conn->plan(source);
+    d->plan.params = query.values;
     d->source = source;
     d->conn = std::move(conn);
     d->readOnly = effLock == adLockReadOnly || effLock == adLockUnspecified;
@@ -762,20 +764,6 @@ void Recordset::OverwriteStored() {
 
 const std::string& Recordset::Source() const {
     return d_->source;
-}
-
-// ---------------------------------------------------------------------------
-
-std::string sqlLiteral(const std::string& value, char quote) {
-    std::string out;
-    out.reserve(value.size() + 2);
-    out.push_back(quote);
-    for (char c : value) {
-        if (c == quote) out.push_back(quote);
-        out.push_back(c);
-    }
-    out.push_back(quote);
-    return out;
 }
 
 }  // namespace qv

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "Export.h"
+#include "store/Query.h"
 #include "values/Value.h"
 
 namespace qv {
@@ -59,10 +60,11 @@ public:
     int32_t CursorType = adOpenForwardOnly;
     int32_t LockType = adLockReadOnly;
 
-    // Opens with a query text in the store's dialect and the connection text.
-    // cursor and lock of -1 leave the properties as they stand.
-    void Open(const std::string& source, const std::string& connString, int32_t cursor = -1,
-              int32_t lock = -1, int32_t options = adCmdText);
+    // Opens with a query text in the store's dialect (with the values of
+    // its ? placeholders, bound in order) and the connection text. cursor
+    // and lock of -1 leave the properties as they stand.
+    void Open(const Query& query, const std::string& connString, int32_t cursor = -1, int32_t lock = -1,
+              int32_t options = adCmdText);
     void Close();
     [[nodiscard]] int32_t State() const;
 
@@ -105,10 +107,5 @@ private:
 };
 
 using RecordsetPtr = std::shared_ptr<Recordset>;
-
-// A value as a quoted literal for splicing into a query text: the one way
-// any value goes into a query. The quote doubles inside the value, so
-// sqlLiteral("O'Brien") gives 'O''Brien' and sqlLiteral("a\"b", '"') gives "a""b".
-QV_EXPORT std::string sqlLiteral(const std::string& value, char quote = '\'');
 
 }  // namespace qv

@@ -34,6 +34,7 @@ struct QueryPlan {
     std::vector<ColumnInfo> cols;
     std::vector<int> fields;  // the engine's field of each column, where it isn't the same position
     std::string probeSql;     // counts and reads the first rows in one go, where the engine offers it
+    std::vector<Value> params;  // the values of the text's ? placeholders, in order
 };
 
 // True for a connection URI of a PostgreSQL server (postgresql:// or

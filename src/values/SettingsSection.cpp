@@ -1,5 +1,6 @@
 #include "values/SettingsSection.h"
 
+#include "store/StoreQueries.h"
 #include "store/clsSettings.h"
 #include "toolkit/Failure.h"
 #include "values/Convert.h"
@@ -7,7 +8,7 @@
 namespace qv {
 
 SettingsSection::SettingsSection(clsSettings& reader, const std::string& section) {
-    reader.SetSQL(query(section));
+    reader.SetSQL(queries::settingsSection(section));
     reader.GetData(rs_);
     if (!rs_) throw Failure(err::ObjectRequired, "Object variable not set: section " + section);
 }
@@ -18,11 +19,6 @@ SettingsSection::~SettingsSection() {
     } catch (...) {
         // Closing a read set must not turn into a second failure.
     }
-}
-
-std::string SettingsSection::query(const std::string& section) {
-    return "SELECT * from Settings WHERE SetUser='1' and SetSettingSection = " + sqlLiteral(section) +
-           " ORDER BY setSettingDisplayOrd";
 }
 
 std::string SettingsSection::valueOrDefault() {

@@ -20,8 +20,6 @@ public:
     SettingsSection(const SettingsSection&) = delete;
     SettingsSection& operator=(const SettingsSection&) = delete;
 
-    // The query every settings read runs.
-    [[nodiscard]] static std::string query(const std::string& section);
 
     [[nodiscard]] Recordset& rows() { return *rs_; }
     [[nodiscard]] int32_t count() { return rs_->RecordCount(); }

@@ -157,6 +157,18 @@ TEST_F(CommandLine, AnswersEveryCaseAndLeavesTheUsersStoreAsItWas) {
     }
 }
 
+// A relative --home is made absolute: the settings file names the store by
+// a path that holds from any working folder.
+TEST_F(CommandLine, ARelativeHomeStoresAnAbsolutePath) {
+    const Outcome r = run("--home fresh/./sub --install-store");
+    ASSERT_EQ(r.status, 0) << r.err;
+    const std::string settings = slurp(root_ / "fresh" / "sub" / "QuorvelSettings.txt");
+    EXPECT_NE(settings.find("\r\n" + (root_ / "fresh" / "sub" / "QuorvelData.mdb").string() + "\r\n"),
+              std::string::npos)
+        << settings;
+    EXPECT_NE(r.out.find(" in " + (root_ / "fresh" / "sub").string()), std::string::npos) << r.out;
+}
+
 }  // namespace
 }  // namespace qv
 

@@ -11,6 +11,7 @@
 #include "store/PgConnection.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"
@@ -31,7 +32,7 @@ protected:
         ASSERT_TRUE(isServerUri(g().DBLocation)) << g().DBLocation;
     }
 
-    RecordsetPtr open(const std::string& sql, int32_t lock = adLockBatchOptimistic) {
+    RecordsetPtr open(const Query& sql, int32_t lock = adLockBatchOptimistic) {
         auto rs = std::make_shared<Recordset>();
         rs->Open(sql, g().ConnString, adOpenStatic, lock);
         return rs;
@@ -50,6 +51,28 @@ protected:
         rs->UpdateBatch(adAffectAllChapters);
     }
 };
+
+// Keys go in bound: quotes and a statement of their own find their row and
+// change nothing else; a NUL, which no server text holds, is refused by name
+// rather than cut short to another row's key.
+TEST_F(ServerStoreTest, BoundKeysFindTheirOwnRowOnly) {
+    const std::string quoted = "say \"hi\"; DROP TABLE TASKS; --";
+    for (const std::string& key : {std::string("O'Brien"), quoted, std::string("A")}) addTask(key, "k");
+    for (const std::string& key : {std::string("O'Brien"), quoted}) {
+        auto rs = open(queries::taskByKey(key));
+        ASSERT_EQ(rs->RecordCount(), 1) << key;
+        EXPECT_EQ(rs->Fields("tskGUIDID").value().toText(), key);
+        EXPECT_EQ(open(queries::keywordLinksOfTask(key))->RecordCount(), 0);
+    }
+    try {
+        (void)open(queries::taskByKey(std::string("A\0B", 3)))->RecordCount();
+        ADD_FAILURE() << "a key with a NUL was sent cut short";
+    } catch (const Failure& f) {
+        EXPECT_NE(f.description().find("can't hold a text with a NUL character"), std::string::npos)
+            << f.description();
+    }
+    EXPECT_EQ(open("SELECT * from TASKS")->RecordCount(), 3);
+}
 
 TEST_F(ServerStoreTest, RowsComeBackWithTheirTypesAndTheHiddenIdentityStaysHidden) {
     addTask(kTask, "Plant \"tulips\" in O'Brien's garden");

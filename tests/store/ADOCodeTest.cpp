@@ -2,6 +2,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
+#include "toolkit/MessageText.h"
 #include "support/TestEnv.h"
 
 namespace qv {
@@ -70,6 +71,18 @@ TEST_F(TestEnv, LostStoreFallsBackToTheDefaultWithOneMessage) {
     scriptedUi().queueAnswer(vbOK);
     EXPECT_TRUE(ADOTest());
     EXPECT_EQ(scriptedUi().lastMessage().text, lostMessage("", folder()));
+
+    // A path of a megabyte is quoted cut, not whole.
+    resetGlobals();
+    g().AppPath = folder();
+    const std::string huge = "/" + std::string(1 << 20, 'p');
+    writeFile(settingsPath(), settingsText(huge));
+    scriptedUi().clearMessages();
+    scriptedUi().queueAnswer(vbOK);
+    EXPECT_TRUE(ADOTest());
+    const std::string& text = scriptedUi().lastMessage().text;
+    EXPECT_LT(text.size(), 1000u);
+    EXPECT_EQ(text, lostMessage(cutForMessage(huge), folder()));
 }
 
 TEST_F(StoreWithoutSettings, PathsKeepTheirShape) {

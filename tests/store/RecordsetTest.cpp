@@ -13,6 +13,7 @@
 #include "store/Connection.h"
 #include "store/JetDialect.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/WriteConflict.h"
 #include "toolkit/Failure.h"
 
@@ -104,7 +105,7 @@ protected:
         for (const auto& part : parts) EXPECT_NE(f.description().find(part), std::string::npos) << f.description();
     }
 
-    RecordsetPtr open(const std::string& sql, int32_t lock = adLockBatchOptimistic) const {
+    RecordsetPtr open(const Query& sql, int32_t lock = adLockBatchOptimistic) const {
         auto rs = std::make_shared<Recordset>();
         rs->CursorLocation = adUseClient;
         rs->CursorType = adOpenStatic;
@@ -229,29 +230,32 @@ TEST_F(RecordsetTest, WriteBackKeepsAnotherWritersChangeToAnotherColumn) {
               "ordinal.");
 }
 
-TEST_F(RecordsetTest, AKeyWithQuotesChangesNothingElse) {
+// Keys go in bound: quotes, a statement of their own and a NUL byte find
+// their row and change nothing else.
+TEST_F(RecordsetTest, AKeyWithQuotesOrNulChangesNothingElse) {
     const std::string obrien = "O'Brien";
     const std::string quoted = "say \"hi\"; DROP TABLE TASKS; --";
+    const std::string nul("A\0B", 3);
     exec(
         "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES ('O''Brien', 'irish', 1);"
         "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES "
-        "('say \"hi\"; DROP TABLE TASKS; --', 'quoted', 1);");
-    EXPECT_EQ(sqlLiteral(obrien), "'O''Brien'");
-    EXPECT_EQ(sqlLiteral("a\"b", '"'), "\"a\"\"b\"");
+        "('say \"hi\"; DROP TABLE TASKS; --', 'quoted', 1);"
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES (CAST(X'410042' AS TEXT), 'nul', 1);"
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES ('A', 'prefix', 1);");
 
-    for (const std::string& key : {obrien, quoted}) {
-        for (char q : {'\'', '"'}) {
-            auto rs = open("SELECT * from TASKS WHERE tskGUIDID = " + sqlLiteral(key, q));
-            ASSERT_EQ(rs->RecordCount(), 1) << key << " with " << q;
-            EXPECT_EQ(rs->Fields("tskGUIDID").value(), Value(key));
-        }
-        auto rs = open("SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(key, '"'));
+    for (const std::string& key : {obrien, quoted, nul}) {
+        auto rs = open(queries::taskByKey(key));
+        ASSERT_EQ(rs->RecordCount(), 1) << key;
+        EXPECT_EQ(rs->Fields("tskGUIDID").value(), Value(key));
         rs->Fields("tskImp") = Value(int16_t{5});
         rs->Update();
         rs->UpdateBatch();
+        EXPECT_EQ(open(queries::appointmentsOfTask(key))->RecordCount(), 0);
     }
-    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "5");
-    EXPECT_EQ(readOne("SELECT group_concat(tskGUIDID, '|') FROM TASKS WHERE tskImp=5 "
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS"), "7");
+    EXPECT_EQ(readOne("SELECT count(*) FROM TASKS WHERE tskImp=5"), "3");
+    EXPECT_EQ(readOne("SELECT tskImp FROM TASKS WHERE tskGUIDID='A'"), "1");
+    EXPECT_EQ(readOne("SELECT group_concat(tskGUIDID, '|') FROM TASKS WHERE tskImp=5 AND tskDesc<>'nul' "
                       "ORDER BY tskGUIDID"),
               "O'Brien|" + quoted);
     EXPECT_EQ(readOne("SELECT group_concat(tskImp) FROM (SELECT tskImp FROM TASKS WHERE "

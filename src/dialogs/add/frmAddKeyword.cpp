@@ -2,6 +2,7 @@
 
 #include "store/ErrorPath.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewKeyword.h"
 #include "values/CCreateGuid.h"
 
@@ -25,9 +26,7 @@ frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, "Keyword"})
 bool frmAddKeyword::LoadCategories() {
     return trap(kModule, "LoadCategories", [&] {
         clsNewKeyword source;
-        source.SetSQL(
-            "SELECT Keywords.keySubject From Keywords GROUP BY Keywords.keySubject ORDER BY "
-            "Keywords.keySubject");
+        source.SetSQL(queries::keywordSubjects());
         RecordsetPtr rs;
         if (!source.GetData(rs)) return false;
         Tool& list = field("CATEGORY");
@@ -62,7 +61,7 @@ bool frmAddKeyword::validateNew() {
 // Exact comparison, letter case included: unlike projects.
 std::optional<bool> frmAddKeyword::keywordExists() const {
     clsNewKeyword source;
-    source.SetSQL("SELECT * from Keywords ORDER BY keyKeyword");
+    source.SetSQL(queries::keywordsByName());
     RecordsetPtr rs;
     if (!source.GetData(rs)) return std::nullopt;
     const std::string keyword = trimSpaces(field("KEYWORD").text());
@@ -80,7 +79,7 @@ bool frmAddKeyword::createNewKeyword() {
         const std::string key = CCreateGuid::guid();
         SaveTransaction save;
         clsNewKeyword source;
-        source.SetSQL("SELECT * From Keywords ORDER BY Keywords.keySubject");
+        source.SetSQL(queries::keywordsForAdding());
         RecordsetPtr rs;
         if (!source.GetData(rs)) return false;
         rs->AddNew();

@@ -5,6 +5,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewProject.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -18,7 +19,6 @@ namespace qv {
 
 namespace {
 constexpr const char* kModule = "frmAddProject";
-constexpr const char* kProjectsQuery = "SELECT * from PROJECTS ORDER BY prjProject";
 // Longer names and summaries are refused; 101 characters still pass.
 constexpr std::size_t kMaxLength = 101;
 // Fixed date serials: 19 April 2001 and 14 January 2004.
@@ -85,7 +85,7 @@ bool frmAddProject::validateNew() {
 // Case-blind; only the new name is trimmed, not the stored ones.
 std::optional<bool> frmAddProject::nameIsTaken() const {
     clsNewProject source;
-    source.SetSQL(kProjectsQuery);
+    source.SetSQL(queries::projectsForAdding());
     RecordsetPtr rs;
     if (!source.GetData(rs)) return std::nullopt;
     const std::string wanted = TextCase::upper(trimSpaces(text("txName")));
@@ -101,7 +101,7 @@ bool frmAddProject::createNewProject() {
         const std::string key = CCreateGuid::guid();
         SaveTransaction save;
         clsNewProject source;
-        source.SetSQL(kProjectsQuery);
+        source.SetSQL(queries::projectsForAdding());
         RecordsetPtr rs;
         if (!source.GetData(rs)) return false;
         rs->AddNew();

@@ -6,8 +6,11 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/StatusWords.h"
+#include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsChecklistsInATask.h"
 #include "store/clsNewTask.h"
 #include "store/clsVLProjectsList.h"
@@ -26,7 +29,7 @@ const char* const kLostChecklist = "The checklist formerly associated with this 
 constexpr int32_t kRed = 255;
 constexpr std::size_t kChecklistNameShown = 80;
 
-RecordsetPtr openKeyed(clsNewTask& source, const std::string& sql) {
+RecordsetPtr openKeyed(clsNewTask& source, const Query& sql) {
     RecordsetPtr rs;
     source.SetSQLKey(sql);
     if (!source.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
@@ -34,13 +37,6 @@ RecordsetPtr openKeyed(clsNewTask& source, const std::string& sql) {
 }
 
 std::string text(Recordset& rs, const char* column) { return CNull::NVLStr(rs.Fields(column).value()); }
-
-// A level's word by its stored index; beyond the list is a bound failure.
-const std::string& levelWord(const std::array<std::string, 5>& list, int32_t index) {
-    if (index < 0 || index >= static_cast<int32_t>(list.size()))
-        throw Failure(err::SubscriptOutOfRange, "Subscript out of range");
-    return list[static_cast<std::size_t>(index)];
-}
 
 double timeOfDay(double serial) { return serial - std::floor(serial); }
 
@@ -69,7 +65,7 @@ void AppointmentLoader::fillLists() {
 void AppointmentLoader::fillProjects() {
     clsVLProjectsList list;
     RecordsetPtr rs;
-    list.SetSQL("SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject");
+    list.SetSQL(queries::projectList());
     if (!list.GetData(rs)) throw Failure(err::ObjectRequired, "Object required");
     const int32_t rows = rs->RecordCount();
     if (rows >= 1) {
@@ -97,74 +93,96 @@ void AppointmentLoader::GetTAS() {
 
 bool AppointmentLoader::readAppointment() {
     clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKAPPTS WHERE taGUIDID=" + sqlLiteral(g().CurrentTaskGUID));
+    auto rs = openKeyed(source, queries::appointmentByKey(g().CurrentTaskGUID));
     if (rs->RecordCount() != 1) {
         rs->Close();
         return false;
     }
     auto& c = f_.controls();
-    c.spellTask.setText(text(*rs, "taTaskDesc"));
+    StoredRow row(*rs, "TASKAPPTS", g().CurrentTaskGUID);
+    row.setName(row.text("taTaskDesc"));
+    c.spellTask.setText(row.text("taTaskDesc"));
     Tool& project = c.smtABOUT.tool("PROJECT");
-    project.setTag(text(*rs, "taprojectGUIDID"));
-    project.setText(text(*rs, "taProject"));
-    for (auto [key, column, list] : {std::tuple{"IMP", "taImp", &g().ImportanceList},
-                                     std::tuple{"DIFF", "taDifficulty", &g().DifficultyList}}) {
-        const int32_t index = rs->Fields(column).value().toInt32();
+    project.setTag(row.text("taprojectGUIDID"));
+    project.setText(row.text("taProject"));
+    for (auto [key, column, field, list] :
+         {std::tuple{"IMP", "taImp", "Importance", &g().ImportanceList},
+          std::tuple{"DIFF", "taDifficulty", "Difficulty", &g().DifficultyList}}) {
+        const auto index = row.level(column, field, list->size());
         Tool& level = c.smtABOUT.tool(key);
-        level.setTag(std::to_string(index));
-        level.setText(levelWord(*list, index));
+        level.setTag(index ? std::to_string(*index) : std::string());
+        level.setText(index ? (*list)[static_cast<std::size_t>(*index)] : std::string());
     }
-    f_.TATaskGUID = text(*rs, "taTaskGUIDID");
-    const double start = rs->Fields("taStartTime").value().toDate().serial;
-    const double end = rs->Fields("taEndTime").value().toDate().serial;
+    f_.TATaskGUID = row.text("taTaskGUIDID");
     const auto& format = DateTimeFormatter::current();
-    c.smtTimes.tool("START").setText(format.longTime(timeOfDay(start)));
-    c.smtTimes.tool("END").setText(format.longTime(timeOfDay(end)));
-    c.ctTADate.setValue(std::floor(start));
-    const Value worked = rs->Fields("taWasWorked").value();
-    if (!worked.isNull()) c.smtTimes.tool("DONE").setText(worked.toBool() ? "Complete" : "Not Complete");
-    const int32_t minutes = CNull::NVLLng(rs->Fields("taTimeWorked").value());
+    const auto start = row.date("taStartTime", "Start");
+    if (start) {
+        c.smtTimes.tool("START").setText(format.longTime(timeOfDay(*start)));
+        c.ctTADate.setValue(std::floor(*start));
+    }
+    if (const auto end = row.date("taEndTime", "End")) c.smtTimes.tool("END").setText(format.longTime(timeOfDay(*end)));
+    if (!rs->Fields("taWasWorked").value().isNull())
+        c.smtTimes.tool("DONE").setText(row.flag("taWasWorked", "Was Worked") ? "Complete" : "Not Complete");
+    const int32_t minutes = row.minutes("taTimeWorked", "Time Worked");
     c.smtTimes.tool("TIMESPENT").setText(minutes > 0 ? SetTimeFormat(minutes) : "0:00");
     f_.SlotRow = rs;
+    row.tell();
     return true;
 }
 
 void AppointmentLoader::readTask() {
     clsNewTask source;
-    auto rs = openKeyed(source, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+    auto rs = openKeyed(source, queries::taskByKey(f_.TATaskGUID));
     if (rs->RecordCount() != 1) {
         rs->Close();
         return;
     }
     auto& c = f_.controls();
-    c.smtReady.tool("POINTS").setText(std::to_string(CNull::NVLLng(rs->Fields("tskPossPoints").value())));
-    c.SpellNotes.setText(text(*rs, "tskNotes"));
-    const bool current = CNull::NVLBool(rs->Fields("tskCurrent").value());
+    StoredRow row(*rs, "TASKS", f_.TATaskGUID);
+    row.setName(row.text("tskDesc"));
+    const auto points = row.number("tskPossPoints", "Possible Points", true);
+    c.smtReady.tool("POINTS").setText(points ? std::to_string(*points) : "0");
+    c.SpellNotes.setText(row.text("tskNotes"));
+    const bool current = row.flag("tskCurrent", "Current");
     Tool& isCurrent = c.smtABOUT.tool("ISCURRENT");
     isCurrent.setTag(current ? "TRUE" : "FALSE");
     isCurrent.setText(current ? "Yes" : "No");
-    for (auto [key, column] : {std::pair{"NEEDED", "tskTimeNeeded"}, std::pair{"SCHEDULED", "tskTimeScheduled"},
-                               std::pair{"SPENT", "tskTimeSpent"}}) {
-        const std::string shown = SetTimeFormat(CNull::NVLLng(rs->Fields(column).value()));
+    for (auto [key, column, field] : {std::tuple{"NEEDED", "tskTimeNeeded", "Time Needed"},
+                                      std::tuple{"SCHEDULED", "tskTimeScheduled", "Time Scheduled"},
+                                      std::tuple{"SPENT", "tskTimeSpent", "Time Spent"}}) {
+        const std::string shown = SetTimeFormat(row.minutes(column, field));
         Tool& t = c.smtABOUT.tool(key);
         t.setTag(shown);
         t.setText(shown);
     }
-    const double deadline = CNull::NVLDate(rs->Fields("tskDeadline").value()).serial;
+    const double deadline = row.date("tskDeadline", "Deadline").value_or(0.0);
     if (deadline > 0) {
         Tool& t = c.smtABOUT.tool("DEADLINE");
         t.setText(DateTimeFormatter::current().generalDate(deadline));
         t.setForeColor(kRed);
         t.setBold(true);
     }
-    showStatus(rs->Fields("tskStatus").value().toInt32());
+    showStatus(readStatus(row));
     readChecklist(*rs);
     f_.TaskRow = rs;
+    row.tell();
+}
+
+// A status beyond the list is a bounds failure; one that can't be read is
+// the missing status.
+int32_t AppointmentLoader::readStatus(StoredRow& row) {
+    const auto status = row.number("tskStatus", "Status");
+    if (!status) return kNothingChosen;
+    if (*status > StatusWords::kDefined && static_cast<std::size_t>(*status) >= g().StatusList.size())
+        row.beyondList("tskStatus", "Status");
+    if (*status < 0) row.beyondList("tskStatus", "Status");
+    return *status;
 }
 
 void AppointmentLoader::showStatus(int32_t status) {
     auto& c = f_.controls();
     Tool& t = c.smtABOUT.tool("STATUS");
+    if (status == kNothingChosen) return;
     t.setTag(std::to_string(status));
     t.setText(StatusWords::word(status));
     t.setBold(status == StatusWords::kCompleted);
@@ -191,7 +209,7 @@ void AppointmentLoader::readChecklist(Recordset& task) {
     state.utilChecklistKey = f_.TACheckListGUID = key;
     clsChecklistsInATask source;
     RecordsetPtr rs;
-    source.SetSQL("SELECT ckName, ckDesc, ckContent from CHECKLISTS WHERE ckGUIDID=" + sqlLiteral(key));
+    source.SetSQL(queries::checklistByKey(key));
     if (!source.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
     auto& c = f_.controls();
     if (rs->RecordCount() == 1) {

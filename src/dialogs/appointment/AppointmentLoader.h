@@ -8,6 +8,7 @@ namespace qv {
 
 class frmTAS2;
 class Recordset;
+class StoredRow;
 
 class AppointmentLoader {
 public:
@@ -25,6 +26,7 @@ private:
     // False when the slot's row is not there once.
     bool readAppointment();
     void readTask();
+    [[nodiscard]] static int32_t readStatus(StoredRow& row);
     void showStatus(int32_t status);
     void readChecklist(Recordset& task);
 

@@ -11,6 +11,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "store/clsStatusList.h"
 #include "toolkit/Clock.h"
@@ -30,7 +31,7 @@ const char* const kBlankTimeSpent =
     "Task Appointment Time Spent is blank. Set it to this Task Appointment's duration?";
 const char* const kNoChecklist = "-NONE";
 
-RecordsetPtr openKeyed(clsNewTask& source, const std::string& sql) {
+RecordsetPtr openKeyed(clsNewTask& source, const Query& sql) {
     RecordsetPtr rs;
     source.SetSQLKey(sql);
     if (!source.GetDataKEY(rs)) throw Failure(err::ObjectRequired, "Object required");
@@ -127,14 +128,13 @@ bool AppointmentSaver::saveRows() {
     clsNewTask slotSource;
     clsNewTask taskSource;
     RecordsetPtr slot = f_.SlotRow ? f_.SlotRow
-                                   : openKeyed(slotSource, "SELECT * from TASKAPPTS WHERE taGUIDID=" +
-                                                               sqlLiteral(g().CurrentTaskGUID));
+                                   : openKeyed(slotSource, queries::appointmentByKey(g().CurrentTaskGUID));
     f_.StopTHETimer();
     writeAppointment(*slot);
     RecordsetPtr task =
         f_.TaskRow
             ? f_.TaskRow
-            : openKeyed(taskSource, "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(f_.TATaskGUID));
+            : openKeyed(taskSource, queries::taskByKey(f_.TATaskGUID));
     writeTask(*task);
     slot->Update();
     slot->UpdateBatch(adAffectAllChapters);
@@ -228,7 +228,7 @@ void AppointmentSaver::writeTaskSums(Recordset& rs) {
                                  CNull::NVLBool(rs.Fields("tskHasSchedule").value())));
     clsStatusList sum;
     RecordsetPtr total;
-    sum.SetSQL("SELECT SUM(taDuration) as QVTOTAL from TASKAPPTS WHERE taTaskGUIDID =" + sqlLiteral(f_.TATaskGUID));
+    sum.SetSQL(queries::scheduledMinutesOfTask(f_.TATaskGUID));
     if (!sum.GetDataKEY(total)) throw Failure(err::ObjectRequired, "Object required");
     rs.Fields("tskTimeScheduled") = Value(CNull::NVLLng(total->Fields("QVTOTAL").value()));
     total->Close();

@@ -4,6 +4,7 @@
 #include "dialogs/checklists/frmCkPicker.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
@@ -140,7 +141,7 @@ void ChecklistLink::ckFrm_GotErrExitNow() {
 
 bool ChecklistLink::show(const std::string& key, const std::string& captionLead) {
     clsCheckLists source;
-    source.SetSQL("SELECT ckName, ckDesc, ckContent from CHECKLISTS WHERE ckGUIDID=" + sqlLiteral(key));
+    source.SetSQL(queries::checklistByKey(key));
     RecordsetPtr rs;
     if (!source.GetDataKEY(rs)) return false;
     if (rs->EOF_()) {

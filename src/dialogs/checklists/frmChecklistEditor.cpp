@@ -3,6 +3,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
@@ -13,8 +14,8 @@ namespace qv {
 namespace {
 constexpr const char* kModule = "frmChecklistEditor";
 
-std::string rowQuery(const std::string& key) {
-    return "SELECT * from CHECKLISTS WHERE ckGUIDID=" + sqlLiteral(key);
+Query rowQuery(const std::string& key) {
+    return queries::checklistRow(key);
 }
 }  // namespace
 

@@ -1,6 +1,7 @@
 #include "dialogs/checklists/frmCkPicker.h"
 
 #include "store/ErrorPath.h"
+#include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
 
 namespace qv {
@@ -28,7 +29,7 @@ bool frmCkPicker::LoadPicker() {
         smtList.add(ttOption, "-NONE-", "No Checklist");
         smtList.add(ttHeading, {}, "Checklists");
         clsCheckLists source;
-        source.SetSQL("SELECT ckName, ckDesc, ckGUIDID from CHECKLISTS order by ckName");
+        source.SetSQL(queries::checklistPickerList());
         RecordsetPtr rs;
         if (!source.GetDataKEY(rs)) return false;
         for (; !rs->EOF_(); rs->MoveNext()) {

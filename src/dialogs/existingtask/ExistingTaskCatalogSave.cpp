@@ -7,6 +7,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 
 namespace qv {
@@ -19,7 +20,7 @@ bool ExistingTaskCatalogSave::SaveToTaskCat() {
         clsNewTask source;
         RecordsetPtr rs;
         // No importance is 6: an empty set to add to.
-        source.SetSQL("SELECT * from TASKSCAT WHERE tskImp= 6");
+        source.SetSQL(queries::newCatalogRow());
         if (!source.GetData(rs) || !rs) return false;
         rs->AddNew();
         writeColumns(*rs);

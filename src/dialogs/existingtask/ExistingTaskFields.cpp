@@ -7,6 +7,7 @@
 #include "dialogs/shared/SheetPicks.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -55,11 +56,11 @@ ExistingTaskFields::~ExistingTaskFields() = default;
 
 bool ExistingTaskFields::openTaskRow() {
     const auto& s = g();
-    std::string query;
+    Query query;
     if (s.TaskMode == 0 || s.TaskMode == 1 || s.TaskMode == 5)
-        query = "SELECT * from TASKS WHERE tskGUIDID=" + sqlLiteral(s.CurrentTaskGUID);
+        query = queries::taskByKey(s.CurrentTaskGUID);
     else if (s.TaskMode == 6)
-        query = "SELECT * from TASKSCAT WHERE tskGUIDID=" + sqlLiteral(s.TaskCatGUID);
+        query = queries::catalogItemByKey(s.TaskCatGUID);
     else
         return false;
     closeTaskRow();

@@ -6,6 +6,7 @@
 #include "dialogs/shared/ProjectSheet.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsKeywords.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Failure.h"
@@ -21,7 +22,7 @@ const char* const kNewProjectCaption = "New Project";
 
 RecordsetPtr openLinks(clsNewTask& source, const std::string& taskGUID) {
     RecordsetPtr rs;
-    source.SetSQL("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(taskGUID));
+    source.SetSQL(queries::keywordLinksOfTask(taskGUID));
     if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
     return rs;
 }
@@ -147,10 +148,7 @@ std::unordered_map<std::string, std::string> ExistingTaskKeywords::keywordCaptio
     const std::string& taskGUID) {
     clsKeywords source;
     RecordsetPtr rs;
-    source.SetSQL(
-        "SELECT keyGUIDID, keyKeyword from KEYWORDS WHERE keyGUIDID IN (SELECT ktKEYGUID from "
-        "TaskKeywords WHERE ktTASKGUID= " +
-        sqlLiteral(taskGUID) + ")");
+    source.SetSQL(queries::keywordsLinkedToTask(taskGUID));
     if (!source.GetData(rs) || !rs) throw Failure(err::ObjectRequired, "Object required");
     std::unordered_map<std::string, std::string> captions;
     for (; !rs->EOF_(); rs->MoveNext())

@@ -1,6 +1,7 @@
 #include "dialogs/existingtask/ExistingTaskLoader.h"
 
 #include <cmath>
+#include <optional>
 
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
@@ -8,14 +9,16 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
-#include "values/CNull.h"
 #include "values/DateFormats.h"
 #include "values/DateTimeFormatter.h"
 #include "values/TimeValues.h"
@@ -29,12 +32,11 @@ constexpr int32_t kRed = 255;
 constexpr std::size_t kChecklistCaptionLimit = 80;
 constexpr int32_t kNoCurrentRecord = 3021;
 
-const std::string& level(const std::array<std::string, 5>& list, int32_t n) {
-    if (n < 0 || n >= static_cast<int32_t>(list.size())) throw Failure(err::SubscriptOutOfRange, "Subscript out of range");
-    return list[static_cast<std::size_t>(n)];
+// A level's word and tag, or nothing for a level that can't be read.
+void showLevel(Tool& tool, const std::array<std::string, 5>& list, std::optional<int32_t> n) {
+    tool.setText(n ? list[static_cast<std::size_t>(*n)] : std::string());
+    tool.setTag(n ? std::to_string(*n) : std::string());
 }
-
-std::string text(Recordset& row, const char* column) { return CNull::NVLStr(row.Fields(column).value()); }
 }  // namespace
 
 bool ExistingTaskLoader::fillLists() {
@@ -68,15 +70,18 @@ void ExistingTaskLoader::GetETASK() {
     auto& fields = f_.fields();
     g().SettingUp = true;
     if (!fields.openTaskRow()) return;
-    Recordset& row = *fields.TaskRow;
-    if (row.EOF_()) throw Failure(kNoCurrentRecord, "Either BOF or EOF is True, or the current record has been deleted.");
+    Recordset& stored = *fields.TaskRow;
+    if (stored.EOF_())
+        throw Failure(kNoCurrentRecord, "Either BOF or EOF is True, or the current record has been deleted.");
+    const bool catalog = g().TaskMode == 6;
+    StoredRow row(stored, catalog ? "TASKSCAT" : "TASKS", catalog ? g().TaskCatGUID : g().CurrentTaskGUID);
     fillTexts(row);
     fillPicks(row);
     fillTimes(row);
     fillDeadline(row);
     fillStatus(row);
     f_.initSked();
-    if (CNull::NVLBool(row.Fields("tskHasSchedule").value())) {
+    if (row.flag("tskHasSchedule", "Has Schedule")) {
         f_.CountUpSked();
         fields.utilHasSchedule = true;
     } else {
@@ -85,40 +90,40 @@ void ExistingTaskLoader::GetETASK() {
     fillChecklist(row);
     f_.keywords().tickFromStore();
     g().SettingUp = false;
+    row.tell();
 }
 
-void ExistingTaskLoader::fillTexts(Recordset& row) {
+void ExistingTaskLoader::fillTexts(StoredRow& row) {
     auto& c = f_.controls();
     auto& r = f_.fields().record();
-    r.Desc = text(row, "tskDesc");
+    r.Desc = row.text("tskDesc");
+    row.setName(r.Desc);
     c.spellTask.setText(r.Desc);
-    const Value points = row.Fields("tskPossPoints").value();
-    c.smtReady.tool("POINTS").setCaption(points.isNull() ? std::string() : std::to_string(points.toInt32()));
-    r.Notes = text(row, "tskNotes");
+    const auto points = row.number("tskPossPoints", "Possible Points", true);
+    c.smtReady.tool("POINTS").setCaption(points ? std::to_string(*points) : std::string());
+    r.Notes = row.text("tskNotes");
     c.SpellNotes.setText(r.Notes);
 }
 
-// A level beyond its list is a bounds failure, as a stored 5 would be.
-void ExistingTaskLoader::fillPicks(Recordset& row) {
+// A level beyond its list is a bounds failure, as a stored 5 would be; a
+// null or a text opens unset.
+void ExistingTaskLoader::fillPicks(StoredRow& row) {
     auto& c = f_.controls();
     auto& r = f_.fields().record();
     const auto& s = g();
     Tool& project = c.smtABOUT.tool("PROJECT");
-    project.setText(text(row, "tskProject"));
-    project.setTag(text(row, "tskProjectKey"));
-    const int32_t imp = row.Fields("tskImp").value().toInt32();
-    c.smtABOUT.tool("IMP").setText(level(s.ImportanceList, imp));
-    c.smtABOUT.tool("IMP").setTag(std::to_string(imp));
-    const int32_t diff = row.Fields("tskDifficulty").value().toInt32();
-    c.smtABOUT.tool("DIFF").setText(level(s.DifficultyList, diff));
-    c.smtABOUT.tool("DIFF").setTag(std::to_string(diff));
+    project.setText(row.text("tskProject"));
+    project.setTag(row.text("tskProjectKey"));
+    showLevel(c.smtABOUT.tool("IMP"), s.ImportanceList, row.level("tskImp", "Importance", s.ImportanceList.size()));
+    showLevel(c.smtABOUT.tool("DIFF"), s.DifficultyList,
+              row.level("tskDifficulty", "Difficulty", s.DifficultyList.size()));
     Tool& current = c.smtABOUT.tool("ISCURRENT");
-    r.IsCurrent = CNull::NVLBool(row.Fields("tskCurrent").value());
+    r.IsCurrent = row.flag("tskCurrent", "Current");
     current.setText(r.IsCurrent ? "Yes" : "No");
     current.setTag(r.IsCurrent ? "TRUE" : "FALSE");
 }
 
-void ExistingTaskLoader::fillTimes(Recordset& row) {
+void ExistingTaskLoader::fillTimes(StoredRow& row) {
     auto& c = f_.controls();
     auto& r = f_.fields().record();
     const auto show = [&](const char* key, int32_t minutes) {
@@ -126,20 +131,20 @@ void ExistingTaskLoader::fillTimes(Recordset& row) {
         t.setText(SetTimeFormat(minutes));
         t.setTag(t.text());
     };
-    r.TimeNeeded = CNull::NVLLng(row.Fields("tskTimeNeeded").value());
+    r.TimeNeeded = row.minutes("tskTimeNeeded", "Time Needed");
     show("NEEDED", r.TimeNeeded);
-    r.TimeScheduled = CNull::NVLLng(row.Fields("tskTimeScheduled").value());
+    r.TimeScheduled = row.minutes("tskTimeScheduled", "Time Scheduled");
     show("SCHEDULED", r.TimeScheduled);
-    r.TimeSpent = CNull::NVLLng(row.Fields("tskTimeSpent").value());
+    r.TimeSpent = row.minutes("tskTimeSpent", "Time Spent");
     show("SPENT", r.TimeSpent);
     c.smtTimes.tool("TIMESPENT").setText(c.smtABOUT.tool("SPENT").text());
 }
 
 // A midnight deadline shows no time; one at or past now shows red and bold.
-void ExistingTaskLoader::fillDeadline(Recordset& row) {
-    const Value stored = row.Fields("tskDeadline").value();
-    if (stored.isNull()) return;
-    const double deadline = stored.toDate().serial;
+void ExistingTaskLoader::fillDeadline(StoredRow& row) {
+    const auto stored = row.date("tskDeadline", "Deadline");
+    if (!stored) return;
+    const double deadline = *stored;
     if (deadline <= kNoDate) return;
     auto& c = f_.controls();
     c.ctDeadline.setValue(deadline);
@@ -154,11 +159,12 @@ void ExistingTaskLoader::fillDeadline(Recordset& row) {
     f_.fields().record().Deadline = deadline;
 }
 
-// The first four statuses show their fixed words whatever the list says.
-void ExistingTaskLoader::fillStatus(Recordset& row) {
+// The first four statuses show their fixed words whatever the list says; a
+// status that can't be read is the missing one.
+void ExistingTaskLoader::fillStatus(StoredRow& row) {
     static const char* const kFixedWords[] = {"Completed", "In Progress", "On Hold", "Defined"};
     auto& c = f_.controls();
-    const int32_t status = CNull::NVLLng(row.Fields("tskStatus").value());
+    const int32_t status = row.number("tskStatus", "Status").value_or(kNothingChosen);
     Tool& tool = c.smtABOUT.tool("STATUS");
     Tool& done = c.smtReady.tool("DONE");
     f_.fields().record().Status = status;
@@ -174,13 +180,13 @@ void ExistingTaskLoader::fillStatus(Recordset& row) {
     done.setChecked(status == 0);
 }
 
-void ExistingTaskLoader::fillChecklist(Recordset& row) {
+void ExistingTaskLoader::fillChecklist(StoredRow& row) {
     auto& ck = f_.fields().checklist;
-    const std::string key = text(row, "tskTCheckListGUID");
+    const std::string key = row.text("tskTCheckListGUID");
     ck.utilCheckListExists = false;
     if (key.empty()) return;
     clsCheckLists source;
-    source.SetSQL("SELECT ckName, ckDesc, ckContent from CHECKLISTS WHERE ckGUIDID=" + sqlLiteral(key));
+    source.SetSQL(queries::checklistByKey(key));
     RecordsetPtr rs;
     if (!source.GetDataKEY(rs)) return;
     if (rs->EOF_()) {

@@ -7,7 +7,7 @@
 namespace qv {
 
 class frmExistingTask;
-class Recordset;
+class StoredRow;
 
 class ExistingTaskLoader {
 public:
@@ -19,12 +19,12 @@ public:
 
 private:
     void setSpellChecking();
-    void fillTexts(Recordset& row);
-    void fillPicks(Recordset& row);
-    void fillTimes(Recordset& row);
-    void fillDeadline(Recordset& row);
-    void fillStatus(Recordset& row);
-    void fillChecklist(Recordset& row);
+    void fillTexts(StoredRow& row);
+    void fillPicks(StoredRow& row);
+    void fillTimes(StoredRow& row);
+    void fillDeadline(StoredRow& row);
+    void fillStatus(StoredRow& row);
+    void fillChecklist(StoredRow& row);
 
     frmExistingTask& f_;
 };

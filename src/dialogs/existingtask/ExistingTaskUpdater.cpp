@@ -11,6 +11,7 @@
 #include "store/FieldCodec.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
@@ -166,8 +167,7 @@ void ExistingTaskUpdater::shiftCatalogHistory(Recordset& row) {
     if (charCount(catalogKey) != kGuidLength || row.Fields("tskStatus").value().toInt32() != 0) return;
     clsNewTask source;
     RecordsetPtr item;
-    source.SetSQL("SELECT tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4 from TASKSCAT WHERE "
-                  "tskGUIDID = " + sqlLiteral(catalogKey, '"'));
+    source.SetSQL(queries::catalogTimeHistory(catalogKey));
     if (!source.GetData(item) || !item) throw Failure(err::ObjectRequired, "Object required");
     if (item->RecordCount() == 1) {
         for (int i = 4; i > 0; --i)

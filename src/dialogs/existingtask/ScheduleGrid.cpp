@@ -7,6 +7,7 @@
 #include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "store/StoreQueries.h"
 #include "store/clsTaskSchedule.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
@@ -95,19 +96,9 @@ void ScheduleGrid::trapped(const char* procedure, const std::function<void()>& b
 
 int32_t ScheduleGrid::col(const char* key) const { return grid_.columnOf(key); }
 
-std::string ScheduleGrid::skedQuery(const std::string& taskKey) {
-    return "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, TASKAPPTS.taTimeWorked, "
-           "TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, "
-           "TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, TASKAPPTS.taProject, TASKAPPTS.taImp, "
-           "TASKAPPTS.taDifficulty"
-           " From TASKAPPTS"
-           " Where (((TASKAPPTS.taTaskGUIDID) = " +
-           sqlLiteral(taskKey, '"') + "))" + " ORDER BY TASKAPPTS.taStartTime DESC;";
-}
-
 void ScheduleGrid::initSked() {
     source_ = std::make_unique<clsTaskSchedule>();
-    source_->SetSQL(skedQuery(g().CurrentTaskGUID));
+    source_->SetSQL(queries::scheduleOfTask(g().CurrentTaskGUID));
     rs_ = nullptr;
     source_->Class_GetDataMember("Recordset", rs_);
     if (!rs_) {

@@ -61,9 +61,6 @@ public:
     // Whether the widths of layout still wait for the grid's first width.
     [[nodiscard]] bool layoutPending() const { return !laidOut_; }
 
-    // The source query for a task key.
-    [[nodiscard]] static std::string skedQuery(const std::string& taskKey);
-
 private:
     void InitializeLayout();
     void InitializeRow(int32_t row);

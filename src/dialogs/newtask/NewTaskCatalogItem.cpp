@@ -1,14 +1,18 @@
 #include "dialogs/newtask/NewTaskCatalogItem.h"
 
 #include <cmath>
+#include <optional>
 
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/StoredRow.h"
+#include "dialogs/shared/TaskRecord.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsChecklistsInATask.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
@@ -23,15 +27,19 @@ namespace {
 
 constexpr int32_t kRed = 255;
 
-// The first four status words are fixed here, whatever the settings say.
-std::string statusWord(int32_t status) {
+// The first four status words are fixed here, whatever the settings say;
+// nothing for a status beyond the list.
+std::optional<std::string> statusWord(int32_t status) {
     switch (status) {
         case 0: return "Completed";
         case 1: return "In Progress";
         case 2: return "On Hold";
         case 3: return "Defined";
-        default: return g().StatusList.at(static_cast<size_t>(status));
+        default: break;
     }
+    const auto& list = g().StatusList;
+    if (status < 0 || static_cast<size_t>(status) >= list.size()) return std::nullopt;
+    return list[static_cast<size_t>(status)];
 }
 
 }  // namespace
@@ -41,16 +49,18 @@ bool NewTaskCatalogItem::GetTaskCatTASK() {
     s.SettingUp = true;
     clsNewTask item;
     RecordsetPtr rs;
-    item.SetSQL("SELECT * from TASKSCAT WHERE tskGUIDID=" + sqlLiteral(s.TaskCatGUID));
+    item.SetSQL(queries::catalogItemByKey(s.TaskCatGUID));
     if (!item.GetData(rs)) return false;
-    fillTexts(*rs);
-    fillPicks(*rs);
-    fillTimeNeeded(*rs);
-    fillDeadline(*rs);
-    fillStatus(*rs);
-    f_.fields().utilHasSchedule = CNull::NVLLng(rs->Fields("tskHasSchedule").value()) == -1;
-    const bool linked = fillChecklist(*rs);
+    StoredRow row(*rs, "TASKSCAT", s.TaskCatGUID);
+    fillTexts(row);
+    fillPicks(row);
+    fillTimeNeeded(row);
+    fillDeadline(row);
+    fillStatus(row);
+    f_.fields().utilHasSchedule = row.number("tskHasSchedule", "Has Schedule", true) == -1;
+    const bool linked = fillChecklist(row);
     rs->Close();
+    row.tell();
     if (!linked) return false;
     // The item's links stand under its own key; this one is empty, so none come.
     KeywordSheet::tickFromLinks(f_.controls().smtKeywords, s.CurrentTaskGUID);
@@ -62,22 +72,26 @@ bool NewTaskCatalogItem::GetTaskCatTASK() {
     return true;
 }
 
-void NewTaskCatalogItem::fillTexts(Recordset& rs) {
-    f_.controls().spellTask.setText(CNull::NVLStr(rs.Fields("tskDesc").value()));
-    f_.controls().SpellNotes.setText(CNull::NVLStr(rs.Fields("tskNotes").value()));
+void NewTaskCatalogItem::fillTexts(StoredRow& rs) {
+    rs.setName(rs.text("tskDesc"));
+    f_.controls().spellTask.setText(rs.text("tskDesc"));
+    f_.controls().SpellNotes.setText(rs.text("tskNotes"));
 }
 
-void NewTaskCatalogItem::fillPicks(Recordset& rs) {
+void NewTaskCatalogItem::fillPicks(StoredRow& rs) {
     auto& c = f_.controls();
-    SheetPicks::checkByKey(c.smtProj, CNull::NVLStr(rs.Fields("tskProjectKey").value()));
-    c.smtImp.at(rs.Fields("tskImp").value().toInt32() + 1).setChecked(true);
-    c.smtDiff.at(rs.Fields("tskDifficulty").value().toInt32() + 1).setChecked(true);
-    c.smtOther.tool("ISCURRENT").setChecked(CNull::NVLBool(rs.Fields("tskCurrent").value()));
+    SheetPicks::checkByKey(c.smtProj, rs.text("tskProjectKey"));
+    // A level beyond the sheet's positions goes to the error path, named.
+    if (const auto imp = rs.level("tskImp", "Importance", static_cast<size_t>(c.smtImp.count())))
+        c.smtImp.at(*imp + 1).setChecked(true);
+    if (const auto diff = rs.level("tskDifficulty", "Difficulty", static_cast<size_t>(c.smtDiff.count())))
+        c.smtDiff.at(*diff + 1).setChecked(true);
+    c.smtOther.tool("ISCURRENT").setChecked(rs.flag("tskCurrent", "Current"));
 }
 
-void NewTaskCatalogItem::fillTimeNeeded(Recordset& rs) {
+void NewTaskCatalogItem::fillTimeNeeded(StoredRow& rs) {
     auto& sheet = f_.controls().smtTimeNeeded;
-    const int32_t needed = CNull::NVLLng(rs.Fields("tskTimeNeeded").value());
+    const int32_t needed = rs.minutes("tskTimeNeeded", "Time Needed");
     const std::string tag = std::to_string(needed);
     bool matched = false;
     for (const auto& t : sheet.tools()) {
@@ -91,13 +105,13 @@ void NewTaskCatalogItem::fillTimeNeeded(Recordset& rs) {
         if (Tool* custom = sheet.find("CUSTOMTIME")) custom->setText(SetTimeFormat(needed));
     auto& r = f_.fields().record();
     r.TimeNeeded = needed;
-    r.TimeScheduled = CNull::NVLLng(rs.Fields("tskTimeScheduled").value());
-    r.TimeSpent = CNull::NVLLng(rs.Fields("tskTimeSpent").value());
+    r.TimeScheduled = rs.minutes("tskTimeScheduled", "Time Scheduled");
+    r.TimeSpent = rs.minutes("tskTimeSpent", "Time Spent");
 }
 
 // A deadline that has passed shows red and bold.
-void NewTaskCatalogItem::fillDeadline(Recordset& rs) {
-    const double deadline = CNull::NVLDate(rs.Fields("tskDeadline").value(), Date{0.0}).serial;
+void NewTaskCatalogItem::fillDeadline(StoredRow& rs) {
+    const double deadline = rs.date("tskDeadline", "Deadline").value_or(0.0);
     if (deadline <= 1.0) return;
     auto& c = f_.controls();
     c.ctDeadline.setValue(deadline);
@@ -112,18 +126,21 @@ void NewTaskCatalogItem::fillDeadline(Recordset& rs) {
     f_.fields().record().Deadline = deadline;
 }
 
-void NewTaskCatalogItem::fillStatus(Recordset& rs) {
-    const int32_t status = CNull::NVLLng(rs.Fields("tskStatus").value());
+void NewTaskCatalogItem::fillStatus(StoredRow& rs) {
+    int32_t status = rs.number("tskStatus", "Status").value_or(kNothingChosen);
+    auto word = statusWord(status);
+    if (!word && status != kNothingChosen) rs.unshown("tskStatus", "Status");
+    if (!word) status = kNothingChosen;
     Tool& tool = f_.controls().smtOther.tool("STATUS");
-    tool.setText(statusWord(status));
+    tool.setText(word.value_or(std::string()));
     tool.setTag(std::to_string(status));
     tool.setBold(status == 0);
     f_.fields().record().Status = status;
 }
 
-bool NewTaskCatalogItem::fillChecklist(Recordset& rs) {
+bool NewTaskCatalogItem::fillChecklist(StoredRow& rs) {
     auto& fields = f_.fields();
-    const int32_t has = CNull::NVLLng(rs.Fields("tskHasChecklist").value());
+    const int32_t has = rs.number("tskHasChecklist", "Has Checklist", true).value_or(0);
     if (has == 0) {
         fields.checklist.utilCheckListExists = false;
         fields.checklist.utilChecklistKey.clear();
@@ -133,14 +150,14 @@ bool NewTaskCatalogItem::fillChecklist(Recordset& rs) {
     }
     if (has != -1) return true;
     fields.checklist.utilCheckListExists = true;
-    fields.checklist.utilChecklistKey = CNull::NVLStr(rs.Fields("tskCheckListGUID").value());
+    fields.checklist.utilChecklistKey = rs.text("tskCheckListGUID");
     return linkChecklist(fields.checklist.utilChecklistKey);
 }
 
 bool NewTaskCatalogItem::linkChecklist(const std::string& key) {
     clsChecklistsInATask checklist;
     RecordsetPtr rs;
-    checklist.SetSQL("SELECT ckGUIDID, ckName, ckContent from CHECKLISTS WHERE ckGUIDID =" + sqlLiteral(key));
+    checklist.SetSQL(queries::checklistOfCatalogItem(key));
     if (!checklist.GetDataKEY(rs)) return false;
     if (rs->RecordCount() != 1) {
         rs->Close();

@@ -7,7 +7,7 @@
 namespace qv {
 
 class frmTask3;
-class Recordset;
+class StoredRow;
 
 class NewTaskCatalogItem {
 public:
@@ -17,12 +17,12 @@ public:
     bool GetTaskCatTASK();
 
 private:
-    void fillTexts(Recordset& rs);
-    void fillPicks(Recordset& rs);
-    void fillTimeNeeded(Recordset& rs);
-    void fillDeadline(Recordset& rs);
-    void fillStatus(Recordset& rs);
-    bool fillChecklist(Recordset& rs);
+    void fillTexts(StoredRow& rs);
+    void fillPicks(StoredRow& rs);
+    void fillTimeNeeded(StoredRow& rs);
+    void fillDeadline(StoredRow& rs);
+    void fillStatus(StoredRow& rs);
+    bool fillChecklist(StoredRow& rs);
     bool linkChecklist(const std::string& key);
 
     frmTask3& f_;

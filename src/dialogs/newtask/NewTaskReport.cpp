@@ -14,8 +14,8 @@ const char* const kNotSet = "Not yet set.";
 const char* const kNoDeadline = "No Deadline";
 
 std::string levelText(const std::array<std::string, 5>& names, int32_t value) {
-    if (value == kNothingChosen) return kNotSet;
-    return names.at(static_cast<std::size_t>(value));
+    if (value < 0 || static_cast<std::size_t>(value) >= names.size()) return kNotSet;
+    return names[static_cast<std::size_t>(value)];
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "dialogs/newtask/NewTaskSaver.h"
 
 #include <cmath>
+#include <optional>
 
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
@@ -9,6 +10,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -22,12 +24,12 @@ namespace {
 constexpr float kBannerSeconds = 0.4f;
 
 // Queries that match nothing (no importance 6 exists): an updatable empty set.
-const char* addQuery(int32_t mode) {
+std::optional<Query> addQuery(int32_t mode) {
     switch (mode) {
         case 0:
-        case 6: return "SELECT * from TASKS WHERE tskImp= 6";
-        case 5: return "SELECT * from TASKSCAT WHERE tskImp= 6";
-        default: return nullptr;
+        case 6: return queries::newTaskRow();
+        case 5: return queries::newCatalogRow();
+        default: return std::nullopt;
     }
 }
 
@@ -69,7 +71,7 @@ bool NewTaskSaver::writeTask() {
     clsNewTask task;
     RecordsetPtr rs;
     const int32_t mode = g().TaskMode;
-    if (const char* query = addQuery(mode)) task.SetSQL(query);
+    if (const auto query = addQuery(mode)) task.SetSQL(*query);
     if (!task.GetData(rs)) return false;
     rs->AddNew();
     writeColumns(*rs);
@@ -103,7 +105,7 @@ bool NewTaskSaver::writeKeywords() {
     clsNewTask links;
     RecordsetPtr rs;
     const std::string guid = f_.fields().utilNewTaskGUID();
-    links.SetSQLKey("SELECT * from TaskKeywords WHERE ktTASKGUID= " + sqlLiteral(guid));
+    links.SetSQLKey(queries::keywordLinksOfTask(guid));
     if (!links.GetDataKEY(rs)) return false;
     KeywordSheet::addLinksFromBag(*rs, f_.controls().smtKeywords, f_.fields().record().KeywordList,
                                   f_.controls().spellTask.text(), guid);

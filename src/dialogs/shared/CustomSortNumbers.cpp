@@ -3,6 +3,7 @@
 #include <limits>
 
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "store/clsStatusList.h"
 #include "toolkit/Failure.h"
@@ -12,7 +13,7 @@ namespace qv {
 namespace {
 
 template <bool ByKey, class Source>
-int32_t countRows(Source& source, const std::string& query) {
+int32_t countRows(Source& source, const Query& query) {
     RecordsetPtr rs;
     source.SetSQL(query);
     bool opened = false;
@@ -26,7 +27,7 @@ int32_t countRows(Source& source, const std::string& query) {
 
 }  // namespace
 
-int32_t CustomSortNumbers::countPlusOne(const std::string& query) const {
+int32_t CustomSortNumbers::countPlusOne(const Query& query) const {
     int32_t count = 0;
     if (counter_ == Counter::StatusList) {
         clsStatusList list;
@@ -40,18 +41,18 @@ int32_t CustomSortNumbers::countPlusOne(const std::string& query) const {
 }
 
 int32_t CustomSortNumbers::utilCustSortQV() {
-    if (qv_ < 1) qv_ = countPlusOne("SELECT tskGUIDID from TASKS");
+    if (qv_ < 1) qv_ = countPlusOne(queries::allTaskKeys());
     return qv_;
 }
 
 int32_t CustomSortNumbers::utilCustCur() {
-    if (cur_ < 1) cur_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskCURRENT=TRUE");
+    if (cur_ < 1) cur_ = countPlusOne(queries::currentTaskKeys());
     return cur_;
 }
 
 int32_t CustomSortNumbers::utilCustProj(const std::string& projectKey) {
     if (proj_ < 1)
-        proj_ = countPlusOne("SELECT tskGUIDID from TASKS WHERE tskProjectKey = " + sqlLiteral(projectKey, '"'));
+        proj_ = countPlusOne(queries::taskKeysOfProject(projectKey));
     return proj_;
 }
 

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "store/Query.h"
+
 namespace qv {
 
 class CustomSortNumbers {
@@ -28,7 +30,7 @@ public:
     void setUtilCustProj(int32_t n) { proj_ = n; }
 
 private:
-    [[nodiscard]] int32_t countPlusOne(const std::string& query) const;
+    [[nodiscard]] int32_t countPlusOne(const Query& query) const;
 
     Counter counter_;
     int32_t qv_ = 0;

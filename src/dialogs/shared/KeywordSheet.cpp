@@ -1,6 +1,7 @@
 #include "dialogs/shared/KeywordSheet.h"
 
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsKeywords.h"
 #include "toolkit/Sheet.h"
 #include "values/TextCase.h"
@@ -8,14 +9,12 @@
 namespace qv {
 
 namespace {
-const char* const kKeywordsQuery = "SELECT * from KEYWORDS ORDER BY keySubject, keyKeyword";
-const char* const kLinksQuery = "SELECT * from TaskKeywords WHERE ktTASKGUID= ";
 }  // namespace
 
 bool KeywordSheet::build(Sheet& sheet) {
     clsKeywords keywords;
     RecordsetPtr rs;
-    keywords.SetSQL(kKeywordsQuery);
+    keywords.SetSQL(queries::keywordsBySubject());
     if (!keywords.GetData(rs)) return false;
     sheet.removeAll();
     // A field reads the current row: found by name once, not once per row.
@@ -77,7 +76,7 @@ bool KeywordSheet::isKeyword(const Tool& tool) {
 bool KeywordSheet::tickFromLinks(Sheet& sheet, const std::string& taskGUID) {
     clsKeywords keywords;
     RecordsetPtr rs;
-    keywords.SetSQL(kLinksQuery + sqlLiteral(taskGUID));
+    keywords.SetSQL(queries::keywordLinksOfTask(taskGUID));
     if (!keywords.GetData(rs)) return false;
     std::unordered_set<std::string> linked;
     for (; !rs->EOF_(); rs->MoveNext()) linked.insert(rs->Fields("ktKEYGUID").value().toText());

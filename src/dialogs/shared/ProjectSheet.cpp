@@ -2,6 +2,7 @@
 
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
+#include "store/StoreQueries.h"
 #include "store/clsVLProjectsList.h"
 #include "toolkit/Sheet.h"
 #include "values/TaskUtil.h"
@@ -10,11 +11,10 @@ namespace qv {
 
 namespace {
 
-const char* const kProjectsQuery = "SELECT prjGUIDID, prjProject from PROJECTS ORDER BY prjProject";
 
 RecordsetPtr openProjects(clsVLProjectsList& list) {
     RecordsetPtr rs;
-    list.SetSQL(kProjectsQuery);
+    list.SetSQL(queries::projectList());
     if (!list.GetData(rs)) return nullptr;
     return rs;
 }
