@@ -11,6 +11,7 @@
 #include "installer/ServerStore.h"
 #include "installer/StoreFile.h"
 #include "installer/HelpPages.h"
+#include "script/DraftCommands.h"
 #include "script/FormChecks.h"
 #include "script/GridCommands.h"
 #include "installer/StoreInstaller.h"
@@ -182,6 +183,7 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"drag", &ScriptRunner::cmdDrag},     {"clock", &ScriptRunner::cmdClock},
         {"settings-file", &ScriptRunner::cmdSettingsFile}};
     if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
+    if (DraftCommands::handles(lower(line.word(0)))) return DraftCommands::run(line, out_);
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);

@@ -17,6 +17,8 @@
 
 namespace qv {
 
+class DraftKeeper;
+
 class AppointmentLoader;
 class AppointmentSaver;
 class AppointmentTimes;
@@ -81,6 +83,7 @@ protected:
 
 private:
     void registerControls();
+    void keepDrafts();
     void wireControls();
     void wireSheets();
     template <class F>
@@ -96,6 +99,7 @@ private:
     std::shared_ptr<TaskPrinter> printer_;
     std::string loadedChecklistKey_;
     bool geometrySaved_ = false;
+    std::unique_ptr<DraftKeeper> drafts_;
 };
 
 }  // namespace qv
