@@ -49,11 +49,19 @@ run_fault() {  # folder round: three faults in turn
     0) breaks='sql "ALTER TABLE TASKS RENAME TO TASKS_AWAY"'; mends='sql "ALTER TABLE TASKS_AWAY RENAME TO TASKS"';;
     1) breaks='sql "CREATE TRIGGER refuse BEFORE UPDATE ON TASKS BEGIN SELECT RAISE(ABORT, '"'refused'"'); END"'
        mends='sql "DROP TRIGGER refuse"';;
-    2) breaks='type smtTimes.TIMESPENT "1D 1:00"'; mends='';;
+    2) breaks='answer ok
+type smtTimes.TIMESPENT "1D 1:00"'; mends='';;
   esac
   { typing "$1" "$2"; echo "$breaks"; echo "click smtActions.UPDATE"; echo "expect event GotErrExitNow"; echo "$mends"; } \
     | "$bin" - >"$work/fault.log" 2>&1
   grep -q "^fault " "$work/fault.log" || echo "  round $2: no fault taken" >&2
+  # The unreadable time fails again when it is replayed: that open restores
+  # the texts, drops the time from the draft and ends on the fault.
+  if [ $(( $2 % 3 )) -eq 2 ]; then
+    printf '%s\n' "home \"$1\"" "answer yes" "answer ok" "setup 1 task=$task" \
+      "expect message \"This task has changes from 1/15/2024 09:00 that were not saved. Restore them?\"" \
+      "expect event GotErrExitNow" | "$bin" - >"$work/replay.log" 2>&1 || cat "$work/replay.log" >&2
+  fi
 }
 run_disk() {  # folder round: the store's disk fills while the dialog is open
   { typing "$1" "$2"; echo "sleep 2000"; echo "click smtActions.UPDATE"; echo "expect event GotErrExitNow"; } \

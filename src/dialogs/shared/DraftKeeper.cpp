@@ -192,6 +192,7 @@ void DraftKeeper::closed() {
 
 DraftKeeper::Values DraftKeeper::snapshot() const {
     Values v;
+    for (TextEditor* e : inputs_.editors) v.emplace_back(kEditor + e->name(), e->text());
     for (Sheet* s : inputs_.picks)
         for (const auto& t : s->tools())
             if (isPick(*t) && !t->key().empty()) v.emplace_back(kPick + s->name() + "." + t->key(), t->checked() ? "1" : "0");
@@ -199,7 +200,6 @@ DraftKeeper::Values DraftKeeper::snapshot() const {
         for (const auto& key : group.keys)
             if (const Tool* t = group.sheet->find(key)) v.emplace_back(kText + group.sheet->name() + "." + key, t->text());
     for (DateBox* d : inputs_.dates) v.emplace_back(kDate + d->name(), serialText(d->value()));
-    for (TextEditor* e : inputs_.editors) v.emplace_back(kEditor + e->name(), e->text());
     return v;
 }
 
@@ -246,16 +246,27 @@ std::string DraftKeeper::when(double serial) const {
 }
 
 // Twice over: a handler of one field may reset another (a status that
-// clears the date done).
+// clears the date done). A change whose replay takes the error path (a
+// text the dialog's checker fails on) is left out of the draft kept, so
+// the next open restores the rest instead of failing again.
 void DraftKeeper::restore(const Draft& draft) {
     restoring_ = true;
     struct Done {
         DraftKeeper& k;
         ~Done() { k.restoring_ = false; }
     } done{*this};
-    for (int pass = 0; pass < 2; ++pass)
-        for (const auto& c : draft.changes)
-            if (armed_ && valueOf(c.field) != c.typed) apply(c);
+    for (int pass = 0; pass < 2; ++pass) {
+        for (std::size_t i = 0; i < draft.changes.size(); ++i) {
+            const auto& c = draft.changes[i];
+            if (!armed_ || valueOf(c.field) == c.typed) continue;
+            apply(c);
+            if (!errorPathTaken()) continue;
+            Draft rest = draft;
+            rest.changes.erase(rest.changes.begin() + static_cast<std::ptrdiff_t>(i));
+            rest.changes.empty() ? DraftFile::remove(draft.key) : (void)DraftFile::write(rest);
+            return;
+        }
+    }
 }
 
 std::string DraftKeeper::valueOf(const std::string& field) const {

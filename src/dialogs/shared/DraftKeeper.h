@@ -26,7 +26,7 @@ class DateBox;
 class Tool;
 
 // What of a dialog is the user's input. Restoring follows this order:
-// picks, texts, dates, editors.
+// editors, picks, texts, dates.
 struct DraftInputs {
     struct Texts {
         Sheet* sheet;
