@@ -33,7 +33,7 @@ offered_back() {  # folder round: 0 when the typing comes back and is saved
     "click smtActions.UPDATE" "expect event TaskUpdated" \
     "expect row \"SELECT tskDesc FROM TASKS\" \"Typed in round $2\"" \
     "expect row \"SELECT tskNotes FROM TASKS\" \"Notes of round $2\\nsecond line\"" \
-    "draft 1 $task none" | "$bin" - >"$work/check.log" 2>&1
+    "expect draft 1 $task none" | "$bin" - >"$work/check.log" 2>&1
 }
 
 run_kill() {  # folder round

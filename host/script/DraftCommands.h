@@ -1,25 +1,26 @@
 #pragma once
 // The scenario commands about drafts, and a real wait.
 //
-//   draft where                 prints the folder where drafts are kept
-//   draft MODE [KEY] kept|none  a draft of that dialog mode and task key is
-//                               kept (or not) for the session's store
-//   sleep MS                    waits MS milliseconds of real time (a
-//                               process another one kills meanwhile)
+//   draft where                        prints the folder where drafts are kept
+//   sleep MS                           waits MS milliseconds of real time (a
+//                                      process another one kills meanwhile)
+//   expect draft MODE [KEY] kept|none  a draft of that dialog mode and task
+//                                      key is kept (or not) for the session's store
 
-#include <ostream>
 #include <string>
+
+#include "script/ScriptCommands.h"
 
 namespace qv {
 
-struct ScriptLine;
-
 class DraftCommands {
 public:
-    [[nodiscard]] static bool handles(const std::string& command);
-    // Throws std::invalid_argument for a bad line, std::runtime_error for
-    // an expectation that does not hold.
-    static void run(const ScriptLine& line, std::ostream& out);
+    static void addTo(ScriptCommands& table);
+
+private:
+    static void where(ScriptContext& c, const ScriptLine& line);
+    static void sleep(ScriptContext& c, const ScriptLine& line);
+    [[nodiscard]] static std::string check(ScriptContext& c, const ScriptLine& line);
 };
 
 }  // namespace qv

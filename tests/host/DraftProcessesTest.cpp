@@ -103,7 +103,7 @@ TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
                                  "expect editor SpellNotes " + quoted(notes), "click smtActions.UPDATE",
                                  "expect event TaskUpdated", "expect row \"SELECT tskDesc FROM TASKS\" " + quoted(desc),
                                  "expect row \"SELECT tskNotes FROM TASKS\" " + quoted(notes),
-                                 std::string("draft 1 ") + kTask + " none"});
+                                 std::string("expect draft 1 ") + kTask + " none"});
         }
         EXPECT_EQ(failed, 0) << "run " << run << "\n" << out.str();
         if (failed == 0) ++restored;
