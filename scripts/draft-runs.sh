@@ -5,22 +5,25 @@
 #   fault  the save meets a store that fails (a table gone, a trigger that
 #          refuses the row) or a Time Spent the dialog can't read ("1D 1:00"):
 #          the error path closes the dialog;
-#   disk   (as root) the store's disk is full at the save (a small tmpfs).
+#   disk   (as root) the store's disk is full at the save (a small tmpfs);
+#   server the store is a throw-away PostgreSQL server, stopped while the
+#          dialog is open (scripts/pg-server.sh).
 # Each round then opens the task again and counts it when the typing is
 # offered, Yes fills it in, the save stores it and no draft is left.
-# Usage: scripts/draft-runs.sh [N] [KIND...]   (KIND: kill fault disk)
+# Usage: scripts/draft-runs.sh [N] [KIND...]   (KIND: kill fault disk server)
 set -uo pipefail
 cd "$(dirname "$0")/.."
 bin=${QV_SCRIPT:-build/release/host/quorvel-script}
 n=${1:-10}; shift || true
 kinds=${*:-kill fault disk}
 work=$(mktemp -d /tmp/quorvel-draft-runs-XXXXXX)
+chmod 755 "$work"  # the server runs as another user
 export XDG_STATE_HOME=$work/state
 task=T0000000-0000-0000-0000-000000000001
-trap 'mountpoint -q "$work/disk" && umount "$work/disk"; rm -rf "$work"' EXIT
+trap 'mountpoint -q "$work/disk" && umount "$work/disk"; [ -d "$work/pg" ] && scripts/pg-server.sh stop "$work/pg"; rm -rf "$work"' EXIT
 
 seed() {  # folder: a store with one task
-  printf 'home "%s"\nsql "INSERT INTO TASKS (tskGUIDID, tskDesc, tskNotes, tskProject, tskProjectKey, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent) VALUES (%s, %s, %s, %s, %s, 1, 2, 1, 90, 0, 0, 0)"\n' \
+  printf 'home "%s"\nsql "DELETE FROM TASKS"\nsql "INSERT INTO TASKS (tskGUIDID, tskDesc, tskNotes, tskProject, tskProjectKey, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent) VALUES (%s, %s, %s, %s, %s, 1, 2, 1, 90, 0, 0, 0)"\n' \
     "$1" "'$task'" "'Stored text'" "'Stored notes'" "''" "'NOPROJECT'" | "$bin" - >/dev/null
 }
 typing() {  # folder round: open the task and type
@@ -75,6 +78,24 @@ run_disk() {  # folder round: the store's disk fills while the dialog is open
   rm -f "$work/disk/filler"
 }
 
+pg_bin=$(ls -d /usr/lib/postgresql/*/bin 2>/dev/null | sort -V | tail -1)
+as_pg() { if [ "$(id -u)" -eq 0 ]; then runuser -u postgres -- "$@"; else "$@"; fi; }
+server_up() {
+  as_pg "$pg_bin/pg_ctl" -D "$work/pg/data" -l "$work/pg/server.log" -w -t 30 \
+    -o "-k $work/pg -c listen_addresses= -c fsync=off" start >/dev/null
+}
+run_server() {  # folder round: the server stops while the dialog is open
+  { typing "$1" "$2"; echo "sleep 2000"; echo "click smtActions.UPDATE"; echo "expect event GotErrExitNow"; } \
+    >"$work/server.qvs"
+  "$bin" "$work/server.qvs" >"$work/server.log" 2>&1 &
+  local pid=$!
+  for _ in $(seq 200); do ls "$XDG_STATE_HOME"/quorvel/drafts/1-*.draft >/dev/null 2>&1 && break; sleep 0.05; done
+  as_pg "$pg_bin/pg_ctl" -D "$work/pg/data" -m immediate -w -t 30 stop >/dev/null 2>&1
+  wait "$pid"
+  grep -q "^fault " "$work/server.log" || echo "  round $2: the stopped server took no error path" >&2
+  server_up
+}
+
 for kind in $kinds; do
   ok=0
   for round in $(seq 1 "$n"); do
@@ -84,12 +105,20 @@ for kind in $kinds; do
       if [ "$(id -u)" -ne 0 ]; then echo "disk: skipped (a tmpfs needs root)"; continue 2; fi
       mkdir -p "$work/disk"; mountpoint -q "$work/disk" || mount -t tmpfs -o size=8m tmpfs "$work/disk"
       folder=$work/disk/$round
+    elif [ "$kind" = server ]; then
+      if [ ! -d "$work/pg" ]; then
+        uri=$(scripts/pg-server.sh start "$work/pg") || { echo "server: skipped (no PostgreSQL)"; continue 2; }
+        QT_QPA_PLATFORM=offscreen "${QV_HOST:-build/release/host/quorvel}" --home "$work/server-home" \
+          --install-store --store "$uri" >/dev/null
+      fi
+      folder=$work/server-home
     fi
     seed "$folder"
     case $kind in
       kill) run_kill "$folder" "$round";;
       fault) run_fault "$folder" "$round";;
       disk) run_disk "$folder" "$round";;
+      server) run_server "$folder" "$round";;
     esac
     if offered_back "$folder" "$round"; then ok=$((ok + 1)); else echo "  $kind round $round:" >&2; cat "$work/check.log" >&2; fi
   done
