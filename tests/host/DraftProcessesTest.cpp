@@ -22,6 +22,7 @@
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
+#include "support/RunCount.h"
 #include "store/Connection.h"
 
 namespace qv {
@@ -30,12 +31,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kTask = "T0000000-0000-0000-0000-000000000001";
-
-int runsWanted() {
-    const char* env = std::getenv("QV_DRAFT_RUNS");
-    const int n = env ? std::atoi(env) : 0;
-    return n > 0 ? n : 3;
-}
 
 std::string freshFolder() {
     auto pattern = (fs::temp_directory_path() / "quorvel-draft-XXXXXX").string();
@@ -71,7 +66,7 @@ std::string quoted(const std::string& text) {
 
 TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
     if (std::getenv("QV_STORE_URI")) GTEST_SKIP() << "one process's store file";
-    const int runs = runsWanted();
+    const int runs = runCount("QV_DRAFT_RUNS", 3);
     const char* before = std::getenv("XDG_STATE_HOME");
     const std::string stateBefore = before ? before : "";
     int restored = 0;
