@@ -22,8 +22,8 @@
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
-#include "support/RunCount.h"
 #include "store/Connection.h"
+#include "support/RunCount.h"
 
 namespace qv {
 namespace {
@@ -37,8 +37,10 @@ std::string freshFolder() {
     if (!mkdtemp(pattern.data())) throw std::runtime_error("cannot make a temporary folder");
     installApplicationFolder(pattern);
     StoreFile(pattern + "/QuorvelData.mdb")
-        .exec(std::string("INSERT INTO TASKS (tskGUIDID, tskDesc, tskNotes, tskProject, tskProjectKey, tskStatus, "
-                          "tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent) VALUES ('") +
+        .exec(std::string(
+                  "INSERT INTO TASKS (tskGUIDID, tskDesc, tskNotes, tskProject, tskProjectKey, tskStatus, "
+                  "tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, tskTimeScheduled, tskCurrent) VALUES "
+                  "('") +
               kTask + "', 'Stored text', 'Stored notes', '', 'NOPROJECT', 1, 2, 1, 90, 0, 0, 0)");
     return pattern;
 }
@@ -51,9 +53,12 @@ std::string quoted(const std::string& text) {
 
 // The child: types, lets the draft be written, then idles until killed.
 [[noreturn]] void typeAndIdle(const std::string& folder, const std::string& desc, const std::string& notes) {
-    const std::vector<std::string> lines{"home \"" + folder + "\"", std::string("setup 1 task=") + kTask,
-                                         "type spellTask " + quoted(desc), "type SpellNotes " + quoted(notes),
-                                         "advance 1000", "sleep 60000"};
+    const std::vector<std::string> lines{"home \"" + folder + "\"",
+                                         std::string("setup 1 task=") + kTask,
+                                         "type spellTask " + quoted(desc),
+                                         "type SpellNotes " + quoted(notes),
+                                         "advance 1000",
+                                         "sleep 60000"};
     try {
         std::ostringstream out;
         ScriptRunner runner(out);
@@ -80,7 +85,8 @@ TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) typeAndIdle(folder, desc, notes);
-        for (int i = 0; i < 200 && !fs::exists(draft); ++i) std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        for (int i = 0; i < 200 && !fs::exists(draft); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
         EXPECT_TRUE(fs::exists(draft)) << "run " << run;
         ::kill(child, SIGKILL);
         int status = 0;
@@ -91,20 +97,23 @@ TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
         int failed = 0;
         {
             ScriptRunner runner(out);
-            failed = runner.run({"home \"" + folder + "\"", "answer yes", std::string("setup 1 task=") + kTask,
-                                 "expect message \"This task has changes from 1/15/2024 09:00 that were not saved. "
-                                 "Restore them?\"",
-                                 "expect editor spellTask " + quoted(desc),
-                                 "expect editor SpellNotes " + quoted(notes), "click smtActions.UPDATE",
-                                 "expect event TaskUpdated", "expect row \"SELECT tskDesc FROM TASKS\" " + quoted(desc),
-                                 "expect row \"SELECT tskNotes FROM TASKS\" " + quoted(notes),
-                                 std::string("expect draft 1 ") + kTask + " none"});
+            failed = runner.run(
+                {"home \"" + folder + "\"", "answer yes", std::string("setup 1 task=") + kTask,
+                 "expect message \"This task has changes from 1/15/2024 09:00 that were not saved. "
+                 "Restore them?\"",
+                 "expect editor spellTask " + quoted(desc), "expect editor SpellNotes " + quoted(notes),
+                 "click smtActions.UPDATE", "expect event TaskUpdated",
+                 "expect row \"SELECT tskDesc FROM TASKS\" " + quoted(desc),
+                 "expect row \"SELECT tskNotes FROM TASKS\" " + quoted(notes),
+                 std::string("expect draft 1 ") + kTask + " none"});
         }
         EXPECT_EQ(failed, 0) << "run " << run << "\n" << out.str();
         if (failed == 0) ++restored;
         Connection::releaseAll();
-        if (before) ::setenv("XDG_STATE_HOME", stateBefore.c_str(), 1);
-        else ::unsetenv("XDG_STATE_HOME");
+        if (before)
+            ::setenv("XDG_STATE_HOME", stateBefore.c_str(), 1);
+        else
+            ::unsetenv("XDG_STATE_HOME");
         std::error_code ec;
         fs::remove_all(folder, ec);
     }

@@ -25,8 +25,8 @@
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
-#include "support/RunCount.h"
 #include "store/Connection.h"
+#include "support/RunCount.h"
 
 namespace qv {
 namespace {

@@ -35,7 +35,9 @@ std::string hex16(uint64_t v) {
 }
 
 // The store is named by a digest: a server's address stays out of the file.
-std::string storeDigest(const std::string& store) { return hex16(fnv1a(store)); }
+std::string storeDigest(const std::string& store) {
+    return hex16(fnv1a(store));
+}
 
 // Every byte that could split a line or a word is written %XX.
 std::string escaped(const std::string& text) {
@@ -78,7 +80,9 @@ std::optional<std::string> unescaped(const std::string& word) {
 }
 
 // A text as one word: "=" and its escaped bytes, so that an empty text is a word too.
-std::string word(const std::string& text) { return "=" + escaped(text); }
+std::string word(const std::string& text) {
+    return "=" + escaped(text);
+}
 
 std::optional<std::string> textOf(const std::string& w) {
     if (w.empty() || w[0] != '=') return std::nullopt;

@@ -26,7 +26,9 @@ constexpr const char* kText = "text:";
 constexpr const char* kDate = "date:";
 constexpr const char* kEditor = "editor:";
 
-bool startsWith(const std::string& s, const char* prefix) { return s.rfind(prefix, 0) == 0; }
+bool startsWith(const std::string& s, const char* prefix) {
+    return s.rfind(prefix, 0) == 0;
+}
 
 std::string serialText(double v) {
     char buf[32];
@@ -34,7 +36,9 @@ std::string serialText(double v) {
     return std::string(buf, r.ptr);
 }
 
-bool isPick(const Tool& t) { return t.type() == ttCheck || t.type() == ttOption; }
+bool isPick(const Tool& t) {
+    return t.type() == ttCheck || t.type() == ttOption;
+}
 
 // The store as the session found it: a file by its absolute path, a server by its address.
 std::string storeIdentity() {
@@ -103,11 +107,13 @@ void DraftKeeper::watch() {
 }
 
 bool DraftKeeper::isInput(const Sheet& sheet, const Tool& tool) const {
-    if (isPick(tool) && !tool.parent() && std::find(inputs_.picks.begin(), inputs_.picks.end(), &sheet) != inputs_.picks.end())
+    if (isPick(tool) && !tool.parent() &&
+        std::find(inputs_.picks.begin(), inputs_.picks.end(), &sheet) != inputs_.picks.end())
         return true;
     const Tool& named = tool.parent() ? *tool.parent() : tool;
     for (const auto& group : inputs_.texts)
-        if (group.sheet == &sheet && std::find(group.keys.begin(), group.keys.end(), named.key()) != group.keys.end())
+        if (group.sheet == &sheet &&
+            std::find(group.keys.begin(), group.keys.end(), named.key()) != group.keys.end())
             return true;
     return false;
 }
@@ -116,7 +122,9 @@ void DraftKeeper::offerWhenShown(std::function<std::pair<int32_t, std::string>()
     offerOnShow_ = std::move(taskKey);
 }
 
-DraftKey DraftKeeper::keyOf(int32_t mode, const std::string& taskKey) { return {storeIdentity(), mode, taskKey}; }
+DraftKey DraftKeeper::keyOf(int32_t mode, const std::string& taskKey) {
+    return {storeIdentity(), mode, taskKey};
+}
 
 void DraftKeeper::offerStoredRowWhenShown() {
     offerWhenShown([] { return std::pair<int32_t, std::string>(g().TaskMode, g().CurrentTaskGUID); });
@@ -195,10 +203,12 @@ DraftKeeper::Values DraftKeeper::snapshot() const {
     for (TextEditor* e : inputs_.editors) v.emplace_back(kEditor + e->name(), e->text());
     for (Sheet* s : inputs_.picks)
         for (const auto& t : s->tools())
-            if (isPick(*t) && !t->key().empty()) v.emplace_back(kPick + s->name() + "." + t->key(), t->checked() ? "1" : "0");
+            if (isPick(*t) && !t->key().empty())
+                v.emplace_back(kPick + s->name() + "." + t->key(), t->checked() ? "1" : "0");
     for (const auto& group : inputs_.texts)
         for (const auto& key : group.keys)
-            if (const Tool* t = group.sheet->find(key)) v.emplace_back(kText + group.sheet->name() + "." + key, t->text());
+            if (const Tool* t = group.sheet->find(key))
+                v.emplace_back(kText + group.sheet->name() + "." + key, t->text());
     for (DateBox* d : inputs_.dates) v.emplace_back(kDate + d->name(), serialText(d->value()));
     return v;
 }
@@ -317,7 +327,8 @@ void DraftKeeper::apply(const DraftChange& c) {
         return;
     }
     if (!startsWith(c.field, kEditor)) return;
-    if (TextEditor* e = form_.editor(c.field.substr(std::char_traits<char>::length(kEditor)))) e->userEdit(c.typed);
+    if (TextEditor* e = form_.editor(c.field.substr(std::char_traits<char>::length(kEditor))))
+        e->userEdit(c.typed);
 }
 
 }  // namespace qv

@@ -2,10 +2,9 @@
 // and task has its own file, and a file that does not read back whole is
 // ignored and removed.
 
-#include "dialogs/shared/DraftFile.h"
-
 #include <filesystem>
 
+#include "dialogs/shared/DraftFile.h"
 #include "support/TestEnv.h"
 
 namespace qv {
@@ -20,10 +19,12 @@ protected:
 
 TEST_F(DraftFileTest, TextsComeBackByteForByteAndTheFileIsTheUsersOwn) {
     const std::string hostile = std::string("line one\nline two\r\n\t%41 100% ") + '\0' + "\x7f\xff\xfe end";
-    const Draft draft{key, 46350.8125, {{"editor:spellTask", "Paint the fence", hostile},
-                                        {"text:smtABOUT.DEADTIME", "", "12:00"},
-                                        {"pick:smtKeywords.K 1", "0", "1"},
-                                        {"editor:SpellNotes", hostile, ""}}};
+    const Draft draft{key,
+                      46350.8125,
+                      {{"editor:spellTask", "Paint the fence", hostile},
+                       {"text:smtABOUT.DEADTIME", "", "12:00"},
+                       {"pick:smtKeywords.K 1", "0", "1"},
+                       {"editor:SpellNotes", hostile, ""}}};
     ASSERT_TRUE(DraftFile::write(draft));
     const auto back = DraftFile::read(key);
     ASSERT_TRUE(back.has_value());
@@ -61,15 +62,43 @@ TEST_F(DraftFileTest, ADamagedFileIsIgnoredAndRemoved) {
     const std::string damaged[] = {
         "",
         std::string(3000, '\x5a'),
-        good.substr(0, good.size() - 7),              // cut short: no end
-        good + "change =x =y =z\n",                   // more after the end
-        [&] { auto t = good; t.replace(t.find("end 1"), 5, "end 2"); return t; }(),
-        [&] { auto t = good; t.replace(t.find("=b%20c"), 6, "=b%2"); return t; }(),  // a broken escape
-        [&] { auto t = good; t.replace(t.find("=b%20c"), 6, "b%20c"); return t; }(),  // no marker
-        [&] { auto t = good; t.replace(t.find("saved 2.5"), 9, "saved x"); return t; }(),
-        [&] { auto t = good; t.replace(0, 15, "quorvel-draft 9"); return t; }(),
-        [&] { auto t = good; t.replace(t.find("mode 1"), 6, "mode 5"); return t; }(),
-        [&] { auto t = good; t.replace(t.find("=editor:spellTask"), 17, "="); return t; }(),  // no field
+        good.substr(0, good.size() - 7),  // cut short: no end
+        good + "change =x =y =z\n",       // more after the end
+        [&] {
+            auto t = good;
+            t.replace(t.find("end 1"), 5, "end 2");
+            return t;
+        }(),
+        [&] {
+            auto t = good;
+            t.replace(t.find("=b%20c"), 6, "=b%2");
+            return t;
+        }(),  // a broken escape
+        [&] {
+            auto t = good;
+            t.replace(t.find("=b%20c"), 6, "b%20c");
+            return t;
+        }(),  // no marker
+        [&] {
+            auto t = good;
+            t.replace(t.find("saved 2.5"), 9, "saved x");
+            return t;
+        }(),
+        [&] {
+            auto t = good;
+            t.replace(0, 15, "quorvel-draft 9");
+            return t;
+        }(),
+        [&] {
+            auto t = good;
+            t.replace(t.find("mode 1"), 6, "mode 5");
+            return t;
+        }(),
+        [&] {
+            auto t = good;
+            t.replace(t.find("=editor:spellTask"), 17, "=");
+            return t;
+        }(),  // no field
     };
     for (const auto& text : damaged) {
         SCOPED_TRACE(text);

@@ -20,10 +20,14 @@ namespace fs = std::filesystem;
 constexpr const char* kSlot = "22222222-0000-0000-0000-000000000001";
 constexpr const char* kDesc = "Paint the fence and the gate";
 constexpr const char* kNotes = "Dark green,\ntwo coats";
-constexpr const char* kNewDesc = "SELECT tskDesc FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kNewNotes = "SELECT tskNotes FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kTaskDesc = "SELECT tskDesc FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kTaskNotes = "SELECT tskNotes FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
+constexpr const char* kNewDesc =
+    "SELECT tskDesc FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
+constexpr const char* kNewNotes =
+    "SELECT tskNotes FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
+constexpr const char* kTaskDesc =
+    "SELECT tskDesc FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
+constexpr const char* kTaskNotes =
+    "SELECT tskNotes FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
 
 class DraftsTest : public ExistingTaskFixture {
 protected:
@@ -47,10 +51,12 @@ protected:
         task_.setTempErrReport(std::shared_ptr<Reporter>(&reporter(), [](Reporter*) {}));
         seed();
         addTask();
-        exec("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, taEndTime, "
-             "taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked, taDuration) VALUES ('" + std::string(kSlot) +
-             "', '" + kTask + "', 'Alpha', '" + kAlpha +
-             "', '2026-11-24T09:00:00.000', '2026-11-24T10:30:00.000', 'Paint the fence', 2, 3, 0, 0, 90)");
+        exec(
+            "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, "
+            "taEndTime, "
+            "taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked, taDuration) VALUES ('" +
+            std::string(kSlot) + "', '" + kTask + "', 'Alpha', '" + kAlpha +
+            "', '2026-11-24T09:00:00.000', '2026-11-24T10:30:00.000', 'Paint the fence', 2, 3, 0, 0, 90)");
     }
 
     static std::vector<Dialog> dialogs() {
@@ -74,8 +80,11 @@ protected:
             {"Existing Task", 1, kTask, "TASKS", "UPDATE", kTaskDesc, kTaskNotes,
              [](DraftsTest& t) { t.openTask(); }, [](DraftsTest&) {},
              [](DraftsTest& t) { t.click("smtActions", "UPDATE"); }, escape(false)},
-            {"Task Appointment", 2, kSlot, "TASKAPPTS", "UPDATE", "SELECT taTaskDesc FROM TASKAPPTS", kTaskNotes,
-             [](DraftsTest& t) { t.task_.SetupTask(2, kSlot, {"u0", "u1", "u2", "u3", "u4", "u5"}, 1, "", kSlot); },
+            {"Task Appointment", 2, kSlot, "TASKAPPTS", "UPDATE", "SELECT taTaskDesc FROM TASKAPPTS",
+             kTaskNotes,
+             [](DraftsTest& t) {
+                 t.task_.SetupTask(2, kSlot, {"u0", "u1", "u2", "u3", "u4", "u5"}, 1, "", kSlot);
+             },
              [](DraftsTest&) {}, [](DraftsTest& t) { t.key(vbKeyReturn); },
              [](DraftsTest& t, bool) { t.key(vbKeyEscape); }},
         };
@@ -94,8 +103,12 @@ protected:
             shown().editor("SpellNotes")->userEdit(kNotes);
         });
     }
-    void pause() { then([this] { fakeClock().advance(DraftKeeper::kDelayMs); }); }
-    std::string draftPath(const Dialog& d) const { return DraftFile::pathFor(DraftKeeper::keyOf(d.mode, d.key)); }
+    void pause() {
+        then([this] { fakeClock().advance(DraftKeeper::kDelayMs); });
+    }
+    std::string draftPath(const Dialog& d) const {
+        return DraftFile::pathFor(DraftKeeper::keyOf(d.mode, d.key));
+    }
     bool kept(const Dialog& d) const { return fs::exists(draftPath(d)); }
 
     void allowWrites(const std::string& table) const {
@@ -146,7 +159,8 @@ TEST_F(DraftsTest, KeptThroughAFaultOfferedOnceAndSavedByYes) {
         const auto& q = scriptedUi().messages()[asked];
         EXPECT_EQ(q.title, kProgramTitle);
         EXPECT_EQ(q.style, vbYesNo + vbQuestion);
-        EXPECT_NE(q.text.find(" has changes from 1/15/2024 09:00 that were not saved."), std::string::npos) << q.text;
+        EXPECT_NE(q.text.find(" has changes from 1/15/2024 09:00 that were not saved."), std::string::npos)
+            << q.text;
         EXPECT_EQ(readOne(d.savedDesc), kDesc);
         EXPECT_EQ(readOne(d.savedNotes), kNotes);
         EXPECT_FALSE(kept(d)) << "the save landed";
@@ -198,17 +212,22 @@ TEST_F(DraftsTest, ACloseWithoutSavingOrASaveLeavesNoDraft) {
 TEST_F(DraftsTest, OfferedOnlyForItsOwnTaskAndOnlyWhereItChangesSomething) {
     const Dialog d = dialogs()[1];
     typeThenFault(d);
-    exec("INSERT INTO TASKS (tskGUIDID, tskDesc, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, "
-         "tskProject, tskProjectKey) VALUES ('99999999-0000-0000-0000-000000000008', 'Other', 1, 2, 3, 30, 0, "
-         "'Alpha', '" + std::string(kAlpha) + "')");
+    exec(
+        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, "
+        "tskTimeSpent, "
+        "tskProject, tskProjectKey) VALUES ('99999999-0000-0000-0000-000000000008', 'Other', 1, 2, 3, 30, 0, "
+        "'Alpha', '" +
+        std::string(kAlpha) + "')");
     key(vbKeyEscape);
     openTask(1, "99999999-0000-0000-0000-000000000008");
     EXPECT_EQ(questionsAsked(), 0u);
     EXPECT_TRUE(kept(d));
 
     // The texts were stored meanwhile (a save whose draft a kill kept).
-    const std::string notes = onServerStore() ? "E'Dark green,\\ntwo coats'" : "'Dark green,' || char(10) || 'two coats'";
-    exec(std::string("UPDATE TASKS SET tskDesc='") + kDesc + "', tskNotes=" + notes + " WHERE tskGUIDID='" + kTask + "'");
+    const std::string notes =
+        onServerStore() ? "E'Dark green,\\ntwo coats'" : "'Dark green,' || char(10) || 'two coats'";
+    exec(std::string("UPDATE TASKS SET tskDesc='") + kDesc + "', tskNotes=" + notes + " WHERE tskGUIDID='" +
+         kTask + "'");
     d.leave(*this, false);
     d.open(*this);
     EXPECT_EQ(questionsAsked(), 0u);
