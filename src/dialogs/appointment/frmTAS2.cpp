@@ -41,8 +41,10 @@ frmTAS2::frmTAS2()
     g().SettingUp = true;
     c_.smtTimes.tool("DATE").setHostedControl("ctTADate");
     registerControls();
-    wireControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
     keepDrafts();
+    wireControls();
 }
 
 frmTAS2::~frmTAS2() = default;

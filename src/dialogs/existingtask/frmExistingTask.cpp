@@ -64,8 +64,10 @@ frmExistingTask::frmExistingTask()
     g().SettingUp = true;
     c_.smtABOUT.tool("DEADLINE").setHostedControl("ctDeadline");
     registerControls();
-    wireControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
     keepDrafts();
+    wireControls();
 }
 
 frmExistingTask::~frmExistingTask() = default;

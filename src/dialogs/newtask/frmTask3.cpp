@@ -51,8 +51,10 @@ frmTask3::frmTask3()
                                                kModule)) {
     c_.smtOther.tool("DEADDATE").setHostedControl("ctDeadline");
     registerControls();
-    wireControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
     keepDrafts();
+    wireControls();
 }
 
 frmTask3::~frmTask3() = default;
