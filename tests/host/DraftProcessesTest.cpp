@@ -19,6 +19,7 @@
 #include <vector>
 
 #include "dialogs/shared/DraftFile.h"
+#include "host/ChildScript.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
@@ -59,14 +60,7 @@ std::string quoted(const std::string& text) {
                                          "type SpellNotes " + quoted(notes),
                                          "advance 1000",
                                          "sleep 60000"};
-    try {
-        std::ostringstream out;
-        ScriptRunner runner(out);
-        runner.run(lines);
-    } catch (...) {
-        _exit(1);
-    }
-    _exit(0);
+    runScriptAndExit(lines);
 }
 
 TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {

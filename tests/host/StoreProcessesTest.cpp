@@ -22,6 +22,7 @@
 #include <string>
 #include <vector>
 
+#include "host/ChildScript.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
@@ -69,14 +70,7 @@ std::string freshFolder() {
         lines.push_back("click smtActions.QV");
     }
     lines.push_back("key escape");
-    try {
-        std::ostringstream out;
-        ScriptRunner runner(out);
-        runner.run(lines);
-    } catch (...) {
-        _exit(1);
-    }
-    _exit(0);
+    runScriptAndExit(lines);
 }
 
 struct Tally {
