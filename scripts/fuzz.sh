@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:-30}; shift || true
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(fuzz_duration fuzz_datetime fuzz_settings fuzz_script fuzz_printsettings)
+[ ${#targets[@]} -gt 0 ] || targets=(fuzz_duration fuzz_datetime fuzz_settings fuzz_script fuzz_printsettings fuzz_draft)
 
 cmake -S . -B build/fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DCMAKE_CXX_COMPILER=clang++ \
   -DQV_FUZZ=ON -DQV_SANITIZE=ON -DQV_BUILD_QT=OFF -DQV_BUILD_BENCH=OFF >/dev/null

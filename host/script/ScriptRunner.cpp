@@ -2,6 +2,7 @@
 
 #include <stdexcept>
 
+#include "script/DraftCommands.h"
 #include "script/EventChecks.h"
 #include "script/FormChecks.h"
 #include "script/GridCommands.h"
@@ -27,6 +28,7 @@ const ScriptCommands& table() {
         EventChecks::addTo(t);
         OutputChecks::addTo(t);
         SyncCommands::addTo(t);
+        DraftCommands::addTo(t);
         return t;
     }();
     return commands;

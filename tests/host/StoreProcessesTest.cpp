@@ -22,10 +22,12 @@
 #include <string>
 #include <vector>
 
+#include "host/ChildScript.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "script/ScriptRunner.h"
 #include "store/Connection.h"
+#include "support/RunCount.h"
 
 namespace qv {
 namespace {
@@ -45,12 +47,6 @@ std::vector<std::string> newTaskWithKeywords(const std::string& folder) {
                                    std::string("click smtProj.") + kProject, "click smtImp.IMP-3"};
     for (const char* key : kKeywords) lines.push_back(std::string("click smtKeywords.") + key);
     return lines;
-}
-
-int runsWanted() {
-    const char* env = std::getenv("QV_KILL_RUNS");
-    const int n = env ? std::atoi(env) : 0;
-    return n > 0 ? n : 30;
 }
 
 std::string freshFolder() {
@@ -74,14 +70,7 @@ std::string freshFolder() {
         lines.push_back("click smtActions.QV");
     }
     lines.push_back("key escape");
-    try {
-        std::ostringstream out;
-        ScriptRunner runner(out);
-        runner.run(lines);
-    } catch (...) {
-        _exit(1);
-    }
-    _exit(0);
+    runScriptAndExit(lines);
 }
 
 struct Tally {
@@ -109,7 +98,7 @@ bool onServerPass() { return std::getenv("QV_STORE_URI") != nullptr; }
 
 TEST(KillSave, EveryTaskOfAKilledSaverIsWhole) {
     if (onServerPass()) GTEST_SKIP() << "about the store file";
-    const int runs = runsWanted();
+    const int runs = runCount("QV_KILL_RUNS", 30);
     std::mt19937 random(std::random_device{}());
     std::uniform_int_distribution<int> instant(30, 700);  // ms after the start
     int whole = 0;

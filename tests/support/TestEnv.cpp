@@ -33,6 +33,8 @@ std::string makeTempFolder() {
 
 void TestEnv::SetUp() {
     folder_ = makeTempFolder();
+    // Drafts of the dialogs stay in the test's own folder.
+    ::setenv("XDG_STATE_HOME", (folder_ + "/state").c_str(), 1);
     resetGlobals();
     g().AppPath = folder_;
     ports() = Ports{};

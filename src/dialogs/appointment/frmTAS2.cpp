@@ -7,6 +7,7 @@
 #include "dialogs/appointment/AppointmentSaver.h"
 #include "dialogs/appointment/AppointmentTimes.h"
 #include "dialogs/shared/SpellChecking.h"
+#include "dialogs/shared/DraftKeeper.h"
 #include "dialogs/shared/ReportPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
@@ -41,10 +42,24 @@ frmTAS2::frmTAS2()
     g().SettingUp = true;
     c_.smtTimes.tool("DATE").setHostedControl("ctTADate");
     registerControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
+    keepDrafts();
     wireControls();
 }
 
 frmTAS2::~frmTAS2() = default;
+
+void frmTAS2::keepDrafts() {
+    DraftInputs in;
+    in.picks = {&c_.smtReady};
+    in.texts = {{&c_.smtTimes, {"START", "END", "DONE", "TIMESPENT"}},
+                {&c_.smtABOUT, {"STATUS", "PROJECT", "IMP", "DIFF", "ISCURRENT", "NEEDED", "SPENT", "DEADLINE"}}};
+    in.dates = {&c_.ctTADate};
+    in.editors = {&c_.spellTask, &c_.SpellNotes};
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "This task appointment", std::move(in));
+    drafts_->offerStoredRowWhenShown();
+}
 
 void frmTAS2::registerControls() {
     for (Sheet* s : {&c_.smtTimes, &c_.smtReady, &c_.smtABOUT, &c_.smtActions, &c_.smtCKActions})
@@ -114,7 +129,7 @@ bool frmTAS2::ValidateTask() {
 }
 
 bool frmTAS2::UpdateTASTask(const std::string&) {
-    return trapped("UpdateTASTask", [&] { return saver_->UpdateTASTask(); });
+    return drafts_->after(trapped("UpdateTASTask", [&] { return saver_->UpdateTASTask(); }));
 }
 
 void frmTAS2::StartTHETimer() {

@@ -17,6 +17,8 @@
 
 namespace qv {
 
+class DraftKeeper;
+
 class AppointmentLoader;
 class AppointmentSaver;
 class AppointmentTimes;
@@ -89,6 +91,7 @@ protected:
 
 private:
     void registerControls();
+    void keepDrafts();
     void wireControls();
     void wireSheets();
     template <class F>
@@ -104,6 +107,7 @@ private:
     std::shared_ptr<TaskPrinter> printer_;
     std::string loadedChecklistKey_;
     bool geometrySaved_ = false;
+    std::unique_ptr<DraftKeeper> drafts_;
 };
 
 }  // namespace qv

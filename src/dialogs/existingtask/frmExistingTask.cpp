@@ -12,6 +12,7 @@
 #include "dialogs/existingtask/ExistingTaskValidation.h"
 #include "dialogs/existingtask/ScheduleGrid.h"
 #include "dialogs/shared/ProjectSheet.h"
+#include "dialogs/shared/DraftKeeper.h"
 #include "dialogs/shared/ReportPrinter.h"
 #include "dialogs/shared/TaskPrinter.h"
 #include "dialogs/shared/TrimtoLen.h"
@@ -63,10 +64,24 @@ frmExistingTask::frmExistingTask()
     g().SettingUp = true;
     c_.smtABOUT.tool("DEADLINE").setHostedControl("ctDeadline");
     registerControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
+    keepDrafts();
     wireControls();
 }
 
 frmExistingTask::~frmExistingTask() = default;
+
+void frmExistingTask::keepDrafts() {
+    DraftInputs in;
+    in.picks = {&c_.smtReady, &c_.smtKeywords};
+    in.texts = {{&c_.smtABOUT, {"STATUS", "ISCURRENT", "DEADTIME", "PROJECT", "IMP", "DIFF", "NEEDED", "SPENT"}},
+                {&c_.smtTimes, {"TIMESPENT"}}};
+    in.dates = {&c_.ctDeadline, &c_.ctTheDateDone};
+    in.editors = {&c_.spellTask, &c_.SpellNotes};
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "This task", std::move(in));
+    drafts_->offerStoredRowWhenShown();
+}
 
 void frmExistingTask::registerControls() {
     for (Sheet* s : {&c_.smtABOUT, &c_.smtKeywords, &c_.smtReady, &c_.smtActions, &c_.smtCKActions,
@@ -204,11 +219,11 @@ int32_t frmExistingTask::PossTallyPoints() {
 }
 
 bool frmExistingTask::UpdateTask() {
-    return trapped("UpdateTask", [&] { return updater_->UpdateTask(); });
+    return drafts_->after(trapped("UpdateTask", [&] { return updater_->UpdateTask(); }));
 }
 
 bool frmExistingTask::SaveToTaskCat() {
-    return trapped("SaveToTaskCat", [&] { return catalog_->SaveToTaskCat(); });
+    return drafts_->after(trapped("SaveToTaskCat", [&] { return catalog_->SaveToTaskCat(); }));
 }
 
 void frmExistingTask::setCKEditMode(int16_t mode) {

@@ -15,6 +15,8 @@
 
 namespace qv {
 
+class DraftKeeper;
+
 class ExistingTaskFields;
 class ExistingTaskLoader;
 class ExistingTaskValidation;
@@ -83,6 +85,7 @@ protected:
 
 private:
     void registerControls();
+    void keepDrafts();
     void wireControls();
     void wireSheets();
     void wireLayout();
@@ -103,6 +106,7 @@ private:
     std::unique_ptr<ScheduleGrid> sked_;
     std::unique_ptr<ExistingTaskLayout> layout_;
     std::shared_ptr<TaskPrinter> printer_;
+    std::unique_ptr<DraftKeeper> drafts_;
 };
 
 }  // namespace qv

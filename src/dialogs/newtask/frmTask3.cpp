@@ -9,6 +9,7 @@
 #include "dialogs/newtask/NewTaskReport.h"
 #include "dialogs/newtask/NewTaskSaver.h"
 #include "dialogs/newtask/NewTaskValidation.h"
+#include "dialogs/shared/DraftKeeper.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/ProjectSheet.h"
 #include "dialogs/shared/SheetPicks.h"
@@ -50,10 +51,22 @@ frmTask3::frmTask3()
                                                kModule)) {
     c_.smtOther.tool("DEADDATE").setHostedControl("ctDeadline");
     registerControls();
+    // The keeper hears each change before the dialog's handlers, which may
+    // replace the tool (a new project refills the list).
+    keepDrafts();
     wireControls();
 }
 
 frmTask3::~frmTask3() = default;
+
+void frmTask3::keepDrafts() {
+    DraftInputs in;
+    in.picks = {&c_.smtOther, &c_.smtProj, &c_.smtKeywords, &c_.smtTimeNeeded, &c_.smtImp, &c_.smtDiff};
+    in.texts = {{&c_.smtOther, {"STATUS", "DEADTIME"}}, {&c_.smtTimeNeeded, {"CUSTOMTIME"}}};
+    in.dates = {&c_.ctDeadline, &c_.ctTheDateDone};
+    in.editors = {&c_.spellTask, &c_.SpellNotes};
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "The new task", std::move(in));
+}
 
 void frmTask3::registerControls() {
     for (Sheet* s : {&c_.smtActions, &c_.smtOther, &c_.smtProj, &c_.smtReady, &c_.smtCKActions, &c_.smtKeywords,
@@ -158,7 +171,7 @@ bool frmTask3::ValidateTask() {
 }
 
 bool frmTask3::SaveTask() {
-    return trapped("SaveTask", [&] { return saver_->SaveTask(); });
+    return drafts_->after(trapped("SaveTask", [&] { return saver_->SaveTask(); }));
 }
 
 void frmTask3::setCKEditMode(int16_t mode) { ckLink_->setCKEditMode(mode); }
@@ -185,6 +198,9 @@ void frmTask3::startTimer_Timer() {
         c_.smtTimeNeeded.at(2).setChecked(true);
     }
     ValidateTask();
+    // The dialog stands as the user first sees it: a draft is judged against that.
+    const auto& s = g();
+    drafts_->offer(s.TaskMode, s.TaskMode == 6 ? s.TaskCatGUID : std::string());
 }
 
 void frmTask3::Form_KeyDown(int32_t keyCode, int32_t shift) {

@@ -24,6 +24,7 @@ class NewTaskPickers;
 class NewTaskLayout;
 class TaskPrinter;
 class ChecklistLink;
+class DraftKeeper;
 
 class frmTask3 : public Form {
 public:
@@ -72,6 +73,7 @@ protected:
 
 private:
     void registerControls();
+    void keepDrafts();
     void wireControls();
     void wireSheets();
     void startTimer_Timer();
@@ -91,6 +93,7 @@ private:
     std::unique_ptr<NewTaskLayout> layout_;
     std::unique_ptr<ChecklistLink> ckLink_;
     std::shared_ptr<TaskPrinter> printer_;
+    std::unique_ptr<DraftKeeper> drafts_;
 };
 
 }  // namespace qv
