@@ -127,7 +127,6 @@ void AppointmentSaver::writeAppointment() {
     UnlessEqual::write(*rs, "taTaskDesc", Value(c.spellTask.text()));
     rs->Update();
     rs->UpdateBatch(adAffectAllChapters);
-    rs->UpdateBatch(adAffectAllChapters);
     ui().doEvents();
     rs->Close();
 }

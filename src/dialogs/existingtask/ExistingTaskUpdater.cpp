@@ -42,7 +42,6 @@ bool ExistingTaskUpdater::UpdateTask() {
         writeColumns(row, now);
         row.Update();
         row.UpdateBatch(adAffectAllChapters);
-        row.UpdateBatch(adAffectAllChapters);
         readOutlookEntry(outlookEntry, taskKey);
         fields.closeTaskRow();
         save.keepSoFar();

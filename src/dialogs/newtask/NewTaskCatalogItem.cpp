@@ -57,8 +57,6 @@ bool NewTaskCatalogItem::GetTaskCatTASK() {
     f_.controls().smtActions.tool("QV").setEnabled(true);
     s.SettingUp = false;
     f_.ValidateTask();
-    s.SettingUp = true;
-    s.SettingUp = false;
     return true;
 }
 
