@@ -8,7 +8,7 @@ cd "$(dirname "$0")/.."
 for sub in types settings; do
   for h in src/values/$sub/*.h; do
     name=$(basename "$h")
-    grep -rlZ --include='*.h' --include='*.cpp' "\"values/$name\"" src qt host tests bench fuzz examples 2>/dev/null |
+    { grep -rlZF --include='*.h' --include='*.cpp' "\"values/$name\"" src qt host tests bench fuzz || true; } |
       xargs -0 -r sed -i "s|\"values/$name\"|\"values/$sub/$name\"|g"
   done
 done
