@@ -1,7 +1,7 @@
 # The program's data files: desktop entry, icon, AppStream metainfo, manual
 # pages and the help pages, from share/ of the source tree.
 
-set(QV_APP_ID org.quorvel.Quorvel)
+set(QV_APP_ID org.quorvel.quorvel)
 set(QV_SHARE ${CMAKE_SOURCE_DIR}/share)
 
 if(TARGET quorvel)

@@ -27,11 +27,9 @@ write_basic_package_version_file(${CMAKE_BINARY_DIR}/QuorvelTask2ConfigVersion.c
 install(FILES ${CMAKE_BINARY_DIR}/QuorvelTask2Config.cmake ${CMAKE_BINARY_DIR}/QuorvelTask2ConfigVersion.cmake
   DESTINATION ${QV_CMAKE_DIR} COMPONENT dev)
 
-# pkg-config: quorveltask2 (the logic) and quorveltask2-qt (the views). The
-# prefix is found from the file's own place, so an install moved with
-# --prefix or DESTDIR still describes itself.
-file(RELATIVE_PATH QV_PC_TO_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-string(REGEX REPLACE "/$" "" QV_PC_TO_PREFIX "${QV_PC_TO_PREFIX}")
+# pkg-config: quorveltask2 (the logic) and quorveltask2-qt (the views), with
+# the configured prefix written out (an install elsewhere is read with
+# --define-variable=prefix=...). The language standard is the host's choice.
 foreach(pc quorveltask2 quorveltask2-qt)
   if(pc STREQUAL "quorveltask2" OR TARGET QuorvelTask2Qt)
     configure_file(cmake/${pc}.pc.in ${CMAKE_BINARY_DIR}/${pc}.pc @ONLY)

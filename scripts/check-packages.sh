@@ -14,6 +14,9 @@ desktop-file-validate share/applications/*.desktop
 appstreamcli validate --no-net share/metainfo/*.metainfo.xml
 echo
 lintian --fail-on error,warning "$deb"/*.changes
+# Pedantic: every shared library has its symbols file, the metainfo its id.
+pedantic=$(lintian -I --pedantic --tag-display-limit 0 "$deb"/*.changes | grep -E 'symbols|appstream|metainfo' || true)
+[ -z "$pedantic" ] || { echo "$pedantic"; fail "lintian --pedantic on the symbols or the AppStream id"; }
 
 has() {  # has PACKAGE PATH-REGEX
     local files
@@ -31,9 +34,9 @@ has libquorveltask2-dev "$lib/cmake/QuorvelTask2/QuorvelTask2Config\.cmake"
 has libquorveltask2-dev "$lib/pkgconfig/quorveltask2\.pc"
 has quorvel "usr/bin/quorvel"
 has quorvel "usr/bin/quorvel-script"
-has quorvel "usr/share/applications/org\.quorvel\.Quorvel\.desktop"
-has quorvel "usr/share/icons/hicolor/scalable/apps/org\.quorvel\.Quorvel\.svg"
-has quorvel "usr/share/metainfo/org\.quorvel\.Quorvel\.metainfo\.xml"
+has quorvel "usr/share/applications/org\.quorvel\.quorvel\.desktop"
+has quorvel "usr/share/icons/hicolor/scalable/apps/org\.quorvel\.quorvel\.svg"
+has quorvel "usr/share/metainfo/org\.quorvel\.quorvel\.metainfo\.xml"
 has quorvel "usr/share/man/man1/quorvel\.1\.gz"
 has quorvel "usr/share/man/man1/quorvel-script\.1\.gz"
 
@@ -57,7 +60,12 @@ fi
 "$root/usr/bin/quorvel-script" "$root/usr/share/doc/quorvel/examples/add-task.qvs" | tail -n 1
 libdir=$(dirname "$(find "$root/usr/lib" -name libQuorvelTask2.so)")
 # shellcheck disable=SC2046
-c++ examples/embed/host.cpp $(PKG_CONFIG_PATH="$libdir/pkgconfig" pkg-config --cflags --libs quorveltask2) \
+# The root's usr/include stands for /usr/include: a host needs no other
+# include path to name <quorvel/clsTask2.h>.
+echo '#include <quorvel/clsTask2.h>' >"$root/one.cpp"
+c++ -std=c++20 -fsyntax-only -I"$root/usr/include" "$root/one.cpp" || fail "<quorvel/clsTask2.h> needs another include path"
+c++ -std=c++20 examples/embed/host.cpp -I"$root/usr/include" \
+    $(PKG_CONFIG_PATH="$libdir/pkgconfig" PKG_CONFIG_SYSROOT_DIR="$root" pkg-config --cflags --libs quorveltask2) \
     -Wl,-rpath,"$libdir" -o "$root/host"
 "$root/usr/bin/quorvel-script" - <<<"home $root/home
 sql \"INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('p-1', 'Garden')\"" >/dev/null

@@ -1,23 +1,18 @@
 #include "script/PdfPages.h"
 
-#include <fstream>
-#include <iterator>
+#include <memory>
+
+#include <poppler-document.h>
+#include <poppler-global.h>
 
 namespace qv {
 
 int pdfPageCount(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    if (!in) return -1;
-    const std::string pdf{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    const std::string marker = "/Type /Page";
-    int pages = 0;
-    for (auto at = pdf.find(marker); at != std::string::npos; at = pdf.find(marker, at + marker.size())) {
-        const std::size_t next = at + marker.size();
-        // "/Type /Pages" is the page tree, not a page.
-        if (next < pdf.size() && pdf[next] == 's') continue;
-        ++pages;
-    }
-    return pages;
+    // A file that is no PDF is told by the -1, not by poppler on stderr.
+    poppler::set_debug_error_function([](const std::string&, void*) {}, nullptr);
+    const std::unique_ptr<poppler::document> pdf(poppler::document::load_from_file(path));
+    if (!pdf || pdf->is_locked()) return -1;
+    return pdf->pages();
 }
 
 }  // namespace qv

@@ -1,5 +1,5 @@
 #pragma once
-// The number of pages of a PDF file, read from its page objects; -1 when
+// The number of pages of a PDF file, as poppler reads it; -1 when
 // the file can't be read.
 
 #include <string>

@@ -15,10 +15,15 @@ cmake --install "$build" --prefix "$prefix" >/dev/null
 lib=$(find "$prefix" -name 'libQuorvelTask2.so' | head -n 1)
 [ -n "$lib" ] || fail "no libQuorvelTask2.so installed"
 libdir=$(dirname "$lib")
-export PKG_CONFIG_PATH="$libdir/pkgconfig"
+# The files name the configured prefix: copies name this one.
+mkdir "$tmp/pc"
+for f in "$libdir"/pkgconfig/*.pc; do sed "s|^prefix=.*|prefix=$prefix|" "$f" >"$tmp/pc/${f##*/}"; done
+grep -q "^prefix=/" "$libdir/pkgconfig/quorveltask2.pc" || fail "the pkg-config prefix is not absolute"
+export PKG_CONFIG_PATH="$tmp/pc"
+pc() { pkg-config "$@"; }
 [ "$(pkg-config --modversion quorveltask2)" = "$version" ] || fail "pkg-config version"
 pkg-config --print-variables quorveltask2 >/dev/null
-[ "$(sed -n 's/^Description: //p' "$libdir/pkgconfig/quorveltask2.pc")" = "Quorvel Edit/New/Work Single Task" ] ||
+[ "$(sed -n 's/^Description: //p' "$tmp/pc/quorveltask2.pc")" = "Quorvel Edit/New/Work Single Task" ] ||
     fail "pkg-config description"
 
 # The component's own headers name neither SQLite nor Qt, and all of them
@@ -28,15 +33,22 @@ if grep -rlE '#include *[<"](sqlite3|Q[A-Za-z]+)' "$inc" --exclude-dir=qt; then 
 : >"$tmp/all.cpp"
 : >"$tmp/all-qt.cpp"
 for h in "$inc"/*.h; do
-    if grep -q '"qt/' "$h"; then echo "#include <quorvel/${h##*/}>" >>"$tmp/all-qt.cpp"
+    if grep -q 'quorvel/qt/' "$h"; then echo "#include <quorvel/${h##*/}>" >>"$tmp/all-qt.cpp"
     else echo "#include <quorvel/${h##*/}>" >>"$tmp/all.cpp"; fi
 done
 # shellcheck disable=SC2046
-"$cxx" -fsyntax-only $(pkg-config --cflags quorveltask2) "$tmp/all.cpp" || fail "the public headers do not compile"
+"$cxx" -std=c++20 -fsyntax-only $(pc --cflags quorveltask2) "$tmp/all.cpp" || fail "the public headers do not compile"
 if [ -s "$tmp/all-qt.cpp" ] && pkg-config --exists Qt6Widgets; then
     # shellcheck disable=SC2046
-    "$cxx" -fsyntax-only -fPIC $(pkg-config --cflags quorveltask2-qt) "$tmp/all-qt.cpp" || fail "the Qt headers do not compile"
+    "$cxx" -std=c++20 -fsyntax-only -fPIC $(pc --cflags quorveltask2-qt) "$tmp/all-qt.cpp" || fail "the Qt headers do not compile"
 fi
+
+# One include path, include/: the host names <quorvel/...> and nothing else.
+[ "$(pc --cflags quorveltask2 | xargs)" = "-I$prefix/include" ] || fail "pkg-config --cflags: $(pc --cflags quorveltask2)"
+echo '#include <quorvel/clsTask2.h>' >"$tmp/one.cpp"
+"$cxx" -std=c++20 -fsyntax-only -I"$prefix/include" "$tmp/one.cpp" || fail "<quorvel/clsTask2.h> needs more than include/"
+echo '#include <Event.h>' >"$tmp/generic.cpp"
+if "$cxx" -std=c++20 -fsyntax-only $(pc --cflags quorveltask2) "$tmp/generic.cpp" 2>/dev/null; then fail "<Event.h> is reachable"; fi
 
 # A store with one project, made by the installed driver.
 key=11111111-2222-3333-4444-555555555555
@@ -55,7 +67,7 @@ cmake --build "$tmp/cmake" >/dev/null || fail "the host does not build through f
 check "$tmp/out1" "the host built through find_package"
 
 # shellcheck disable=SC2046
-"$cxx" "$src/examples/embed/host.cpp" $(pkg-config --cflags --libs quorveltask2) -Wl,-rpath,"$libdir" \
+"$cxx" -std=c++20 "$src/examples/embed/host.cpp" $(pc --cflags --libs quorveltask2) -Wl,-rpath,"$libdir" \
     -o "$tmp/host2" || fail "the host does not build through pkg-config"
 "$tmp/host2" "$tmp/home" $key "Repot the fern" >"$tmp/out2"
 check "$tmp/out2" "the host built through pkg-config"
@@ -63,14 +75,14 @@ check "$tmp/out2" "the host built through pkg-config"
 # and its views are there.
 if pkg-config --exists Qt6Widgets; then
     # shellcheck disable=SC2046
-    "$cxx" -fPIC "$src/examples/embed/host.cpp" $(pkg-config --cflags --libs quorveltask2-qt) \
+    "$cxx" -std=c++20 -fPIC "$src/examples/embed/host.cpp" $(pc --cflags --libs quorveltask2-qt) \
         -Wl,-rpath,"$libdir" -o "$tmp/host3" || fail "the host does not build against the views library"
     "$tmp/host3" "$tmp/home" $key "Sow the beans" >"$tmp/out3"
     check "$tmp/out3" "the host built against the views library"
     printf '%s\n' '#include <quorvel/StandardViews.h>' \
         'int main() { return qv::StandardViews::make().has("frmTask3") ? 0 : 1; }' >"$tmp/views.cpp"
     # shellcheck disable=SC2046
-    "$cxx" -fPIC "$tmp/views.cpp" $(pkg-config --cflags --libs quorveltask2-qt) -Wl,-rpath,"$libdir" \
+    "$cxx" -std=c++20 -fPIC "$tmp/views.cpp" $(pc --cflags --libs quorveltask2-qt) -Wl,-rpath,"$libdir" \
         -o "$tmp/views" || fail "a host does not build against the views library"
     "$tmp/views" || fail "the views library has no New Task view"
     tasks=3

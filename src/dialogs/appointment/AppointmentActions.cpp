@@ -2,10 +2,9 @@
 
 #include "dialogs/appointment/frmTAS2.h"
 #include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/TaskDialogTools.h"
 #include "dialogs/shared/StatusWords.h"
-#include "dialogs/shared/TaskPrinter.h"
 #include "session/globals/SessionGlobals.h"
-#include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "values/TimeValues.h"
 
@@ -23,10 +22,7 @@ void AppointmentActions::smtActions_Click(Tool& tool) {
         f_.StopTHETimer();
         f_.CancelTASEdit();
     } else if (key == "SAVE") save();
-    else if (key == "HELP") help();
-    else if (key == "PRINT") print(false);
-    else if (key == "PRINTPREVIEW") print(true);
-    else if (key == "PAGESETUP") pageSetup();
+    else TaskDialogTools(f_.printer(), kHelpTopic).run(key);
 }
 
 // Nothing sets the flags, so nothing is saved before the task opens. The
@@ -80,20 +76,6 @@ bool AppointmentActions::Form_QueryUnload(int32_t unloadMode) {
     if (unloadMode == 0 && f_.controls().smtActions.tool("SAVE").enabled())
         return DialogMessages::askYesNo(kCancelQuestion);
     return true;
-}
-
-void AppointmentActions::help() {
-    if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
-}
-
-void AppointmentActions::print(bool preview) {
-    if (preview) f_.printer().DoPrintPreview();
-    else f_.printer().DoPrint();
-}
-
-void AppointmentActions::pageSetup() {
-    f_.printer().PageSetup();
-    g().SettingUp = false;
 }
 
 }  // namespace qv

@@ -22,9 +22,6 @@ public:
 private:
     void editTask();
     void save();
-    void help();
-    void print(bool preview);
-    void pageSetup();
 
     frmTAS2& f_;
 };

@@ -4,6 +4,7 @@
 
 #include "dialogs/appointment/frmTAS2.h"
 #include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/SettingUp.h"
 #include "dialogs/shared/SheetPicks.h"
 #include "dialogs/shared/StatusWords.h"
 #include "dialogs/shared/StoredRow.h"
@@ -86,9 +87,8 @@ void AppointmentLoader::fillProjects() {
 }
 
 void AppointmentLoader::GetTAS() {
-    g().SettingUp = true;
+    SettingUp raised;
     if (readAppointment()) readTask();
-    g().SettingUp = false;
 }
 
 bool AppointmentLoader::readAppointment() {

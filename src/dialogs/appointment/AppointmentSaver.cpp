@@ -138,7 +138,6 @@ bool AppointmentSaver::saveRows() {
     writeTask(*task);
     slot->Update();
     slot->UpdateBatch(adAffectAllChapters);
-    slot->UpdateBatch(adAffectAllChapters);
     ui().doEvents();
     save.keepSoFar();
     writeTaskSums(*task);

@@ -3,6 +3,7 @@
 #include "dialogs/appointment/frmTAS2.h"
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/StopwatchTool.h"
+#include "dialogs/shared/TimeSpentEdit.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Sheet.h"
 #include "values/TaskUtil.h"
@@ -11,7 +12,6 @@
 namespace qv {
 
 namespace {
-const char* const kNotATime = "That value was not recognized as a time period like 1:00.";
 const char* const kScheduledIsSum = "Time Scheduled is the sum of each Tasks' Task Appointments.";
 
 // The About tool a pick's key prefix names.
@@ -58,16 +58,8 @@ void AppointmentTimes::smtTimes_Change(Tool&) {
 
 // The task's total shows this slot's value, for the eye only.
 void AppointmentTimes::smtTimes_AfterEdit(Tool& tool) {
-    if (g().SettingUp || tool.key() != "TIMESPENT") return;
-    if (!IsTimeValue(tool.text())) {
-        DialogMessages::inform(kNotATime);
-        tool.setText("0:00");
-        return;
-    }
-    g().SettingUp = true;
-    f_.controls().smtABOUT.tool("SPENT").setText(tool.text());
+    if (!TimeSpentEdit::take(tool, f_.controls().smtABOUT)) return;
     enableSave();
-    g().SettingUp = false;
     f_.ValidateTask();
 }
 

@@ -23,11 +23,6 @@ const char* const kNoChecklist = "-NONE";
 constexpr std::size_t kGuidLength = 36;
 }  // namespace
 
-template <class F>
-auto frmTAS2::trapped(const char* procedure, F&& body) {
-    return trap(kModule, procedure, std::forward<F>(body));
-}
-
 // Form_Initialize: the appointment's day lives in the tool "DATE".
 frmTAS2::frmTAS2()
     : Form("frmTAS2"),

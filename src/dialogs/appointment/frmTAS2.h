@@ -13,6 +13,7 @@
 #include "dialogs/appointment/AppointmentControls.h"
 #include "dialogs/checklists/ChecklistLink.h"
 #include "toolkit/Event.h"
+#include "dialogs/shared/DialogTrap.h"
 #include "toolkit/Form.h"
 
 namespace qv {
@@ -94,8 +95,8 @@ private:
     void keepDrafts();
     void wireControls();
     void wireSheets();
-    template <class F>
-    auto trapped(const char* procedure, F&& body);
+    // Runs a handler under this dialog's trap, with the procedure's name.
+    const DialogTrap trapped{"frmTAS2"};
 
     AppointmentControls c_;
     std::unique_ptr<AppointmentLoader> loader_;

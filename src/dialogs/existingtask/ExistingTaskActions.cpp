@@ -4,9 +4,10 @@
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/shared/DialogMessages.h"
-#include "dialogs/shared/TaskPrinter.h"
+#include "dialogs/shared/StopwatchTool.h"
+#include "dialogs/shared/TaskDialogTools.h"
+#include "dialogs/shared/TimeSpentEdit.h"
 #include "session/globals/SessionGlobals.h"
-#include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
 #include "values/StopwatchDisplay.h"
@@ -19,7 +20,6 @@ namespace {
 constexpr int32_t kHelpTopic = 601;
 const char* const kDiscardTask = "Discard changes made to this Task?";
 const char* const kCancelUpdating = "Cancel updating the current task?";
-const char* const kNotATime = "That value was not recognized as a time period like 1:00.";
 
 bool ask(const char* text, int32_t icon) { return ui().msgBox(text, vbYesNo | icon, kProgramTitle) == vbYes; }
 }  // namespace
@@ -32,13 +32,10 @@ ExistingTaskActions::~ExistingTaskActions() = default;
 void ExistingTaskActions::smtActions_Click(Tool& tool) {
     const std::string& key = tool.key();
     if (key == "RESETL") f_.resetLayout();
-    else if (key == "HELP") help();
-    else if (key == "PRINT") print(false);
-    else if (key == "PRINTPREVIEW") print(true);
-    else if (key == "PAGESETUP") pageSetup();
     else if (key == "DONE") leave();
     else if (key == "UPDATE") save(false);
     else if (key == "DELETE") ExistingTaskDelete(f_).deleteTask();
+    else TaskDialogTools(f_.printer(), kHelpTopic).run(key);
 }
 
 void ExistingTaskActions::save(bool byKey) {
@@ -102,22 +99,6 @@ void ExistingTaskActions::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
 
 void ExistingTaskActions::stopStopwatch() { f_.controls().Timer1.setEnabled(false); }
 
-void ExistingTaskActions::help() {
-    if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
-}
-
-void ExistingTaskActions::print(bool preview) {
-    if (preview) f_.printer().DoPrintPreview();
-    else f_.printer().DoPrint();
-}
-
-void ExistingTaskActions::pageSetup() {
-    struct Lower {
-        ~Lower() { g().SettingUp = false; }
-    } lower;
-    f_.printer().PageSetup();
-}
-
 void ExistingTaskActions::enableUpdate() { f_.controls().smtActions.tool("UPDATE").setEnabled(true); }
 
 // "ADDFROMTIMER" reads the clock text, whose two colons make it 0: the
@@ -126,18 +107,14 @@ void ExistingTaskActions::smtTimes_Click(Tool& tool) {
     auto& c = f_.controls();
     const std::string& key = tool.key();
     if (key == "TIMER") {
-        const bool on = tool.tag() == "ON";
-        tool.setTag(on ? "OFF" : "ON");
-        tool.setImage(on ? "GRAY" : "INUSE");
-        if (on) stopwatch_->StopTHETimer();
-        else stopwatch_->StartTHETimer();
+        StopwatchTool::toggle(tool, *stopwatch_);
     } else if (key == "COPYTIMENEEDED") {
         const std::string needed = c.smtABOUT.tool("NEEDED").text();
         c.smtABOUT.tool("SPENT").setText(needed);
         c.smtTimes.tool("TIMESPENT").setText(needed);
     } else if (key == "ADDFROMTIMER") {
         Tool& spent = c.smtTimes.tool("TIMESPENT");
-        spent.setText(SetTimeFormat(FormatCTasTime(spent.text()) + FormatCTasTime(c.smtTimes.tool("TIMER").text())));
+        spent.setText(StopwatchTool::addReading(c.smtTimes.tool("TIMER").text(), spent.text()));
         c.smtABOUT.tool("SPENT").setText(spent.text());
     } else {
         return;
@@ -148,16 +125,7 @@ void ExistingTaskActions::smtTimes_Click(Tool& tool) {
 void ExistingTaskActions::smtTimes_Change() { enableUpdate(); }
 
 void ExistingTaskActions::smtTimes_AfterEdit(Tool& tool) {
-    if (g().SettingUp || tool.key() != "TIMESPENT") return;
-    auto& c = f_.controls();
-    if (!IsTimeValue(tool.text())) {
-        DialogMessages::inform(kNotATime);
-        tool.setText("0:00");
-        return;
-    }
-    g().SettingUp = true;
-    c.smtABOUT.tool("SPENT").setText(tool.text());
-    g().SettingUp = false;
+    if (!TimeSpentEdit::take(tool, f_.controls().smtABOUT)) return;
     f_.ValidateTask();
     f_.fields().IsDirty = true;
     enableUpdate();

@@ -34,9 +34,6 @@ private:
     // Mode 1's update or mode 5's catalog save, then the events and the
     // close. The key path tells TaskUpdated for a catalog save too.
     void save(bool byKey);
-    void help();
-    void print(bool preview);
-    void pageSetup();
     void enableUpdate();
 
     frmExistingTask& f_;

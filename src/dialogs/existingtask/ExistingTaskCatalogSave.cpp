@@ -3,7 +3,9 @@
 #include "dialogs/existingtask/ExistingTaskFields.h"
 #include "dialogs/existingtask/ExistingTaskKeywords.h"
 #include "dialogs/existingtask/frmExistingTask.h"
+#include "dialogs/shared/SettingUp.h"
 #include "dialogs/shared/TaskColumns.h"
+#include "dialogs/shared/TaskGuid.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
@@ -28,7 +30,7 @@ bool ExistingTaskCatalogSave::SaveToTaskCat() {
         rs->UpdateBatch(adAffectAllChapters);
         rs->Close();
         save.keepSoFar();
-        f_.keywords().addCatalogLinks(f_.fields().utilNewTaskGUID());
+        f_.keywords().addCatalogLinks(utilNewTaskGUID());
         save.commit();
     }
     reset();
@@ -51,12 +53,11 @@ void ExistingTaskCatalogSave::writeColumns(Recordset& rs) {
 
 void ExistingTaskCatalogSave::reset() {
     auto& c = f_.controls();
-    g().SettingUp = true;
+    SettingUp raised;
     f_.fields().setUtilNewTaskGUID("");
     c.spellTask.setText("");
     c.SpellNotes.setText("");
     f_.setCKEditMode(0);
-    g().SettingUp = false;
 }
 
 }  // namespace qv

@@ -5,17 +5,16 @@
 #include "dialogs/existingtask/ExistingTaskControls.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/TaskGuid.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/CCreateGuid.h"
 #include "values/TextCase.h"
 #include "values/Convert.h"
 #include "values/DateTimeFormatter.h"
-#include "values/TextChars.h"
 #include "values/TimeValues.h"
 
 namespace qv {
@@ -162,13 +161,14 @@ void ExistingTaskFields::setUtilProjectName(const std::string& name) {
         if (item->type() == ttOption && item->caption() == name) list.setText(name);
 }
 
-// Two projects of one caption: the first one's key.
+// The key behind "PRJ-" of the first entry of that caption, whatever entry
+// it is: "New Project" left standing gives "PROJECT". A separator is no entry.
 std::string ExistingTaskFields::utilProjectKey() const {
     const Tool& list = c_.smtABOUT.tool("PROJECT");
     for (const auto& item : list.items()) {
-        if (item->caption() != list.text()) continue;
+        if (item->type() == ttDropSeparator || item->caption() != list.text()) continue;
         const std::string& key = item->key();
-        if (key.rfind(kProjectPrefix, 0) == 0) return key.substr(4, kGuidLength);
+        return key.size() > 4 ? key.substr(4, kGuidLength) : std::string();
     }
     return kNoProject;
 }
@@ -237,12 +237,6 @@ void ExistingTaskFields::setUtiltheDateDone(double value) {
     c_.ctTheDateDone.setValue(std::floor(value));
     host.setHostedControl("cttheDateDone");
     host.setVisible(true);
-}
-
-std::string ExistingTaskFields::utilNewTaskGUID() {
-    auto& s = g();
-    if (charCount(s.CurrentTaskGUID) != kGuidLength) s.CurrentTaskGUID = CCreateGuid::guid();
-    return s.CurrentTaskGUID;
 }
 
 void ExistingTaskFields::setUtilNewTaskGUID(const std::string& guid) { g().CurrentTaskGUID = guid; }

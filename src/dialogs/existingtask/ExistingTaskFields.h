@@ -49,7 +49,6 @@ public:
     void setUtilDeadLine(double value);
     [[nodiscard]] double utiltheDateDone() const;
     void setUtiltheDateDone(double value);
-    [[nodiscard]] std::string utilNewTaskGUID();
     void setUtilNewTaskGUID(const std::string& guid);
     [[nodiscard]] std::string utilKeywordList();
     void setUtilKeywordList(const std::string& bag);

@@ -4,6 +4,7 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/ProjectSheet.h"
+#include "dialogs/shared/SettingUp.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
@@ -81,9 +82,8 @@ void ExistingTaskKeywords::fNewProject_ProjectAdded(const std::string& name) {
     Tool& list = f_.controls().smtABOUT.tool("PROJECT");
     if (!ProjectSheet::fillList(list, false)) return;
     if (!name.empty() && list.items().size() > 2) {
-        g().SettingUp = true;
+        SettingUp raised;
         list.setText(name);
-        g().SettingUp = false;
     }
     f_.ProjectAdded(name);
 }

@@ -64,7 +64,6 @@ bool ExistingTaskUpdater::save(double now, std::string& outlookEntry, std::strin
     shiftCatalogHistory(row);
     row.Update();
     row.UpdateBatch(adAffectAllChapters);
-    row.UpdateBatch(adAffectAllChapters);
     readOutlookEntry(outlookEntry, taskKey);
     fields.closeTaskRow();
     save.keepSoFar();

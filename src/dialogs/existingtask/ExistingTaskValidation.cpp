@@ -6,6 +6,7 @@
 #include "dialogs/existingtask/frmExistingTask.h"
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/PointsTally.h"
+#include "dialogs/shared/SettingUp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -68,18 +69,19 @@ bool ExistingTaskValidation::statusChanged(Tool& tool) {
     if (tool.key() != "STATUS") return false;
     auto& c = f_.controls();
     const bool completed = tool.text() == kCompleted;
-    g().SettingUp = true;
-    c.smtReady.tool("DONE").setChecked(completed);
-    Tool& dateDone = c.smtABOUT.tool("DATEDONE");
-    if (completed) {
-        dateDone.setHostedControl("cttheDateDone");
-        c.ctTheDateDone.setValue(std::floor(clock().now()));
-    } else {
-        c.ctTheDateDone.setValue(1.0);
+    {
+        SettingUp raised;
+        c.smtReady.tool("DONE").setChecked(completed);
+        Tool& dateDone = c.smtABOUT.tool("DATEDONE");
+        if (completed) {
+            dateDone.setHostedControl("cttheDateDone");
+            c.ctTheDateDone.setValue(std::floor(clock().now()));
+        } else {
+            c.ctTheDateDone.setValue(1.0);
+        }
+        dateDone.setVisible(completed);
+        if (Tool* chosen = GetItemSelected(tool)) tool.setTag(chosen->tag());
     }
-    dateDone.setVisible(completed);
-    if (Tool* chosen = GetItemSelected(tool)) tool.setTag(chosen->tag());
-    g().SettingUp = false;
     ValidateTask();
     f_.fields().IsDirty = true;
     return true;

@@ -27,11 +27,6 @@ const char* const kModule = "frmExistingTask";
 constexpr std::size_t kGuidLength = 36;
 }  // namespace
 
-template <class F>
-auto frmExistingTask::trapped(const char* procedure, F&& body) {
-    return trap(kModule, procedure, std::forward<F>(body));
-}
-
 // Form_Initialize: setting up from the start; the deadline's date box
 // lives in "DEADLINE".
 frmExistingTask::frmExistingTask()

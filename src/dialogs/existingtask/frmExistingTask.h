@@ -11,6 +11,7 @@
 
 #include "dialogs/existingtask/ExistingTaskControls.h"
 #include "toolkit/Event.h"
+#include "dialogs/shared/DialogTrap.h"
 #include "toolkit/Form.h"
 
 namespace qv {
@@ -90,9 +91,8 @@ private:
     void wireSheets();
     void wireLayout();
     void smtABOUT_Change(Tool& tool, const std::string& property);
-    // Runs body under this dialog's trap, with the procedure's name.
-    template <class F>
-    auto trapped(const char* procedure, F&& body);
+    // Runs a handler under this dialog's trap, with the procedure's name.
+    const DialogTrap trapped{"frmExistingTask"};
 
     ExistingTaskControls c_;
     std::unique_ptr<ExistingTaskFields> fields_;

@@ -3,10 +3,10 @@
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/DialogMessages.h"
+#include "dialogs/shared/SettingUp.h"
+#include "dialogs/shared/TaskDialogTools.h"
 #include "dialogs/shared/SheetPicks.h"
-#include "dialogs/shared/TaskPrinter.h"
 #include "session/globals/SessionGlobals.h"
-#include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
 
@@ -21,13 +21,10 @@ void NewTaskActions::smtActions_Click(Tool& tool) {
     const std::string& key = tool.key();
     if (key == "RESETL") f_.resetLayout();
     else if (key == "CLEAR") clearAll();
-    else if (key == "HELP") help();
-    else if (key == "PRINT") print(false);
-    else if (key == "PRINTPREVIEW") print(true);
-    else if (key == "PAGESETUP") pageSetup();
     else if (key == "DONE") closeOrCancel();
     else if (key == "TC") addToCatalog();
     else if (key == "QV" || key == "QV2") addToTaskList();
+    else TaskDialogTools(f_.printer(), kHelpTopic).run(key);
 }
 
 // Enter saves to the task list and always tells NewTask, whatever the status.
@@ -88,32 +85,13 @@ void NewTaskActions::closeOrCancel() {
 // No check runs: flags, points and add tools keep their last state.
 void NewTaskActions::clearAll() {
     auto& c = f_.controls();
-    g().SettingUp = true;
+    SettingUp raised;
     for (Sheet* sheet : {&c.smtProj, &c.smtTimeNeeded, &c.smtImp, &c.smtDiff}) SheetPicks::uncheckAll(*sheet);
     if (Tool* custom = c.smtTimeNeeded.find("CUSTOMTIME")) custom->setText("");
     c.SpellNotes.setText("");
     c.spellTask.setText("");
     SheetPicks::uncheckAll(c.smtKeywords);
     f_.setCKEditMode(0);
-    g().SettingUp = false;
-}
-
-void NewTaskActions::help() {
-    if (HelpViewer* viewer = ports().help) viewer->openHelpPop(kHelpTopic, g().TaskPrintSetting);
-}
-
-// The print flow asks its own question first.
-void NewTaskActions::print(bool preview) {
-    if (preview) f_.printer().DoPrintPreview();
-    else f_.printer().DoPrint();
-}
-
-// The page set-up works with the flag raised; it comes down on every path.
-void NewTaskActions::pageSetup() {
-    struct Lower {
-        ~Lower() { g().SettingUp = false; }
-    } lower;
-    f_.printer().PageSetup();
 }
 
 bool NewTaskActions::dirty() const { return f_.controls().smtActions.tool("DONE").caption() == "C&ancel"; }

@@ -24,9 +24,6 @@ private:
     void addToCatalog();
     void closeOrCancel();
     void clearAll();
-    void help();
-    void print(bool preview);
-    void pageSetup();
     void afterAdd();
     [[nodiscard]] bool dirty() const;
 

@@ -67,8 +67,6 @@ bool NewTaskCatalogItem::GetTaskCatTASK() {
     f_.controls().smtActions.tool("QV").setEnabled(true);
     s.SettingUp = false;
     f_.ValidateTask();
-    s.SettingUp = true;
-    s.SettingUp = false;
     return true;
 }
 

@@ -6,12 +6,12 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/SheetPicks.h"
+#include "dialogs/shared/TaskGuid.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
-#include "values/CCreateGuid.h"
 #include "values/Convert.h"
 #include "values/DateTimeFormatter.h"
 #include "values/TimeValues.h"
@@ -22,7 +22,6 @@ namespace {
 const char* const kNoProject = "NOPROJECT";
 const char* const kBadTimeNeeded = "Value for Time Needed entered is not recognized as a valid time.";
 const char* const kBadDeadTime = "Deadline time is not a recognized time. Please reenter it.";
-constexpr std::size_t kGuidLength = 36;
 }  // namespace
 
 void NewTaskFields::PackATask() {
@@ -168,12 +167,6 @@ void NewTaskFields::setUtiltheDateDone(double value) {
 std::string NewTaskFields::utilKeywordList() {
     keywordList_ = KeywordSheet::bagText(c_.smtKeywords);
     return keywordList_;
-}
-
-std::string NewTaskFields::utilNewTaskGUID() {
-    auto& s = g();
-    if (s.CurrentTaskGUID.size() != kGuidLength) s.CurrentTaskGUID = CCreateGuid::guid();
-    return s.CurrentTaskGUID;
 }
 
 void NewTaskFields::setUtilNewTaskGUID(const std::string& guid) { g().CurrentTaskGUID = guid; }

@@ -42,7 +42,6 @@ public:
     [[nodiscard]] double utiltheDateDone() const;
     void setUtiltheDateDone(double value);
     [[nodiscard]] std::string utilKeywordList();
-    [[nodiscard]] std::string utilNewTaskGUID();
     void setUtilNewTaskGUID(const std::string& guid);
     // Filled once per dialog, from the row counts, and never reset.
     [[nodiscard]] int32_t utilCustSortQV();

@@ -6,6 +6,7 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/KeywordSheet.h"
 #include "dialogs/shared/ProjectSheet.h"
+#include "dialogs/shared/SettingUp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
@@ -65,10 +66,11 @@ void NewTaskPickers::ctDeadline_Change() {
 
 // The flags do not move: the deadline is simply gone from the next pack.
 void NewTaskPickers::clearDeadline() {
-    g().SettingUp = true;
-    f_.controls().ctDeadline.setValue(1.0);
-    f_.fields().writeDeadTime("");
-    g().SettingUp = false;
+    {
+        SettingUp raised;
+        f_.controls().ctDeadline.setValue(1.0);
+        f_.fields().writeDeadTime("");
+    }
     f_.PackATask();
 }
 

@@ -6,7 +6,9 @@
 #include "dialogs/newtask/NewTaskFields.h"
 #include "dialogs/newtask/frmTask3.h"
 #include "dialogs/shared/KeywordSheet.h"
+#include "dialogs/shared/SettingUp.h"
 #include "dialogs/shared/TaskColumns.h"
+#include "dialogs/shared/TaskGuid.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/SaveTransaction.h"
@@ -45,10 +47,11 @@ void resetEditor(TextEditor& editor, const std::string& text, double size) {
 bool NewTaskSaver::SaveTask() {
     if (!f_.ValidateTask()) return false;
     if (!writeTaskAndKeywords()) return false;
-    g().SettingUp = true;
-    showBanner();
-    resetForNext();
-    g().SettingUp = false;
+    {
+        SettingUp raised;
+        showBanner();
+        resetForNext();
+    }
     f_.ValidateTask();
     subDelay(kBannerSeconds);
     f_.controls().lblTaskSaved.setVisible(false);
@@ -104,7 +107,7 @@ void NewTaskSaver::writeChecklistLink(Recordset& rs, bool catalog) {
 bool NewTaskSaver::writeKeywords() {
     clsNewTask links;
     RecordsetPtr rs;
-    const std::string guid = f_.fields().utilNewTaskGUID();
+    const std::string guid = utilNewTaskGUID();
     links.SetSQLKey(queries::keywordLinksOfTask(guid));
     if (!links.GetDataKEY(rs)) return false;
     KeywordSheet::addLinksFromBag(*rs, f_.controls().smtKeywords, f_.fields().record().KeywordList,

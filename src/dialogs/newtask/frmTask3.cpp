@@ -30,11 +30,6 @@ const char* const kModule = "frmTask3";
 const char* const kNoChecklistText = "(Pick a Checklist...)";
 }  // namespace
 
-template <class F>
-auto frmTask3::trapped(const char* procedure, F&& body) {
-    return trap(kModule, procedure, std::forward<F>(body));
-}
-
 // Form_Initialize: the deadline's date box lives in DEADDATE.
 frmTask3::frmTask3()
     : Form("frmTask3"),

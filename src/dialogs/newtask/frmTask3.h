@@ -11,6 +11,7 @@
 
 #include "dialogs/newtask/NewTaskControls.h"
 #include "toolkit/Event.h"
+#include "dialogs/shared/DialogTrap.h"
 #include "toolkit/Form.h"
 
 namespace qv {
@@ -79,9 +80,8 @@ private:
     void startTimer_Timer();
     void fillLevelSheets();
     void setSpellChecking();
-    // Runs body under this dialog's trap, with the procedure's name.
-    template <class F>
-    auto trapped(const char* procedure, F&& body);
+    // Runs a handler under this dialog's trap, with the procedure's name.
+    const DialogTrap trapped{"frmTask3"};
 
     NewTaskControls c_;
     std::unique_ptr<NewTaskFields> fields_;

@@ -31,7 +31,7 @@ struct QV_EXPORT SessionGlobals {
     std::string MOP;
     bool SettingUp = false;
     bool EditingExisting = false;
-    bool ScheduleTouched = false;
+    bool ScheduleTouched = false;  // the grid's data filter marks it for the host; nothing here reads it
     clsTask2* TheTaskObject = nullptr;
 
     // Settings (LoadSettings).
@@ -58,7 +58,7 @@ struct QV_EXPORT SessionGlobals {
 
     // Store connection (ADOTest).
     std::string ConnString;
-    std::string ConnStringShaped;
+    std::string ConnStringShaped;  // formed for hierarchical queries the store has none of yet
     std::string DBLocation;
 
     // Stopwatch.

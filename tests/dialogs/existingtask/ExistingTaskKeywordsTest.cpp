@@ -117,6 +117,22 @@ TEST_F(ExistingTaskKeywordsTest, NewProjectFromTheListIsChosenAndSaved) {
     EXPECT_EQ(readOne("SELECT tskProjectKey FROM TASKS"), gamma);
 }
 
+// Add Project closed without a project leaves "New Project" chosen: the
+// key stored is that entry's, behind its first four characters.
+TEST_F(ExistingTaskKeywordsTest, NewProjectLeftStandingStoresTheKeyOfItsEntry) {
+    seed();
+    addTask();
+    choose("PROJECT", "New Project");
+    then([this] { projectAdder()->sheet("smtAction")->click(*projectAdder()->sheet("smtAction")->find("CANCEL")); });
+    then([this] {
+        if (Form* add = projectAdder()) add->hide();
+    });
+    click("smtActions", "UPDATE");
+    openTask();
+    EXPECT_EQ(readOne("SELECT tskProject FROM TASKS"), "New Project");
+    EXPECT_EQ(readOne("SELECT tskProjectKey FROM TASKS"), "PROJECT");
+}
+
 TEST_F(ExistingTaskKeywordsTest, MopProjectIsDisabledAndNoProjectStillSaves) {
     seed();
     addTask();

@@ -1,6 +1,7 @@
 #include "values/DateSerial.h"
 
 #include "toolkit/DaySerial.h"
+#include "values/types/Digits.h"
 
 #include <cmath>
 #include <cstdio>
@@ -51,13 +52,9 @@ struct Reader {
     }
     // Reads min..max digits.
     bool digits(size_t min, size_t max, int32_t& out) {
-        size_t n = 0;
         int32_t v = 0;
-        while (i < s.size() && n < max && s[i] >= '0' && s[i] <= '9') {
-            v = v * 10 + (s[i] - '0');
-            ++i;
-            ++n;
-        }
+        const size_t n = readDigits(s, i, max, v);
+        i += n;
         out = v;
         return n >= min;
     }

@@ -8,6 +8,7 @@
 
 #include "toolkit/Failure.h"
 #include "values/DateSerial.h"
+#include "values/types/Digits.h"
 
 namespace qv {
 
@@ -67,10 +68,10 @@ std::optional<std::string> normalise(std::string_view text) {
 
 // Reads a number of one to maxDigits digits at t[i...]; advances i.
 std::optional<int32_t> readField(std::string_view t, size_t& i, size_t maxDigits) {
-    size_t start = i;
     int32_t v = 0;
-    while (i < t.size() && isDigit(t[i]) && i - start < maxDigits) v = v * 10 + (t[i++] - '0');
-    if (i == start || (i < t.size() && isDigit(t[i]))) return std::nullopt;
+    const size_t n = readDigits(t, i, maxDigits, v);
+    i += n;
+    if (n == 0 || (i < t.size() && isDigit(t[i]))) return std::nullopt;
     return v;
 }
 

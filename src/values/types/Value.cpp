@@ -9,6 +9,7 @@
 
 #include "toolkit/Failure.h"
 #include "values/DateSerial.h"
+#include "values/types/Digits.h"
 
 namespace qv {
 
@@ -159,13 +160,10 @@ std::optional<double> parseGeneralDate(std::string_view text) {
     text = trim(text);
     size_t i = 0;
     auto number = [&](int& out, size_t maxDigits) -> size_t {
-        size_t n = 0;
-        out = 0;
-        while (i < text.size() && n < maxDigits && text[i] >= '0' && text[i] <= '9') {
-            out = out * 10 + (text[i] - '0');
-            ++i;
-            ++n;
-        }
+        int32_t v = 0;
+        const size_t n = readDigits(text, i, maxDigits, v);
+        i += n;
+        out = v;
         return n;
     };
     auto skipBlanks = [&] {

@@ -1,0 +1,16 @@
+#include "dialogs/shared/TaskGuid.h"
+
+#include "session/globals/SessionGlobals.h"
+#include "values/CCreateGuid.h"
+#include "values/TextChars.h"
+
+namespace qv {
+
+std::string utilNewTaskGUID() {
+    constexpr std::size_t kGuidLength = 36;
+    auto& s = g();
+    if (charCount(s.CurrentTaskGUID) != kGuidLength) s.CurrentTaskGUID = CCreateGuid::guid();
+    return s.CurrentTaskGUID;
+}
+
+}  // namespace qv
