@@ -24,7 +24,10 @@ mkdir -p "$shots"
 home=$work/home
 store=$home/QuorvelData.mdb
 pids=()
-cleanup() { for p in "${pids[@]}"; do kill "$p" 2>/dev/null || true; done; }
+cleanup() {
+  for p in "${pids[@]}"; do kill "$p" 2>/dev/null || true; done
+  case "$shots" in "$work"/*) ;; *) rm -rf "$work" ;; esac
+}
 trap cleanup EXIT
 
 # A free display number.

@@ -77,9 +77,9 @@ void HostWindow::buildActions() {
     connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
     delete_ = action("actDelete", "&Delete Task", QKeySequence::Delete, false);
     connect(delete_, &QAction::triggered, this, &HostWindow::deleteTask);
-    quit_ = action("actQuit", "&Quit", QKeySequence::Quit, true);
+    quit_ = action("actQuit", "&Quit", QKeySequence("Ctrl+Q"), true);
     connect(quit_, &QAction::triggered, this, &QWidget::close);
-    helpIndex_ = action("actHelpIndex", "&Help Index", QKeySequence::HelpContents, true);
+    helpIndex_ = action("actHelpIndex", "&Help Index", QKeySequence("F1"), true);
     connect(helpIndex_, &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
     tour_ = action("actTour", "Getting Started &Tour", QKeySequence("Shift+F1"), true);
     connect(tour_, &QAction::triggered, this, [this] { openHelp(kTourTopic); });

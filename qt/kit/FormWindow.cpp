@@ -2,6 +2,7 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "kit/FormView.h"
@@ -101,6 +102,15 @@ void FormWindow::reportGeometry() {
 void FormWindow::resizeEvent(QResizeEvent* e) {
     QDialog::resizeEvent(e);
     reportGeometry();
+}
+
+// Placed beside its owner, a window may reach past the screen's edge.
+void FormWindow::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    // After the placement that showing does.
+    QTimer::singleShot(0, this, [this] {
+        if (!isMaximized() && !finished_) ScreenFit::apply(this);
+    });
 }
 
 void FormWindow::moveEvent(QMoveEvent* e) {

@@ -26,7 +26,8 @@ QRect ScreenFit::fit(const QWidget* window, const QRect& wanted) {
     const int extraW = window->isVisible() ? frame.width() - window->width() : 0;
     const int extraH = window->isVisible() ? frame.height() - window->height() : kFrameAllowance;
     QSize size = wanted.size().boundedTo(QSize(area.width() - extraW, area.height() - extraH));
-    size = size.expandedTo(QSize(1, 1));
+    // A window never shrinks below its minimum: then it is moved instead.
+    size = size.expandedTo(window->minimumSize()).expandedTo(QSize(1, 1));
     const int left = std::clamp(wanted.left(), area.left(), std::max(area.left(), area.right() + 1 - size.width() - extraW));
     const int top = std::clamp(wanted.top(), area.top(), std::max(area.top(), area.bottom() + 1 - size.height() - extraH));
     return {QPoint(left, top), size};

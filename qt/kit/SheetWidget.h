@@ -22,6 +22,7 @@ class QScrollArea;
 namespace qv {
 
 class Sheet;
+class OptionGroups;
 class SheetDelegate;
 class SheetModel;
 class Tool;
@@ -95,6 +96,7 @@ private:
     QScrollArea* scroll_ = nullptr;
     QWidget* body_ = nullptr;
     std::vector<ToolCell*> cells_;
+    OptionGroups* options_;
     QBoxLayout* column_ = nullptr;
     QBoxLayout* iconRow_ = nullptr;
     QListView* list_ = nullptr;
