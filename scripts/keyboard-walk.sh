@@ -13,7 +13,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build/release}
 bin=$build/host/quorvel
-for tool in Xvfb xdotool openbox sqlite3 import; do
+for tool in Xvfb xdotool xprop openbox sqlite3 import; do
   command -v "$tool" >/dev/null || { echo "keyboard-walk: $tool is missing; skipped"; exit 77; }
 done
 [ -x "$bin" ] || { echo "keyboard-walk: $bin is not built"; exit 1; }
@@ -37,6 +37,8 @@ export DISPLAY=:$n
 Xvfb "$DISPLAY" -screen 0 1280x960x24 -nolisten tcp >"$work/xvfb.log" 2>&1 & pids+=($!)
 for _ in $(seq 50); do xdotool getmouselocation >/dev/null 2>&1 && break; sleep 0.1; done
 openbox >"$work/openbox.log" 2>&1 & pids+=($!)
+# Windows mapped before the window manager runs are never made active.
+for _ in $(seq 100); do xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id' && break; sleep 0.1; done
 unset WAYLAND_DISPLAY QT_QPA_PLATFORM
 export QT_QPA_PLATFORM=xcb
 
@@ -63,14 +65,53 @@ wait_sql() {
 
 wait_title "Getting Started Tour"; shot tour-at-start
 keys Escape; wait_title "Task Manager"; shot task-manager
+
+# New Task: the description takes the typing; a new project and a new
+# keyword through their own windows; Alt+D adds the task.
 keys ctrl+n; wait_title "New Task"; sleep 1
 typed "Walk the dog"; shot new-task-typed
 keys F1; wait_title "Creating New Tasks"; shot new-task-help
 keys Escape; wait_title "New Task"
-keys Escape; wait_title "Quorvel - Version 1.14"; shot cancel-question
-keys Return; wait_title "Task Manager"; wait_sql "SELECT count(*) FROM TASKS" 0; shot cancelled-nothing-stored
-keys F1; wait_title "Quorvel"; shot help-index
+keys shift+Tab space; wait_title "quorvel"; shot add-project    # New Project, just before the description
+typed "Garden"; keys Tab; typed "Beds and paths"; keys Return
+wait_sql "SELECT prjProject FROM PROJECTS" "Garden"; keys Return; sleep 0.3
+keys Escape; wait_title "New Task"; shot project-chosen
+for _ in $(seq 11); do keys Tab; done                             # round to Add Keyword
+keys space; wait_title "quorvel"; shot add-keyword
+keys shift+Tab; typed "Outside"; keys Tab; typed "Walks"; keys Return
+wait_sql "SELECT keySubject || '/' || keyKeyword FROM KEYWORDS" "Outside/Walks"; keys Return; sleep 0.3
+keys Escape; wait_title "New Task"
+keys shift+Tab shift+Tab space; shot keyword-ticked                # the new keyword's box
+keys alt+d
+wait_sql "SELECT tskDesc || '/' || tskProject FROM TASKS" "Walk the dog/Garden"
+wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; shot task-added
 keys Escape; wait_title "Task Manager"
+
+# The task in the list: open it, change the description, Update Task.
+keys alt+p Tab Tab Down; shot task-chosen
+keys ctrl+o; wait_title "Edit Task"; sleep 0.5
+keys ctrl+End; typed " twice"; shot existing-task-typed
+keys alt+u; wait_sql "SELECT tskDesc FROM TASKS" "Walk the dog twice"; wait_title "Task Manager"; shot task-updated
+
+# An appointment for it: schedule, work it, update.
+keys ctrl+shift+a; wait_sql "SELECT count(*) FROM TASKAPPTS" 1; shot appointment-scheduled
+keys ctrl+shift+w; wait_title "Task Appointment"; sleep 0.5; shot appointment-open
+keys F1; wait_title "Working with Task Appointments"; shot appointment-help
+keys Escape; wait_title "Task Appointment"
+for _ in $(seq 12); do keys Tab; done                             # round to "Task is Done"
+keys space; shot appointment-done
+keys alt+u; wait_title "Task Manager"
+wait_sql "SELECT count(*) FROM TASKAPPTS WHERE taWasWorked<>0" 1; shot appointment-worked
+
+# Help, Page Setup, quit.
+keys F1; wait_title "Help Index"; shot help-index
+keys Escape; wait_title "Task Manager"
+keys ctrl+n; wait_title "New Task"; sleep 1
+keys alt+g; sleep 0.5; keys s; wait_title "Page Setup"; shot page-setup   # Printing > Page Setup...
+keys F1; wait_title "Print and Print Preview"; shot page-setup-help
+keys Escape; wait_title "Page Setup"
+keys Escape; wait_title "New Task"
+keys Escape; sleep 0.5; shot cancel-question; keys Return; wait_title "Task Manager"   # "Cancel creating the current task?" Yes
 keys ctrl+q
 for _ in $(seq 50); do kill -0 "$app" 2>/dev/null || break; sleep 0.1; done
 kill -0 "$app" 2>/dev/null && fail "quorvel still runs after Ctrl+Q"

@@ -5,7 +5,7 @@ pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev li
       libbenchmark-dev qt6-base-dev libgl-dev libhunspell-dev hunspell-en-us xvfb xauth poppler-utils
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
       postgresql libpq-dev
-      openbox xdotool imagemagick sqlite3)  # the keyboard walk under Xvfb
+      openbox xdotool x11-utils imagemagick sqlite3)  # the keyboard walk under Xvfb
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -156,7 +156,7 @@ QWidget* HostWindow::buildTaskPage() {
     connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &HostWindow::taskSelectionChanged);
-    auto* apptLabel = new QLabel("&Appointments of the chosen task:", page);
+    auto* apptLabel = new QLabel("Appoint&ments of the chosen task:", page);
     appointments_ = new AppointmentList(store_, page);
     apptLabel->setBuddy(appointments_);
     column->addWidget(apptLabel);

@@ -9,9 +9,10 @@
 namespace qv {
 
 namespace {
-// Room for a window manager's title bar and borders before the window is
+// Room for a window manager's borders and title bar before the window is
 // shown and its real frame known.
-constexpr int kFrameAllowance = 40;
+constexpr int kFrameWidthAllowance = 16;
+constexpr int kFrameHeightAllowance = 40;
 }  // namespace
 
 QRect ScreenFit::available(const QWidget* window) {
@@ -23,8 +24,8 @@ QRect ScreenFit::fit(const QWidget* window, const QRect& wanted) {
     const QRect area = available(window);
     if (area.isEmpty()) return wanted;
     const QRect frame = window->frameGeometry();
-    const int extraW = window->isVisible() ? frame.width() - window->width() : 0;
-    const int extraH = window->isVisible() ? frame.height() - window->height() : kFrameAllowance;
+    const int extraW = window->isVisible() ? frame.width() - window->width() : kFrameWidthAllowance;
+    const int extraH = window->isVisible() ? frame.height() - window->height() : kFrameHeightAllowance;
     QSize size = wanted.size().boundedTo(QSize(area.width() - extraW, area.height() - extraH));
     // A window never shrinks below its minimum: then it is moved instead.
     size = size.expandedTo(window->minimumSize()).expandedTo(QSize(1, 1));
