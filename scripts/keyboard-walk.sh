@@ -76,12 +76,13 @@ keys shift+Tab space; wait_title "quorvel"; shot add-project    # New Project, j
 typed "Garden"; keys Tab; typed "Beds and paths"; keys Return
 wait_sql "SELECT prjProject FROM PROJECTS" "Garden"; keys Return; sleep 0.3
 keys Escape; wait_title "New Task"; shot project-chosen
-for _ in $(seq 11); do keys Tab; done                             # round to Add Keyword
+for _ in $(seq 13); do keys Tab; done                             # from Status round to Add Keyword
 keys space; wait_title "quorvel"; shot add-keyword
 keys shift+Tab; typed "Outside"; keys Tab; typed "Walks"; keys Return
 wait_sql "SELECT keySubject || '/' || keyKeyword FROM KEYWORDS" "Outside/Walks"; keys Return; sleep 0.3
 keys Escape; wait_title "New Task"
-keys shift+Tab shift+Tab space; shot keyword-ticked                # the new keyword's box
+for _ in $(seq 13); do keys Tab; done                             # from Status to the new keyword's box
+keys space; shot keyword-ticked
 keys alt+d
 wait_sql "SELECT tskDesc || '/' || tskProject FROM TASKS" "Walk the dog/Garden"
 wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; shot task-added

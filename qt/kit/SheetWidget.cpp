@@ -131,6 +131,24 @@ void SheetWidget::rebuild() {
         else layout()->addWidget(body_);
     }
     refresh();
+    keepTabPlace();
+}
+
+void SheetWidget::keepTabPlace() {
+    if (!isVisible()) return;  // built before its window shows: in place already
+    QWidget* start = window();
+    std::vector<QWidget*> stops;
+    for (QWidget* w = start->nextInFocusChain(); w && w != start; w = w->nextInFocusChain())
+        if (isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus)) stops.push_back(w);
+    // The stop before the sheet: the order is set between Tab stops only.
+    QWidget* previous = previousInFocusChain();
+    while (previous && previous != start && (isAncestorOf(previous) || !(previous->focusPolicy() & Qt::TabFocus)))
+        previous = previous->previousInFocusChain();
+    if (!previous || previous == start) return;
+    for (QWidget* w : stops) {
+        QWidget::setTabOrder(previous, w);
+        previous = w;
+    }
 }
 
 void SheetWidget::showList() {

@@ -76,6 +76,9 @@ private:
     [[nodiscard]] std::vector<Shape> shapeOfModel() const;
     [[nodiscard]] bool owns(const Tool* tool) const;
     void rebuild();
+    // New cells join the window's Tab order at its end: put them back where
+    // the sheet stands.
+    void keepTabPlace();
     void refresh();
     void buildTitle(QBoxLayout* outer);
     QWidget* buildBody();

@@ -3,9 +3,11 @@
 // with a shortcut, its tool bar fits, and Enter opens a catalog item.
 #include <QApplication>
 #include <QListWidget>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QTextEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTableView>
@@ -16,6 +18,7 @@
 #include <set>
 
 #include "HostFixture.h"
+#include "kit/ToolCell.h"
 #include "view/AppointmentList.h"
 #include "view/HostWindow.h"
 
@@ -171,6 +174,38 @@ TEST_F(Keyboard, TabGoesRoundNewTaskOnceAndArrowsMoveInsideAnOptionGroup) {
     EXPECT_TRUE(before.startsWith("smtImp.IMP-")) << before.toStdString();
     EXPECT_TRUE(after.startsWith("smtImp.IMP-") && after != before) << after.toStdString();
     EXPECT_TRUE(afterChecked);
+}
+
+// A project added through its window rebuilds the project sheet: its new
+// option keeps the sheet's place in the Tab order, before the description.
+TEST_F(Keyboard, ASheetRebuiltWhileShownKeepsItsPlaceInTheTabOrder) {
+    StepRunner steps;
+    QStringList stops;
+    steps.when("add project", [] { return shown(kNewTask); },
+               [] { StepRunner::clickTool(kNewTask, "smtProj.kNEWPROJECT"); }, kStartTimerSettleMs);
+    steps.when("type", [] { return shown("frmAddProject"); }, [] {
+        QTest::keyClicks(cell("frmAddProject", "smtProject.txName")->findChild<QLineEdit*>(), "Garden");
+        QTest::keyClicks(cell("frmAddProject", "smtProject.txSummary")->findChild<QLineEdit*>(), "Beds");
+        StepRunner::clickTool("frmAddProject", "smtAction.OK");
+    });
+    steps.when("close", [this] { return count("SELECT count(*) FROM PROJECTS") == 1; },
+               [] { StepRunner::clickTool("frmAddProject", "smtAction.CANCEL"); }, 100);
+    steps.when("tab round", [] { return !shown("frmAddProject"); }, [&stops] {
+        QWidget* win = StepRunner::formWindow(kNewTask);
+        win->findChild<QTextEdit*>("spellTask")->setFocus();
+        for (int i = 0; i < 120; ++i) {
+            QTest::keyClick(win->focusWidget(), Qt::Key_Tab);
+            stops << focusIn(kNewTask);
+            if (stops.back() == "spellTask") break;
+        }
+        press(kNewTask, Qt::Key_Escape);
+    }, 300);
+    steps.onMessageBox([](QMessageBox&) { return 0; });
+    openNewTask(steps);
+    EXPECT_TRUE(ranAll(steps));
+    const QString garden = "smtProj." + QString::fromStdString(text("SELECT prjGUIDID FROM PROJECTS"));
+    ASSERT_GE(stops.size(), 3);
+    EXPECT_EQ(stops.mid(stops.size() - 3).join(" "), garden + " smtProj.kNEWPROJECT spellTask") << stops.join(" ").toStdString();
 }
 
 TEST_F(Keyboard, TheMenusHoldEveryCommandWithAShortcutAndTheToolBarFits) {
