@@ -31,14 +31,6 @@ ExistingTaskView::ExistingTaskView(Form& form, QWidget* parent) : FormView(form,
     column->addWidget(splitter_, 1);
 }
 
-// Typing goes to the task's text first.
-void ExistingTaskView::showEvent(QShowEvent* e) {
-    FormView::showEvent(e);
-    if (focused_) return;
-    focused_ = true;
-    if (auto* task = findChild<QTextEdit*>("spellTask")) task->setFocus(Qt::OtherFocusReason);
-}
-
 QWidget* ExistingTaskView::buildPane(int index) {
     PaneBuilder build(form(), this);
     switch (index) {

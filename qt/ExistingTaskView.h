@@ -23,9 +23,6 @@ public:
     [[nodiscard]] GridView* schedule() const { return schedule_; }
     [[nodiscard]] TabStripView* tabs() const { return tabs_; }
 
-protected:
-    void showEvent(QShowEvent* e) override;
-
 private:
     QWidget* buildPane(int index);
     QWidget* buildTabs();
@@ -34,7 +31,6 @@ private:
     SplitterView* splitter_ = nullptr;
     GridView* schedule_ = nullptr;
     TabStripView* tabs_ = nullptr;
-    bool focused_ = false;
 };
 
 }  // namespace qv

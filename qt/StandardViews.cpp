@@ -7,6 +7,9 @@
 #include "PageSetupView.h"
 #include "StackedView.h"
 
+#include <functional>
+#include <map>
+
 namespace qv {
 
 namespace {
@@ -33,18 +36,40 @@ StackedView::Recipe checklistEditor() {
             {7800, 6600}};
 }
 
+// Where typing makes sense when each window opens.
+const std::map<std::string, QString> kFirstFocus{
+    {"frmTask3", "spellTask"},
+    {"frmTAS2", "spellTask"},
+    {"frmExistingTask", "spellTask"},
+    {"frmAddProject", "smtProject.txName"},
+    {"frmAddKeyword", "smtKeywords.KEYWORD"},
+    {"frmPageSetup", "smtPrinting(0)"},
+    {"frmCkPicker", "smtList"},
+    {"frmChecklistEditor", "smtChecklist"},
+};
+
+void add(ViewFactory& f, const std::string& name, std::function<FormView*(Form&)> make) {
+    const auto focus = kFirstFocus.find(name);
+    const QString first = focus == kFirstFocus.end() ? QString() : focus->second;
+    f.add(name, [make = std::move(make), first](Form& form) {
+        FormView* view = make(form);
+        view->setFirstFocus(first);
+        return view;
+    });
+}
+
 void addStacked(ViewFactory& f, const std::string& name, StackedView::Recipe (*recipe)()) {
-    f.add(name, [recipe](Form& form) -> FormView* { return new StackedView(form, recipe()); });
+    add(f, name, [recipe](Form& form) -> FormView* { return new StackedView(form, recipe()); });
 }
 
 }  // namespace
 
 ViewFactory StandardViews::make() {
     ViewFactory f;
-    f.add("frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
-    f.add("frmTAS2", [](Form& form) -> FormView* { return new AppointmentView(form); });
-    f.add("frmExistingTask", [](Form& form) -> FormView* { return new ExistingTaskView(form); });
-    f.add("frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
+    add(f, "frmTask3", [](Form& form) -> FormView* { return new NewTaskView(form); });
+    add(f, "frmTAS2", [](Form& form) -> FormView* { return new AppointmentView(form); });
+    add(f, "frmExistingTask", [](Form& form) -> FormView* { return new ExistingTaskView(form); });
+    add(f, "frmPageSetup", [](Form& form) -> FormView* { return new PageSetupView(form); });
     addStacked(f, "frmAddProject", addProject);
     addStacked(f, "frmAddKeyword", addKeyword);
     addStacked(f, "frmCkPicker", checklistPicker);

@@ -4,7 +4,8 @@ set -euo pipefail
 pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev libgmock-dev
       libbenchmark-dev qt6-base-dev libgl-dev libhunspell-dev libpoppler-cpp-dev hunspell-en-us xvfb xauth poppler-utils
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
-      postgresql libpq-dev)
+      postgresql libpq-dev
+      openbox xdotool x11-utils imagemagick sqlite3)  # the keyboard walk under Xvfb
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include "help/HelpTopics.h"
+#include "kit/ScreenFit.h"
 #include "session/globals/SessionGlobals.h"
 #include "view/AppointmentList.h"
 #include "toolkit/HelpViewer.h"
@@ -45,62 +46,77 @@ HostWindow::HostWindow(HostStore& store, HostSession& session, QWidget* parent)
     buildLog();
     connect(&session_, &HostSession::listsChanged, this, &HostWindow::refresh);
     connect(&session_, &HostSession::logged, this, &HostWindow::log);
-    resize(980, 620);
+    resize(ScreenFit::fit(this, QRect(pos(), QSize(980, 620))).size());
     refresh();
 }
 
+QAction* HostWindow::action(const char* name, const QString& text, const QKeySequence& keys, bool enabled) {
+    auto* a = new QAction(text, this);
+    a->setObjectName(name);
+    a->setShortcut(keys);
+    a->setEnabled(enabled);
+    return a;
+}
+
+// Every command is an action with a shortcut; the menus hold them all and
+// the tool bar the everyday ones.
 void HostWindow::buildActions() {
-    QToolBar* bar = addToolBar("Commands");
-    bar->setObjectName("commands");
-    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    auto add = [&](const char* name, const QString& text, bool enabled) {
-        QAction* a = bar->addAction(text);
-        a->setObjectName(name);
-        a->setEnabled(enabled);
-        return a;
-    };
-    newTask_ = add("actNewTask", "&New Task", true);
-    newTask_->setShortcut(QKeySequence::New);
+    newTask_ = action("actNewTask", "&New Task", QKeySequence::New, true);
     connect(newTask_, &QAction::triggered, this, &HostWindow::newTask);
-    fromCatalog_ = add("actFromCatalog", "Create Task from &Catalog Item", false);
+    fromCatalog_ = action("actFromCatalog", "Create Task from &Catalog Item", QKeySequence("Ctrl+Shift+N"), false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
-    connect(add("actFolder", "Store &Folder...", true), &QAction::triggered, this, &HostWindow::chooseFolder);
-    bar->addSeparator();
-    openTask_ = add("actOpenTask", "&Open Task", false);
+    folder_ = action("actFolder", "Store &Folder...", QKeySequence("Ctrl+Shift+O"), true);
+    connect(folder_, &QAction::triggered, this, &HostWindow::chooseFolder);
+    openTask_ = action("actOpenTask", "&Open Task", QKeySequence::Open, false);
     connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
-    workAppointment_ = add("actWorkAppointment", "&Work Appointment", false);
+    workAppointment_ = action("actWorkAppointment", "&Work Appointment", QKeySequence("Ctrl+Shift+W"), false);
     connect(workAppointment_, &QAction::triggered, this, &HostWindow::workAppointment);
-    schedule_ = add("actSchedule", "Schedule Appointmen&t", false);
+    schedule_ = action("actSchedule", "&Schedule Appointment", QKeySequence("Ctrl+Shift+A"), false);
     connect(schedule_, &QAction::triggered, this, &HostWindow::scheduleAppointment);
-    saveToCatalog_ = add("actSaveToCatalog", "&Save to Catalog", false);
+    saveToCatalog_ = action("actSaveToCatalog", "&Save to Catalog", QKeySequence("Ctrl+Shift+S"), false);
     connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
-    bar->addSeparator();
-    connect(add("actHelpIndex", "&Help Index", true), &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
-    connect(add("actTour", "Getting Started &Tour", true), &QAction::triggered, this, [this] { openHelp(kTourTopic); });
-    delete_ = new QAction("&Delete Task", this);
-    delete_->setObjectName("actDelete");
-    delete_->setShortcut(QKeySequence::Delete);
-    delete_->setEnabled(false);
+    delete_ = action("actDelete", "&Delete Task", QKeySequence::Delete, false);
     connect(delete_, &QAction::triggered, this, &HostWindow::deleteTask);
+    quit_ = action("actQuit", "&Quit", QKeySequence("Ctrl+Q"), true);
+    connect(quit_, &QAction::triggered, this, &QWidget::close);
+    helpIndex_ = action("actHelpIndex", "&Help Index", QKeySequence("F1"), true);
+    connect(helpIndex_, &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
+    tour_ = action("actTour", "Getting Started &Tour", QKeySequence("Shift+F1"), true);
+    connect(tour_, &QAction::triggered, this, [this] { openHelp(kTourTopic); });
     buildMenus();
+    buildToolBar();
 }
 
 void HostWindow::buildMenus() {
+    QMenu* file = menuBar()->addMenu("&File");
+    file->setObjectName("mnuFile");
+    file->addAction(folder_);
+    // Export and Import take their place here, above Quit.
+    file->addSeparator();
+    file->addAction(quit_);
     QMenu* tasks = menuBar()->addMenu("&Task");
-    tasks->addAction(newTask_);
-    tasks->addAction(openTask_);
-    tasks->addAction(saveToCatalog_);
-    tasks->addAction(fromCatalog_);
+    tasks->setObjectName("mnuTask");
+    tasks->addActions({newTask_, openTask_, fromCatalog_, saveToCatalog_});
     tasks->addSeparator();
     tasks->addAction(delete_);
-    tasks->addSeparator();
-    QAction* quit = tasks->addAction("&Quit", this, &QWidget::close);
-    quit->setObjectName("actQuit");
-    quit->setShortcut(QKeySequence::Quit);
+    QMenu* appointments = menuBar()->addMenu("&Appointment");
+    appointments->setObjectName("mnuAppointment");
+    appointments->addActions({workAppointment_, schedule_});
     QMenu* help = menuBar()->addMenu("&Help");
-    QAction* index = help->addAction("&Help Index", this, [this] { openHelp(kHelpIndexTopic); });
-    index->setObjectName("actHelp");
-    index->setShortcut(QKeySequence::HelpContents);
+    help->setObjectName("mnuHelp");
+    help->addActions({helpIndex_, tour_});
+}
+
+// Text only, and few enough to fit the window's default width.
+void HostWindow::buildToolBar() {
+    QToolBar* bar = addToolBar("Commands");
+    bar->setObjectName("commands");
+    bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    bar->addActions({newTask_, openTask_, saveToCatalog_});
+    bar->addSeparator();
+    bar->addActions({workAppointment_, schedule_});
+    bar->addSeparator();
+    bar->addAction(helpIndex_);
 }
 
 void HostWindow::openHelp(int32_t topic) {
@@ -140,7 +156,7 @@ QWidget* HostWindow::buildTaskPage() {
     connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &HostWindow::taskSelectionChanged);
-    auto* apptLabel = new QLabel("&Appointments of the chosen task:", page);
+    auto* apptLabel = new QLabel("Appoint&ments of the chosen task:", page);
     appointments_ = new AppointmentList(store_, page);
     apptLabel->setBuddy(appointments_);
     column->addWidget(apptLabel);
@@ -158,7 +174,8 @@ QWidget* HostWindow::buildCatalogPage() {
     catalog_->setObjectName("lstCatalog");
     connect(catalog_, &QListWidget::currentRowChanged, this,
             [this](int row) { fromCatalog_->setEnabled(row >= 0); });
-    connect(catalog_, &QListWidget::itemDoubleClicked, this, &HostWindow::taskFromCatalog);
+    // Enter or a double click makes a task of the item.
+    connect(catalog_, &QListWidget::itemActivated, this, &HostWindow::taskFromCatalog);
     return catalog_;
 }
 

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 class QAction;
+class QKeySequence;
 class QCheckBox;
 class QComboBox;
 class QListWidget;
@@ -49,8 +50,10 @@ public:
     void openHelp(int32_t topic);
 
 private:
+    QAction* action(const char* name, const QString& text, const QKeySequence& keys, bool enabled);
     void buildActions();
     void buildMenus();
+    void buildToolBar();
     void taskSelectionChanged();
     QWidget* buildTaskPage();
     QWidget* buildCatalogPage();
@@ -75,6 +78,10 @@ private:
     QAction* saveToCatalog_ = nullptr;
     QAction* delete_ = nullptr;
     QAction* newTask_ = nullptr;
+    QAction* folder_ = nullptr;
+    QAction* quit_ = nullptr;
+    QAction* helpIndex_ = nullptr;
+    QAction* tour_ = nullptr;
 };
 
 }  // namespace qv

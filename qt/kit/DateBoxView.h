@@ -25,6 +25,8 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* e) override;
     void keyPressEvent(QKeyEvent* e) override;
+    // Tab and Shift+Tab leave the box, empty or not; arrows move between its parts.
+    bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 
 private:
     void followModel();

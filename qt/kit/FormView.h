@@ -3,6 +3,7 @@
 // pieces (sheets, editors, date boxes, splitters) that show its model.
 
 #include <QSize>
+#include <QString>
 #include <QWidget>
 
 #include "Export.h"
@@ -23,9 +24,17 @@ public:
     [[nodiscard]] virtual QSize defaultTwips() const { return {6000, 4000}; }
     // The dialog's own limit, but never so small that the contents clip.
     [[nodiscard]] QSize minimumSizeHint() const override;
+    // The control that has the focus when the window opens, by object name:
+    // where typing makes sense. A holder passes it to its first field.
+    void setFirstFocus(const QString& objectName) { firstFocus_ = objectName; }
+
+protected:
+    void showEvent(QShowEvent* e) override;
 
 private:
     Form& form_;
+    QString firstFocus_;
+    bool focused_ = false;
 };
 
 }  // namespace qv

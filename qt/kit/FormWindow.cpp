@@ -2,9 +2,11 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "kit/FormView.h"
+#include "kit/ScreenFit.h"
 #include "kit/Twips.h"
 #include "toolkit/Form.h"
 
@@ -77,9 +79,11 @@ void FormWindow::applyGeometry() {
     } else {
         const QSize size = g.width > 0 && g.height > 0 ? QSize(g.width, g.height) : view_->defaultTwips();
         const QSize px = Twips::toPixels(size, this).expandedTo(minimumSizeHint());
-        if (px != this->size()) resize(px);
         const QPoint at(Twips::toPixels(g.left, this), Twips::toPixels(g.top, this));
-        if (g.width > 0 && at != pos()) move(at);
+        // Kept from a larger screen, or asked at a large scale: within this screen.
+        const QRect fitted = ScreenFit::fit(this, QRect(at, px));
+        if (fitted.size() != this->size()) resize(fitted.size());
+        if (g.width > 0 && fitted.topLeft() != pos()) move(fitted.topLeft());
     }
     applying_ = false;
 }
@@ -98,6 +102,15 @@ void FormWindow::reportGeometry() {
 void FormWindow::resizeEvent(QResizeEvent* e) {
     QDialog::resizeEvent(e);
     reportGeometry();
+}
+
+// Placed beside its owner, a window may reach past the screen's edge.
+void FormWindow::showEvent(QShowEvent* e) {
+    QDialog::showEvent(e);
+    // After the placement that showing does.
+    QTimer::singleShot(0, this, [this] {
+        if (!isMaximized() && !finished_) ScreenFit::apply(this);
+    });
 }
 
 void FormWindow::moveEvent(QMoveEvent* e) {

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <QTimer>
 
+#include "kit/OptionGroups.h"
 #include "kit/SheetDelegate.h"
 #include "kit/SheetModel.h"
 #include "kit/ToolCell.h"
@@ -20,7 +21,7 @@
 namespace qv {
 
 SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent, HostMaker maker)
-    : QFrame(parent), sheet_(sheet), style_(style), hostMaker_(std::move(maker)) {
+    : QFrame(parent), sheet_(sheet), style_(style), hostMaker_(std::move(maker)), options_(new OptionGroups(this)) {
     setObjectName(QString::fromStdString(sheet.name()));
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -32,6 +33,9 @@ SheetWidget::SheetWidget(Sheet& sheet, Style style, QWidget* parent, HostMaker m
         scroll_->setWidgetResizable(true);
         scroll_->setFrameShape(QFrame::NoFrame);
         scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        // The tools inside take the focus, and the area follows it; the area
+        // itself is no Tab stop.
+        scroll_->setFocusPolicy(Qt::NoFocus);
         outer->addWidget(scroll_, 1);
     }
     changed_ = EventLink(sheet.Changed, [this] { modelChanged(); });
@@ -127,6 +131,24 @@ void SheetWidget::rebuild() {
         else layout()->addWidget(body_);
     }
     refresh();
+    keepTabPlace();
+}
+
+void SheetWidget::keepTabPlace() {
+    if (!isVisible()) return;  // built before its window shows: in place already
+    QWidget* start = window();
+    std::vector<QWidget*> stops;
+    for (QWidget* w = start->nextInFocusChain(); w && w != start; w = w->nextInFocusChain())
+        if (isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus)) stops.push_back(w);
+    // The stop before the sheet: the order is set between Tab stops only.
+    QWidget* previous = previousInFocusChain();
+    while (previous && previous != start && (isAncestorOf(previous) || !(previous->focusPolicy() & Qt::TabFocus)))
+        previous = previous->previousInFocusChain();
+    if (!previous || previous == start) return;
+    for (QWidget* w : stops) {
+        QWidget::setTabOrder(previous, w);
+        previous = w;
+    }
 }
 
 void SheetWidget::showList() {
@@ -230,6 +252,7 @@ void SheetWidget::refresh() {
     }
     if (body_) body_->setEnabled(sheet_.enabled());
     for (ToolCell* c : cells_) c->refresh();
+    options_->follow(cells_);
     if (model_) model_->follow();
 }
 

@@ -22,6 +22,7 @@ class QScrollArea;
 namespace qv {
 
 class Sheet;
+class OptionGroups;
 class SheetDelegate;
 class SheetModel;
 class Tool;
@@ -75,6 +76,9 @@ private:
     [[nodiscard]] std::vector<Shape> shapeOfModel() const;
     [[nodiscard]] bool owns(const Tool* tool) const;
     void rebuild();
+    // New cells join the window's Tab order at its end: put them back where
+    // the sheet stands.
+    void keepTabPlace();
     void refresh();
     void buildTitle(QBoxLayout* outer);
     QWidget* buildBody();
@@ -95,6 +99,7 @@ private:
     QScrollArea* scroll_ = nullptr;
     QWidget* body_ = nullptr;
     std::vector<ToolCell*> cells_;
+    OptionGroups* options_;
     QBoxLayout* column_ = nullptr;
     QBoxLayout* iconRow_ = nullptr;
     QListView* list_ = nullptr;

@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "toolkit/Ports.h"
+#include "toolkit/Sheet.h"
 #include "toolkit/Timer.h"
 #include "toolkit/Ui.h"
 
@@ -97,7 +98,19 @@ void Form::requestClose() {
     if (!cancel) unload();
 }
 
-void Form::keyDown(int32_t keyCode, int32_t shift) { Form_KeyDown(keyCode, shift); }
+// F1 is the dialog's own Help tool, wherever the focus is; the dialogs'
+// key handlers never see it.
+void Form::keyDown(int32_t keyCode, int32_t shift) {
+    if (keyCode == vbKeyF1) {
+        for (const auto& [name, sheet] : sheets_)
+            if (Tool* help = sheet->find("HELP"); help && help->enabled() && help->visible()) {
+                sheet->click(*help);
+                return;
+            }
+        return;
+    }
+    Form_KeyDown(keyCode, shift);
+}
 
 void Form::move(int32_t left, int32_t top, int32_t width, int32_t height) {
     geometry_.left = left;
