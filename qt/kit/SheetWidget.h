@@ -61,6 +61,9 @@ public:
     // whatever the model did. A stale tool is ignored.
     void forward(Tool* tool, const std::function<void(Tool&)>& action);
 
+protected:
+    void changeEvent(QEvent* e) override;
+
 private:
     struct Shape {
         const Tool* tool;
@@ -77,6 +80,7 @@ private:
     void rebuild();
     void refresh();
     void buildTitle(QBoxLayout* outer);
+    void paintTitle();
     QWidget* buildBody();
     void buildCells(QWidget* body);
     void showList();
