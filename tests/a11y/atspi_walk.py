@@ -59,6 +59,7 @@ sql "INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-00
 sql "INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('BBBBBBBB-0000-0000-0000-000000000001', 'Place', 'Outdoors')"
 sql "INSERT INTO TASKS (tskGUIDID, tskDesc, tskProject, tskProjectKey, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, tskTimeScheduled, tskTimeSpent, tskCurrent, tskHasSchedule) VALUES ('11111111-0000-0000-0000-000000000001', 'Plant the bulbs', 'Garden', 'AAAAAAAA-0000-0000-0000-000000000001', 3, 2, 1, 120, 90, 0, 1, 1)"
 sql "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked, taDuration) VALUES ('22222222-0000-0000-0000-000000000001', '11111111-0000-0000-0000-000000000001', 'Garden', 'AAAAAAAA-0000-0000-0000-000000000001', '2026-11-24T09:00:00.000', '2026-11-24T10:30:00.000', 'Plant the tulips', 2, 1, 0, 90)"
+sql "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taTaskDesc, taImp, taDifficulty, taWasWorked, taDuration, taTimeWorked) VALUES ('22222222-0000-0000-0000-000000000002', '11111111-0000-0000-0000-000000000001', '2026-11-23T09:00:00.000', '2026-11-23T10:00:00.000', 'Dig the bed', 2, 1, 1, 60, 60)"
 sql "INSERT INTO TASKSCAT (tskGUIDID, tskDesc, tskStatus, tskImp, tskDifficulty, tskTimeNeeded) VALUES ('33333333-0000-0000-0000-000000000001', 'Weekly report', 3, 1, 1, 60)"
 """
 
@@ -156,6 +157,15 @@ def act(acc, action=None):
     time.sleep(0.3)
 
 
+def everything(acc, out):
+    """Every showing element, focusable or not (pictures, labels)."""
+    for child in children(acc):
+        if showing(child):
+            out.append(child)
+            everything(child, out)
+    return out
+
+
 def focused(window):
     for acc in focusables(window, []):
         if state(acc).contains(pyatspi.STATE_FOCUSED):
@@ -206,7 +216,8 @@ class Walk:
                 print("    %-18s %-40r %r" % (acc.getRoleName(), spoken_name(acc), acc.description))
             self.seen[key] = good
             if not good:
-                self.failures.append("%s: %s %r (%s)" % (label, acc.getRoleName(), acc.name, acc.description))
+                self.failures.append("%s: no name or no role: %s %r (%s)" % (
+                    label, acc.getRoleName(), acc.name, acc.description))
         named = sum(1 for acc in found if self.seen[(label.split(":")[0], acc.path)])
         print("%-28s %3d/%-3d named with a real role" % (label, named, len(found)))
 
@@ -220,6 +231,11 @@ class Walk:
         print("%-28s focus on %s" % (label, got))
         if not good:
             self.focus_failures.append("%s opens with the focus on %s" % (label, got))
+
+    def require(self, good, what):
+        print("%-28s %s" % ("", ("ok: " if good else "FAILED: ") + what))
+        if not good:
+            self.failures.append(what)
 
     def close(self, window, button):
         self.press(window, button)
@@ -251,6 +267,8 @@ def run(walk, focus_strict):
     time.sleep(0.8)  # the start timer fills the defaults
     walk.check(new, "New Task")
     walk.expect_focus(new, "New Task", pyatspi.ROLE_TEXT, "Task Description")
+    flags = [a.name for a in everything(new, []) if a.name.startswith(("Ready: ", "Not ready"))]
+    walk.require(len(flags) == 5, "the five Ready indicators say their state: %s" % flags)
     for button, label, close in (("New Project", "Add Project", "Close"), ("Add Keyword", "Add Keyword", "Done")):
         sub = walk.open(new, button, label)
         walk.check(sub, label)
@@ -278,6 +296,9 @@ def run(walk, focus_strict):
     walk.press(task, "Task Schedule", pyatspi.ROLE_PAGE_TAB)
     time.sleep(0.5)
     walk.check(task, "Existing Task: schedule")
+    done = [c for c in focusables(task, []) if c.getRole() == pyatspi.ROLE_TABLE_CELL and c.name == "Done?"]
+    ticks = sorted(state(c).contains(pyatspi.STATE_CHECKED) for c in done)
+    walk.require(ticks == [False, True], "the schedule's Done? cells are named and say whether they are ticked")
     walk.press(task, "Cancel")
     walk.answer_question("Yes")
     wait_for("Existing Task to close", lambda: task.path not in {w.path for w in walk.windows()}, 10)
@@ -288,6 +309,11 @@ def run(walk, focus_strict):
     slot = walk.open(host, "Work Appointment", "Task Appointment")
     walk.check(slot, "Task Appointment")
     walk.expect_focus(slot, "Task Appointment", pyatspi.ROLE_TEXT, "Task Description")
+    walk.press(slot, "Timer, stopped")
+    running = wait_for("the stopwatch", lambda: find(slot, None, pyatspi.ROLE_PUSH_BUTTON) and next(
+        (a for a in focusables(slot, []) if a.name.startswith("Timer") and a.name.endswith("running")), None), 5)
+    walk.require(":" in running.name, "the running stopwatch reads its time: %r" % running.name)
+    act(running)
     for tab in ("Notes", "About"):
         walk.press(slot, tab, pyatspi.ROLE_PAGE_TAB)
         time.sleep(0.5)
@@ -341,7 +367,7 @@ def main():
     named = sum(1 for good in walk.seen.values() if good)
     print("\n%d/%d focusable elements have a name and a real role" % (named, len(walk.seen)))
     for failure in walk.failures:
-        print("  no name or no role: " + failure)
+        print("  failed: " + failure)
     for failure in walk.focus_failures:
         print("  focus: " + failure)
     bad = bool(walk.failures) or (focus_strict and bool(walk.focus_failures))
