@@ -2,7 +2,8 @@
 # Installs the Debian packages the build needs, only those that are missing.
 set -euo pipefail
 pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev libgmock-dev
-      libbenchmark-dev qt6-base-dev libgl-dev libhunspell-dev hunspell-en-us xvfb xauth poppler-utils
+      libbenchmark-dev qt6-base-dev libgl-dev libenchant-2-dev hunspell-en-us xvfb xauth poppler-utils
+      at-spi2-core python3-pyatspi dbus-x11 xdotool
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
       postgresql libpq-dev)
 missing=()
