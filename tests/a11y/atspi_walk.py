@@ -153,6 +153,8 @@ def act(acc, action=None):
     except Exception:
         pass
     finally:
+        # Other calls wait as long as they need on a busy machine; the
+        # suite's time limit ends a program that hangs.
         Atspi.set_timeout(-1, -1)
     time.sleep(0.3)
 

@@ -85,20 +85,28 @@ protected:
         return out;
     }
 
+    // A shown editor checking with English, holding the text.
+    std::unique_ptr<TextEditorView> editorWith(const std::string& text) {
+        model_.setSpellCheckOn(true);
+        auto view = std::make_unique<TextEditorView>(model_);
+        view->setSpellChecker(*checker_);
+        view->resize(400, 200);
+        view->show();
+        model_.setText(text);
+        return view;
+    }
+
     QTemporaryDir home_;
     Env env_;
     std::unique_ptr<EnchantChecker> checker_;
+    TextEditor model_{"spellTask"};
 };
 
 TEST_F(SpellingWithEnglish, AMarkedWordOffersItsCorrectionsAndTheChosenOneReplacesIt) {
     EXPECT_EQ(checker_->language(), "en_US");
-    TextEditor model("spellTask");
-    model.setSpellCheckOn(true);
-    TextEditorView view(model);
-    view.setSpellChecker(*checker_);
-    view.resize(400, 200);
-    view.show();
-    model.setText("the quick brwn fox");
+    auto editor = editorWith("the quick brwn fox");
+    TextEditorView& view = *editor;
+    TextEditor& model = model_;
     EXPECT_EQ(view.highlighter()->misspelt(view.toPlainText()), QStringList{"brwn"});
 
     auto menu = menuAt(view, 11);  // inside "brwn"
@@ -118,13 +126,8 @@ TEST_F(SpellingWithEnglish, AMarkedWordOffersItsCorrectionsAndTheChosenOneReplac
 }
 
 TEST_F(SpellingWithEnglish, AnAddedWordIsRightNowAndInTheNextSession) {
-    TextEditor model("SpellNotes");
-    model.setSpellCheckOn(true);
-    TextEditorView view(model);
-    view.setSpellChecker(*checker_);
-    view.resize(400, 200);
-    view.show();
-    model.setText("Quorvelish notes");
+    auto editor = editorWith("Quorvelish notes");
+    TextEditorView& view = *editor;
     ASSERT_EQ(view.highlighter()->misspelt(view.toPlainText()), QStringList{"Quorvelish"});
     const auto menu = menuAt(view, 3);
     for (QAction* a : menu->actions())
