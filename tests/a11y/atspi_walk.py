@@ -54,6 +54,9 @@ from gi.repository import Atspi  # noqa: E402
 EMPTY_ROLES = {pyatspi.ROLE_UNKNOWN, pyatspi.ROLE_FILLER, pyatspi.ROLE_PANEL,
                pyatspi.ROLE_REDUNDANT_OBJECT, pyatspi.ROLE_INVALID}
 
+# Where typing makes sense: a text field, or a list one can type into.
+FIELDS = (pyatspi.ROLE_TEXT, pyatspi.ROLE_COMBO_BOX)
+
 SEED = """
 sql "INSERT INTO PROJECTS (prjGUIDID, prjProject) VALUES ('AAAAAAAA-0000-0000-0000-000000000001', 'Garden')"
 sql "INSERT INTO KEYWORDS (keyGUIDID, keySubject, keyKeyword) VALUES ('BBBBBBBB-0000-0000-0000-000000000001', 'Place', 'Outdoors')"
@@ -223,13 +226,15 @@ class Walk:
         named = sum(1 for acc in found if self.seen[(label.split(":")[0], acc.path)])
         print("%-28s %3d/%-3d named with a real role" % (label, named, len(found)))
 
-    def expect_focus(self, window, label, role, name=None):
+    def expect_focus(self, window, label, roles, name=None):
+        """Where typing lands when the window opens: a field of these roles (and name)."""
+        roles = roles if isinstance(roles, tuple) else (roles,)
         try:
             acc = wait_for("the focus in " + label, lambda: focused(window), 3)
         except AssertionError:
             acc = None
         got = "%s %r" % (acc.getRoleName(), acc.name) if acc else "nothing"
-        good = acc is not None and acc.getRole() == role and (name is None or acc.name == name)
+        good = acc is not None and acc.getRole() in roles and (name is None or acc.name == name)
         print("%-28s focus on %s" % (label, got))
         if not good:
             self.focus_failures.append("%s opens with the focus on %s" % (label, got))
@@ -274,14 +279,14 @@ def run(walk, focus_strict):
     for button, label, close in (("New Project", "Add Project", "Close"), ("Add Keyword", "Add Keyword", "Done")):
         sub = walk.open(new, button, label)
         walk.check(sub, label)
-        walk.expect_focus(sub, label, pyatspi.ROLE_TEXT)
+        walk.expect_focus(sub, label, FIELDS)
         walk.close(sub, close)
     before = walk.windows()
     walk.press(new, "Printing", action="ShowMenu")
     act(wait_for("the Printing menu", lambda: find(walk.app, "Page Setup...", pyatspi.ROLE_MENU_ITEM), 10))
     setup = walk.new_window(before, "Page Setup")
     walk.check(setup, "Page Setup")
-    walk.expect_focus(setup, "Page Setup", None)
+    walk.expect_focus(setup, "Page Setup", FIELDS)
     walk.close(setup, "Cancel")
     help_window = walk.open(new, "Help", "help")
     walk.check(help_window, "Help (New Task)")
