@@ -1,9 +1,11 @@
 #include "kit/ToolCell.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -253,7 +255,19 @@ bool ToolCell::eventFilter(QObject* watched, QEvent* e) {
     }
     if (watched == main_ && e->type() == QEvent::MouseButtonDblClick)
         owner_.forward(tool_, [](Tool& t) { t.sheet()->doubleClick(t); });
+    if (watched == main_ && kind_ == Kind::Option && e->type() == QEvent::KeyPress)
+        return arrowAsTab(static_cast<QKeyEvent*>(e)->key());
     return QWidget::eventFilter(watched, e);
+}
+
+// An auto-exclusive option alone in its cell would keep the arrows to
+// itself; they move on to the next or back to the previous tool instead.
+bool ToolCell::arrowAsTab(int key) {
+    const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
+    if (!back && key != Qt::Key_Down && key != Qt::Key_Right) return false;
+    QKeyEvent tab(QEvent::KeyPress, back ? Qt::Key_Backtab : Qt::Key_Tab, Qt::NoModifier);
+    QApplication::sendEvent(main_, &tab);
+    return true;
 }
 
 void ToolCell::refresh() {

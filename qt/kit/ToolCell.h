@@ -60,6 +60,7 @@ private:
     void refreshLook(QWidget* w);
     void refreshAccessible();
     void showOptionChecked(QAbstractButton* option, bool checked);
+    bool arrowAsTab(int key);
 
     Tool* tool_;
     SheetWidget& owner_;

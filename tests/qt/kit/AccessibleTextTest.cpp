@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QRadioButton>
+#include <QTest>
 
 #include "kit/AccessibleText.h"
 #include "kit/Shades.h"
@@ -91,6 +92,16 @@ TEST(AccessibleText, OptionsAreRadioButtonsThatTheSheetMayUncheck) {
     w.syncNow();
     EXPECT_FALSE(option->isChecked());
     EXPECT_EQ(option->accessibleName(), "High");
+
+    // The arrows still move between the options, as before they were radio buttons.
+    w.show();
+    w.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&w));
+    option->setFocus();
+    QTest::keyClick(option, Qt::Key_Down);
+    EXPECT_EQ(QApplication::focusWidget(), w.cellOf("IMP-1")->control());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_EQ(QApplication::focusWidget(), option);
 }
 
 }  // namespace
