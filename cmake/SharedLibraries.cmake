@@ -9,7 +9,7 @@
 # Links a shared library from the objects of every static library that the
 # CMakeLists.txt of the given folders define, so a layer added there joins
 # it without further ado; call it after those folders. The libraries those
-# layers link from outside (SQLite, Qt, Hunspell) it links privately.
+# layers link from outside (SQLite, Qt, Enchant) it links privately.
 # Symbols stay hidden unless their declaration carries QV_EXPORT
 # (src/Export.h).
 function(qv_shared_library name)

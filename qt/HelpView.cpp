@@ -1,6 +1,7 @@
 #include "HelpView.h"
 
 #include <QDesktopServices>
+#include <QEvent>
 #include <QFileInfo>
 #include <QKeySequence>
 #include <QShortcut>
@@ -9,6 +10,8 @@
 #include <QVBoxLayout>
 
 #include "help/frmPopHelp.h"
+#include "kit/AccessibleText.h"
+#include "kit/Shades.h"
 #include "kit/PaneBuilder.h"
 
 namespace qv {
@@ -24,6 +27,7 @@ HelpView::HelpView(Form& form, QWidget* parent) : FormView(form, parent), pop_(s
     browser_->setOpenLinks(false);
     column->addWidget(browser_, 1);
     connect(browser_, &QTextBrowser::anchorClicked, this, &HelpView::followLink);
+    styleHeadings();
     moved_ = EventLink(pop_.browsePWindow.Changed, [this] { showLocation(); });
     addKeys();
     showLocation();
@@ -57,8 +61,24 @@ void HelpView::showLocation() {
     QUrl url = QUrl::fromLocalFile(hash < 0 ? path : path.left(hash));
     if (hash >= 0) url.setFragment(path.mid(hash + 1));
     browser_->setSource(url);
+    AccessibleText::set(browser_, QString::fromStdString(form().caption()));
     // The way back is the model's: the pane keeps none of its own.
     browser_->clearHistory();
+}
+
+// Headings in the link colour of the palette, where it reads on the page:
+// the pages' style sheet leaves colours to the desktop.
+void HelpView::styleHeadings() {
+    const QPalette& p = browser_->palette();
+    const QColor heading = Shades::readable(p.color(QPalette::Link), p.color(QPalette::Base), p.color(QPalette::Text));
+    browser_->document()->setDefaultStyleSheet(QStringLiteral("h1, h2 { color: %1; }").arg(heading.name()));
+}
+
+void HelpView::changeEvent(QEvent* e) {
+    FormView::changeEvent(e);
+    if (e->type() != QEvent::PaletteChange || !browser_) return;
+    styleHeadings();
+    if (pop_.browsePWindow.hasPage()) browser_->reload();
 }
 
 void HelpView::followLink(const QUrl& link) {

@@ -22,8 +22,12 @@ public:
     [[nodiscard]] QSize defaultTwips() const override { return {9000, 7800}; }
     [[nodiscard]] QTextBrowser* browser() const { return browser_; }
 
+protected:
+    void changeEvent(QEvent* e) override;
+
 private:
     void showLocation();
+    void styleHeadings();
     void followLink(const QUrl& url);
     void press(const char* key);
     void addKeys();

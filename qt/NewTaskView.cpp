@@ -24,7 +24,14 @@ NewTaskView::NewTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
     column->setContentsMargins(4, 4, 4, 4);
     PaneBuilder build(form, this);
     QWidget* banner = build.label("lblTaskSaved");
-    banner->setStyleSheet("QLabel { background: #fff4c2; color: #5a4500; font-weight: bold; padding: 4px; }");
+    // The palette's highlight pair: it stands out, and reads, on any theme.
+    banner->setAutoFillBackground(true);
+    banner->setBackgroundRole(QPalette::Highlight);
+    banner->setForegroundRole(QPalette::HighlightedText);
+    banner->setContentsMargins(4, 4, 4, 4);
+    QFont bold = banner->font();
+    bold.setBold(true);
+    banner->setFont(bold);
     column->addWidget(banner);
     Splitter* model = form.splitter("splitTask");
     if (!model) return;

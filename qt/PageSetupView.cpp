@@ -1,10 +1,14 @@
 #include "PageSetupView.h"
 
 #include <QHBoxLayout>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "PagePicture.h"
+#include "kit/AccessibleText.h"
 #include "kit/PaneBuilder.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
@@ -48,7 +52,28 @@ QWidget* PageSetupView::colourButton(const char* sheetName, const char* key, con
         return button;
     }
     connect(button, &QPushButton::clicked, this, [sheet, key] { sheet->click(sheet->tool(key)); });
+    const QString name = AccessibleText::clean(text.toStdString());
+    auto follow = [button, sheet, key, name] {
+        const Tool* tool = sheet->find(key);
+        const std::string number = tool ? tool->text() : std::string();
+        button->setIcon(swatch(number));
+        AccessibleText::set(button, name, QStringLiteral("Colour %1").arg(QString::fromStdString(number)));
+    };
+    swatches_.emplace_back(sheet->Changed, follow);
+    follow();
     return button;
+}
+
+QIcon PageSetupView::swatch(const std::string& number) {
+    bool ok = false;
+    const long rgb = QString::fromStdString(number).trimmed().toLong(&ok);
+    if (!ok || rgb < 0 || rgb > 0xFFFFFF) return {};
+    QPixmap pm(16, 16);
+    pm.fill(QColor(static_cast<int>(rgb & 0xFF), static_cast<int>((rgb >> 8) & 0xFF), static_cast<int>((rgb >> 16) & 0xFF)));
+    QPainter p(&pm);
+    p.setPen(Qt::gray);  // an edge that shows on a light or a dark button
+    p.drawRect(pm.rect().adjusted(0, 0, -1, -1));
+    return QIcon(pm);
 }
 
 }  // namespace qv

@@ -2,7 +2,8 @@
 # Installs the Debian packages the build needs, only those that are missing.
 set -euo pipefail
 pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev libgmock-dev
-      libbenchmark-dev qt6-base-dev libgl-dev libhunspell-dev libpoppler-cpp-dev hunspell-en-us xvfb xauth poppler-utils
+      libbenchmark-dev qt6-base-dev libgl-dev libenchant-2-dev libpoppler-cpp-dev hunspell-en-us xvfb xauth poppler-utils
+      at-spi2-core python3-pyatspi dbus-x11
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
       postgresql libpq-dev
       openbox xdotool x11-utils imagemagick sqlite3)  # the keyboard walk under Xvfb

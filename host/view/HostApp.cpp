@@ -13,6 +13,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
 #include "toolkit/SystemClock.h"
+#include "view/HostPalette.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
 #include "view/HostTour.h"
@@ -34,6 +35,7 @@ HostApp::HostApp(const std::string& folder, bool interactive)
       colors_(std::make_unique<QtColorChooser>()),
       print_(std::make_unique<QtPrintSurface>()),
       store_(std::make_unique<HostStore>(folder)) {
+    HostPalette::applyFromEnvironment();
     g().AppPath = folder;
     ports().ui = ui_.get();
     ports().clock = clock_.get();

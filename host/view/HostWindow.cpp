@@ -40,6 +40,9 @@ HostWindow::HostWindow(HostStore& store, HostSession& session, QWidget* parent)
     buildActions();
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName("tabs");
+    tabs->setAccessibleName("Task lists");
+    // Its tab bar takes the focus for it.
+    tabs->setFocusPolicy(Qt::NoFocus);
     tabs->addTab(buildTaskPage(), "Tasks");
     tabs->addTab(buildCatalogPage(), "Task Catalog");
     setCentralWidget(tabs);
@@ -130,6 +133,7 @@ QWidget* HostWindow::buildTaskPage() {
     project_ = new QComboBox(page);
     project_->setObjectName("cboProject");
     project_->setMinimumContentsLength(24);
+    project_->setAccessibleName("Project");
     auto* projectLabel = new QLabel("&Project:", page);
     projectLabel->setBuddy(project_);
     currentOnly_ = new QCheckBox("Current &List", page);
@@ -141,6 +145,7 @@ QWidget* HostWindow::buildTaskPage() {
     column->addLayout(filters);
     table_ = new QTableView(page);
     table_->setObjectName("tblTasks");
+    table_->setAccessibleName("Tasks");
     table_->setModel(tasks_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setAlternatingRowColors(true);
@@ -158,6 +163,7 @@ QWidget* HostWindow::buildTaskPage() {
             &HostWindow::taskSelectionChanged);
     auto* apptLabel = new QLabel("Appoint&ments of the chosen task:", page);
     appointments_ = new AppointmentList(store_, page);
+    appointments_->setAccessibleName("Appointments of the chosen task");
     apptLabel->setBuddy(appointments_);
     column->addWidget(apptLabel);
     column->addWidget(appointments_, 1);
@@ -172,6 +178,7 @@ QWidget* HostWindow::buildTaskPage() {
 QWidget* HostWindow::buildCatalogPage() {
     catalog_ = new QListWidget(this);
     catalog_->setObjectName("lstCatalog");
+    catalog_->setAccessibleName("Task Catalog");
     connect(catalog_, &QListWidget::currentRowChanged, this,
             [this](int row) { fromCatalog_->setEnabled(row >= 0); });
     // Enter or a double click makes a task of the item.
@@ -184,6 +191,7 @@ void HostWindow::buildLog() {
     dock->setObjectName("eventDock");
     log_ = new QPlainTextEdit(dock);
     log_->setObjectName("txtLog");
+    log_->setAccessibleName("Component Events");
     log_->setReadOnly(true);
     log_->setMaximumBlockCount(2000);
     dock->setWidget(log_);

@@ -60,6 +60,9 @@ QVariant TaskTableModel::data(const QModelIndex& index, int role) const {
     const TaskRow* r = index.isValid() ? rowAt(index.row()) : nullptr;
     if (!r || index.column() < 0 || index.column() >= ColumnCount) return {};
     if (role == Qt::DisplayRole) return display(*r, index.column());
+    // An empty cell still says what it lacks ("no deadline").
+    if (role == Qt::AccessibleTextRole && display(*r, index.column()).toString().isEmpty())
+        return QStringLiteral("no ") + headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString().toLower();
     if (role == Qt::UserRole) return QString::fromStdString(r->guid);
     if (role == Qt::TextAlignmentRole && index.column() >= TimeNeeded)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);

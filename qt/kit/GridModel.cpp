@@ -65,8 +65,23 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
         return ticked(grid_.cell(index.row(), c)) ? Qt::Checked : Qt::Unchecked;
     case Qt::TextAlignmentRole:
         return style == Grid::CellStyle::Button ? QVariant(Qt::AlignCenter) : QVariant();
+    case Qt::AccessibleTextRole: return spokenText(index.row(), c);
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole:
+        return grid_.column(c).tip.empty() ? QVariant() : QString::fromStdString(grid_.column(c).tip);
     default: return {};
     }
+}
+
+// A check box says its column (its state is its checked state), a button
+// what it does, an empty cell its column; the rest read as shown.
+QString GridModel::spokenText(int row, int column) const {
+    const Grid::Column& col = grid_.column(column);
+    const QString caption = QString::fromStdString(col.caption);
+    if (col.style == Grid::CellStyle::CheckBox) return caption;
+    if (col.style == Grid::CellStyle::Button && !col.tip.empty()) return QString::fromStdString(col.tip);
+    const QString shown = QString::fromStdString(grid_.displayText(row, column));
+    return shown.isEmpty() ? caption + ": none" : shown;
 }
 
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -40,6 +40,7 @@ signals:
 
 private:
     void gridChanged();
+    [[nodiscard]] QString spokenText(int row, int column) const;
 
     Grid& grid_;
     std::vector<int> shown_;

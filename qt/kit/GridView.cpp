@@ -11,6 +11,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "kit/AccessibleText.h"
 #include "kit/GridDelegate.h"
 #include "kit/GridModel.h"
 #include "kit/Twips.h"
@@ -70,6 +71,7 @@ GridView::GridView(Grid& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
     table_->verticalHeader()->hide();
     table_->horizontalHeader()->setHighlightSections(false);
     table_->installEventFilter(new ButtonKeys(table_, delegate_));
+    caption_->setBuddy(table_);
     column->addWidget(table_, 1);
 
     connect(model_, &GridModel::layoutFollowed, this, &GridView::followLayout);
@@ -87,6 +89,7 @@ int GridView::viewColumnOf(const std::string& key) const { return model_->viewCo
 void GridView::followLayout() {
     caption_->setText(QString::fromStdString(grid_.caption()));
     caption_->setVisible(!grid_.caption().empty());
+    AccessibleText::set(table_, AccessibleText::clean(grid_.caption().empty() ? grid_.name() : grid_.caption()));
     QHeaderView* header = table_->horizontalHeader();
     for (int v = 0; v < model_->columnCount(); ++v) {
         const int width = grid_.column(model_->gridColumn(v)).width;

@@ -1,6 +1,7 @@
 #include "kit/PaneBuilder.h"
 
 #include <QFont>
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "kit/DateBoxView.h"
@@ -55,7 +56,10 @@ QWidget* PaneBuilder::editorPane(const std::string& labelName, const std::string
     f.setBold(true);
     caption->setFont(f);
     column->addWidget(caption);
-    column->addWidget(inside.editor(editorName), 1);
+    QWidget* editor = inside.editor(editorName);
+    // A screen reader names the editor by its label.
+    if (auto* label = qobject_cast<QLabel*>(caption)) label->setBuddy(editor);
+    column->addWidget(editor, 1);
     if (!toolbarName.empty()) column->addWidget(inside.sheet(toolbarName, SheetWidget::Style::Toolbar));
     return pane;
 }

@@ -1,10 +1,9 @@
 #include "kit/QtUi.h"
 
-#include "kit/HunspellChecker.h"
-
 #include <QApplication>
 #include <QCursor>
 
+#include "kit/EnchantChecker.h"
 #include "kit/FormView.h"
 #include "kit/FormWindow.h"
 #include "kit/MessageBoxes.h"
@@ -21,7 +20,7 @@ constexpr int kTimerPumpMs = 20;
 }  // namespace
 
 QtUi::QtUi(ViewFactory& views, QObject* parent) : QObject(parent), views_(views) {
-    HunspellChecker::preload();
+    EnchantChecker::preload();
     timerPump_.setInterval(kTimerPumpMs);
     // A timer's handler may wait in a modal window; the pump itself must go
     // on ticking meanwhile, so each pass runs from a one-shot of its own.

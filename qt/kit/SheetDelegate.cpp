@@ -10,6 +10,7 @@
 #include <QPainter>
 #include <QTimer>
 
+#include "kit/Shades.h"
 #include "kit/SheetModel.h"
 #include "kit/SheetWidget.h"
 #include "kit/ToolCell.h"
@@ -79,7 +80,7 @@ void SheetDelegate::paintSeparator(QPainter* p, const QStyleOptionViewItem& opt)
 }
 
 void SheetDelegate::paintHeading(QPainter* p, const QStyleOptionViewItem& opt) const {
-    p->fillRect(opt.rect, opt.palette.brush(QPalette::AlternateBase));
+    p->fillRect(opt.rect, Shades::headingGround(opt.palette.color(QPalette::Base), opt.palette.color(QPalette::Text)));
     p->save();
     p->setFont(opt.font);
     const QRect text = opt.rect.adjusted(kMargin, 0, -kMargin, 0);

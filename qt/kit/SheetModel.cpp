@@ -1,7 +1,11 @@
 #include "kit/SheetModel.h"
 
 #include <QFont>
+#include <QGuiApplication>
+#include <QPalette>
 
+#include "kit/AccessibleText.h"
+#include "kit/Shades.h"
 #include "kit/ToolCell.h"
 #include "kit/ToolIcons.h"
 #include "toolkit/Sheet.h"
@@ -59,6 +63,20 @@ QString SheetModel::shownText(const Tool& t, int kind) {
     return ToolCell::readingOf(t);
 }
 
+// What a screen reader says of a row: a field's name with its value, a
+// picture's state, a button's reading, as the row's cell would say them.
+QString SheetModel::spokenText(const Tool& t, int kind) {
+    const auto k = static_cast<ToolCell::Kind>(kind);
+    const QString name = AccessibleText::nameOf(t);
+    const QString state = AccessibleText::stateOf(t.image());
+    if (k == ToolCell::Kind::TextBox || k == ToolCell::Kind::List || k == ToolCell::Kind::Hosted)
+        return t.text().empty() ? name : name + ": " + qs(t.text());
+    if (k == ToolCell::Kind::Icon) return state.isEmpty() ? name : state + (t.tip().empty() ? "" : ": " + qs(t.tip()));
+    const QString reading = AccessibleText::clean(ToolCell::readingOf(t).toStdString());
+    const QString said = reading.isEmpty() ? name : reading;
+    return state.isEmpty() ? said : said + ", " + state;
+}
+
 QVariant SheetModel::data(const QModelIndex& index, int role) const {
     const Tool* t = toolAt(index);
     if (!t) return {};
@@ -69,7 +87,9 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
     case TextRole: return qs(t->text());
     case KindRole: return kind;
     case Qt::DecorationRole: return ToolIcons::icon(t->image());
-    case Qt::ToolTipRole: return t->tip().empty() ? QVariant() : QVariant(qs(t->tip()));
+    case Qt::ToolTipRole:
+    case Qt::AccessibleDescriptionRole: return t->tip().empty() ? QVariant() : QVariant(qs(t->tip()));
+    case Qt::AccessibleTextRole: return spokenText(*t, kind);
     case Qt::CheckStateRole:
         if (kind == static_cast<int>(ToolCell::Kind::Check) || kind == static_cast<int>(ToolCell::Kind::Option))
             return t->checked() ? Qt::Checked : Qt::Unchecked;
@@ -82,7 +102,9 @@ QVariant SheetModel::data(const QModelIndex& index, int role) const {
     }
     case Qt::ForegroundRole: {
         const QColor own = ToolCell::foreColorOf(*t);
-        return own.isValid() ? QVariant(own) : QVariant();
+        if (!own.isValid()) return {};
+        const QPalette palette = QGuiApplication::palette();
+        return Shades::readable(own, palette.color(QPalette::Base), palette.color(QPalette::Text));
     }
     default: return {};
     }
@@ -97,6 +119,8 @@ Qt::ItemFlags SheetModel::flags(const QModelIndex& index) const {
     if (kind == ToolCell::Kind::TextBox || kind == ToolCell::Kind::List || kind == ToolCell::Kind::Hosted)
         f |= Qt::ItemIsEditable;
     if (kind != ToolCell::Kind::Separator && kind != ToolCell::Kind::Heading) f |= Qt::ItemIsSelectable;
+    // A screen reader tells a check box or option by its checked state.
+    if (kind == ToolCell::Kind::Check || kind == ToolCell::Kind::Option) f |= Qt::ItemIsUserCheckable;
     return f;
 }
 

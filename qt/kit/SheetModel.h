@@ -35,6 +35,7 @@ public:
 private:
     [[nodiscard]] std::vector<Tool*> shownTools() const;
     [[nodiscard]] static QString shownText(const Tool& tool, int kind);
+    [[nodiscard]] static QString spokenText(const Tool& tool, int kind);
 
     Sheet& sheet_;
     std::vector<Tool*> rows_;

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QListView>
 #include <QScrollArea>
@@ -12,6 +13,8 @@
 #include <QTimer>
 
 #include "kit/OptionGroups.h"
+#include "kit/AccessibleText.h"
+#include "kit/Shades.h"
 #include "kit/SheetDelegate.h"
 #include "kit/SheetModel.h"
 #include "kit/ToolCell.h"
@@ -49,13 +52,26 @@ void SheetWidget::buildTitle(QBoxLayout* outer) {
     title_->setObjectName(objectName() + ".title");
     title_->setTextFormat(Qt::PlainText);
     title_->setAutoFillBackground(true);
-    title_->setBackgroundRole(QPalette::Mid);
-    title_->setForegroundRole(QPalette::BrightText);
     title_->setContentsMargins(6, 3, 6, 3);
     QFont f = title_->font();
     f.setBold(true);
     title_->setFont(f);
+    paintTitle();
     outer->addWidget(title_);
+}
+
+// The bar is the window's ground tinted with its text colour, so the
+// title reads under any palette.
+void SheetWidget::paintTitle() {
+    if (!title_) return;
+    QPalette p = palette();
+    p.setColor(QPalette::Window, Shades::titleGround(p.color(QPalette::Window), p.color(QPalette::WindowText)));
+    title_->setPalette(p);
+}
+
+void SheetWidget::changeEvent(QEvent* e) {
+    QFrame::changeEvent(e);
+    if (e->type() == QEvent::PaletteChange) paintTitle();
 }
 
 QWidget* SheetWidget::makeHosted(const std::string& controlName, QWidget* parent) const {
@@ -166,6 +182,7 @@ void SheetWidget::showList() {
     list_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
                            QAbstractItemView::AnyKeyPressed);
     list_->setMouseTracking(true);
+    list_->setAccessibleName(accessibleName());
     model_ = new SheetModel(sheet_, list_);
     delegate_ = new SheetDelegate(*model_, *this, *list_);
     list_->setItemDelegate(delegate_);
@@ -250,6 +267,10 @@ void SheetWidget::refresh() {
         title_->setText(QString::fromStdString(sheet_.title()));
         title_->setVisible(!sheet_.title().empty());
     }
+    const QString name = AccessibleText::clean(sheet_.title());
+    AccessibleText::set(this, name);
+    if (scroll_) AccessibleText::set(scroll_, name);
+    if (list_) AccessibleText::set(list_, name);
     if (body_) body_->setEnabled(sheet_.enabled());
     for (ToolCell* c : cells_) c->refresh();
     options_->follow(cells_);

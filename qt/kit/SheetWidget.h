@@ -62,6 +62,9 @@ public:
     // whatever the model did. A stale tool is ignored.
     void forward(Tool* tool, const std::function<void(Tool&)>& action);
 
+protected:
+    void changeEvent(QEvent* e) override;
+
 private:
     struct Shape {
         const Tool* tool;
@@ -81,6 +84,7 @@ private:
     void keepTabPlace();
     void refresh();
     void buildTitle(QBoxLayout* outer);
+    void paintTitle();
     QWidget* buildBody();
     void buildCells(QWidget* body);
     void showList();

@@ -5,23 +5,29 @@
 
 namespace qv {
 
-class HunspellChecker;
+class SpellChecker;
 
 class SpellHighlighter : public QSyntaxHighlighter {
     Q_OBJECT
 public:
-    SpellHighlighter(QTextDocument* doc, const HunspellChecker& checker);
+    SpellHighlighter(QTextDocument* doc, SpellChecker& checker);
 
     void setOn(bool on);
     [[nodiscard]] bool isOn() const { return on_; }
+    [[nodiscard]] SpellChecker& checker() const { return *checker_; }
+    void setChecker(SpellChecker& checker);
     // The misspelt words of one line (tests).
     [[nodiscard]] QStringList misspelt(const QString& line) const;
+    // The misspelt word of a line at a position, with where it starts; empty when right.
+    [[nodiscard]] QString misspeltAt(const QString& line, int position, int* start = nullptr) const;
 
 protected:
     void highlightBlock(const QString& text) override;
 
 private:
-    const HunspellChecker& checker_;
+    [[nodiscard]] bool wrong(const QString& word) const;
+
+    SpellChecker* checker_;
     bool on_ = false;
 };
 

@@ -6,6 +6,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include "kit/AccessibleText.h"
 #include "toolkit/TabStrip.h"
 
 namespace qv {
@@ -18,7 +19,13 @@ TabStripView::TabStripView(TabStrip& tabs, QWidget* parent) : QWidget(parent), t
     bar_ = new QTabBar(this);
     bar_->setObjectName(objectName() + ".bar");
     bar_->setExpanding(false);
-    for (const std::string& caption : tabs.captions()) bar_->addTab(QString::fromStdString(caption));
+    QStringList names;
+    for (const std::string& caption : tabs.captions()) {
+        bar_->addTab(QString::fromStdString(caption));
+        names << AccessibleText::clean(caption);
+    }
+    // The strip is named by its pages; each tab by its caption.
+    bar_->setAccessibleName(names.join(QStringLiteral(", ")));
     column->addWidget(bar_);
     stack_ = new QStackedWidget(this);
     column->addWidget(stack_, 1);

@@ -1,9 +1,11 @@
 #include "kit/ToolCell.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QEvent>
 #include <QComboBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -12,6 +14,9 @@
 #include <QSignalBlocker>
 #include <QToolButton>
 
+#include "kit/AccessibleText.h"
+#include "kit/MenuButtonAccessible.h"
+#include "kit/Shades.h"
 #include "kit/SheetWidget.h"
 #include "kit/ToolIcons.h"
 #include "toolkit/Sheet.h"
@@ -124,6 +129,7 @@ QWidget* ToolCell::makeButton() {
 }
 
 QWidget* ToolCell::makeMenuButton() {
+    MenuButtonAccessible::install();
     auto* b = qobject_cast<QToolButton*>(makeButton());
     menu_ = new QMenu(b);
     b->setMenu(menu_);
@@ -154,9 +160,11 @@ QWidget* ToolCell::makeCheck() {
     return c;
 }
 
+// Auto-exclusive, so a screen reader hears a radio button; alone in its
+// cell, it excludes nothing: the sheet decides which option is checked.
 QWidget* ToolCell::makeOption() {
     auto* r = new QRadioButton(this);
-    r->setAutoExclusive(false);
+    r->setAutoExclusive(true);
     connect(r, &QRadioButton::clicked, this, [this] { owner_.forward(tool_, [](Tool& t) { t.sheet()->click(t); }); });
     return r;
 }
@@ -189,6 +197,7 @@ QWidget* ToolCell::makeLabeled(QWidget* field) {
     row->setContentsMargins(0, 0, 0, 0);
     caption_ = new QLabel(holder);
     caption_->setBuddy(field);
+    field_ = field;
     row->addWidget(caption_);
     if (field) {
         field->setParent(holder);
@@ -218,7 +227,6 @@ QWidget* ToolCell::makeHeading() {
     auto* l = new QLabel(this);
     l->setTextFormat(Qt::PlainText);
     l->setAutoFillBackground(true);
-    l->setBackgroundRole(QPalette::AlternateBase);
     l->setContentsMargins(2, 2, 2, 2);
     return l;
 }
@@ -247,7 +255,19 @@ bool ToolCell::eventFilter(QObject* watched, QEvent* e) {
     }
     if (watched == main_ && e->type() == QEvent::MouseButtonDblClick)
         owner_.forward(tool_, [](Tool& t) { t.sheet()->doubleClick(t); });
+    if (watched == main_ && kind_ == Kind::Option && e->type() == QEvent::KeyPress)
+        return arrowAsTab(static_cast<QKeyEvent*>(e)->key());
     return QWidget::eventFilter(watched, e);
+}
+
+// An auto-exclusive option alone in its cell would keep the arrows to
+// itself; they move on to the next or back to the previous tool instead.
+bool ToolCell::arrowAsTab(int key) {
+    const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
+    if (!back && key != Qt::Key_Down && key != Qt::Key_Right) return false;
+    QKeyEvent tab(QEvent::KeyPress, back ? Qt::Key_Backtab : Qt::Key_Tab, Qt::NoModifier);
+    QApplication::sendEvent(main_, &tab);
+    return true;
 }
 
 void ToolCell::refresh() {
@@ -270,7 +290,8 @@ void ToolCell::refresh() {
         // A button that shows a reading (the stopwatch) shows it after its caption.
         b->setText(kind_ == Kind::Button ? readingOf(t) : caption);
         if (kind_ == Kind::Button || kind_ == Kind::MenuButton) b->setIcon(ToolIcons::icon(t.image()));
-        if (kind_ == Kind::Check || kind_ == Kind::Option) b->setChecked(t.checked());
+        if (kind_ == Kind::Check) b->setChecked(t.checked());
+        if (kind_ == Kind::Option) showOptionChecked(b, t.checked());
     }
     if (auto* l = qobject_cast<QLabel*>(main_)) l->setText(readingOf(t));
     if (kind_ == Kind::TextBox) {
@@ -282,8 +303,50 @@ void ToolCell::refresh() {
     }
     if (kind_ == Kind::List) refreshList();
     if (kind_ == Kind::MenuButton) refreshMenu();
-    refreshLook(main_ ? main_ : this);
+    if (main_) refreshLook(main_);
     if (caption_) refreshLook(caption_);
+    refreshAccessible();
+}
+
+// An auto-exclusive button refuses to uncheck itself; the sheet may.
+void ToolCell::showOptionChecked(QAbstractButton* option, bool checked) {
+    if (option->isChecked() == checked) return;
+    option->setAutoExclusive(false);
+    option->setChecked(checked);
+    option->setAutoExclusive(true);
+}
+
+// Names and descriptions for screen readers: the control's own text is not
+// always what it does (a picture, a reading, a field under a label).
+void ToolCell::refreshAccessible() {
+    const Tool& t = *tool_;
+    const QString tip = qs(t.tip());
+    const QString name = AccessibleText::nameOf(t);
+    const QString state = AccessibleText::stateOf(t.image());
+    const auto withState = [&state](const QString& n) { return state.isEmpty() ? n : n + ", " + state; };
+    switch (kind_) {
+    case Kind::Button:
+    case Kind::MenuButton: {
+        const QString reading = AccessibleText::clean(readingOf(t).toStdString());
+        AccessibleText::set(main_, withState(reading.isEmpty() ? name : reading), tip);
+        break;
+    }
+    case Kind::Check:
+    case Kind::Option: AccessibleText::set(main_, name, tip); break;
+    case Kind::List:
+    case Kind::TextBox:
+    case Kind::Hosted:
+        AccessibleText::set(field_, name, tip);
+        if (auto* box = qobject_cast<QComboBox*>(field_)) AccessibleText::set(box->lineEdit(), name, tip);
+        if (press_) AccessibleText::set(press_, withState(name), tip);
+        break;
+    case Kind::Icon: {
+        const QString said = state.isEmpty() ? name : state.left(1).toUpper() + state.mid(1);
+        AccessibleText::set(icon_, tip.isEmpty() || tip == said ? said : said + ": " + tip, tip);
+        break;
+    }
+    default: break;
+    }
 }
 
 void ToolCell::refreshList() {
@@ -325,12 +388,27 @@ void ToolCell::refreshLook(QWidget* w) {
         f.setBold(bold);
         w->setFont(f);
     }
-    QPalette p = w->palette();
-    const QColor own = foreColorOf(*tool_);
-    const QColor fore = own.isValid() ? own : palette().color(QPalette::WindowText);
-    for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Active, role, fore);
-    for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(QPalette::Inactive, role, fore);
-    w->setPalette(p);
+    // Only what the tool says of itself is fixed; the rest is the palette's.
+    const QPalette& ours = palette();
+    const QColor ink = ours.color(QPalette::WindowText);
+    const QColor ground = ours.color(QPalette::Window);
+    QPalette p = ours;
+    if (const QColor own = foreColorOf(*tool_); own.isValid()) {
+        const QColor fore = Shades::readable(own, ground, ink);
+        for (auto group : {QPalette::Active, QPalette::Inactive})
+            for (auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) p.setColor(group, role, fore);
+    }
+    if (kind_ == Kind::Heading) p.setColor(QPalette::Window, Shades::headingGround(ground, ink));
+    if (w->palette() != p) w->setPalette(p);
+}
+
+void ToolCell::changeEvent(QEvent* e) {
+    QWidget::changeEvent(e);
+    if (e->type() != QEvent::PaletteChange || !main_ || repainting_) return;
+    repainting_ = true;
+    refreshLook(main_);
+    if (caption_) refreshLook(caption_);
+    repainting_ = false;
 }
 
 }  // namespace qv

@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QWidget>
 
+class QAbstractButton;
 class QLabel;
 class QToolButton;
 class QMenu;
@@ -38,6 +39,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* e) override;
+    void changeEvent(QEvent* e) override;
 
 private:
     void build();
@@ -56,16 +58,22 @@ private:
     void refreshMenu();
     void refreshList();
     void refreshLook(QWidget* w);
+    void refreshAccessible();
+    void showOptionChecked(QAbstractButton* option, bool checked);
+    bool arrowAsTab(int key);
 
     Tool* tool_;
     SheetWidget& owner_;
     Kind kind_;
     bool toolbar_;
     QWidget* main_ = nullptr;
+    QWidget* field_ = nullptr;  // the box a caption labels (a list, a text, a date)
     QLabel* caption_ = nullptr;
     QLabel* icon_ = nullptr;
     QToolButton* press_ = nullptr;  // a text tool's picture: a click on it clicks the tool
     QMenu* menu_ = nullptr;
+    bool repainting_ = false;
 };
+
 
 }  // namespace qv

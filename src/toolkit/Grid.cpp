@@ -46,7 +46,7 @@ void Grid::userResized(int32_t twips) {
 }
 
 int32_t Grid::addColumn(const std::string& caption, const std::string& field, int32_t width) {
-    columns_.push_back({caption, field, width, true, columnCount(), CellStyle::Edit});
+    columns_.push_back({caption, field, width, true, columnCount(), CellStyle::Edit, {}});
     for (auto& r : rows_) r.cells.emplace_back();
     Changed();
     return columnCount() - 1;
@@ -75,6 +75,11 @@ void Grid::setColumnVisible(int32_t index, bool visible) {
 
 void Grid::setColumnCaption(int32_t index, const std::string& caption) {
     at(index).caption = caption;
+    Changed();
+}
+
+void Grid::setColumnTip(int32_t index, const std::string& tip) {
+    at(index).tip = tip;
     Changed();
 }
 

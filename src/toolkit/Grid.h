@@ -30,6 +30,7 @@ public:
         bool visible = true;
         int32_t position = 0;  // among the shown columns; ties keep the order of adding
         CellStyle style = CellStyle::Edit;
+        std::string tip;  // what a cell of the column does, for a button column
     };
     struct Row {
         std::vector<std::string> cells;
@@ -63,6 +64,7 @@ public:
     void setColumnCaption(int32_t index, const std::string& caption);
     void setColumnPosition(int32_t index, int32_t position);
     void setColumnStyle(int32_t index, CellStyle style);
+    void setColumnTip(int32_t index, const std::string& tip);
     // The visible columns in their shown order.
     [[nodiscard]] std::vector<int32_t> shownColumns() const;
 

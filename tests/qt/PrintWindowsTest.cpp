@@ -46,6 +46,15 @@ TEST_F(PrintWindows, PageSetupPreviewAndPrintFromTheNewTaskWindow) {
         auto* heading = w->findChild<ToolCell*>("smtPrinting(1).HEADING");
         ASSERT_NE(heading, nullptr);
         StepRunner::typeInto(heading->findChild<QLineEdit*>(), " for Home");
+        // The heading's colour shows as a swatch on its button, and follows the number.
+        auto* colour = w->findChild<ToolCell*>("smtPrinting(1).HCOLOR");
+        ASSERT_NE(colour, nullptr);
+        auto* edit = colour->findChild<QLineEdit*>();
+        edit->clear();
+        StepRunner::typeInto(edit, "16711680");  // blue: red is the low byte
+        QApplication::processEvents();
+        const QImage shown = w->findChild<QPushButton*>("HCOLOR.choose")->icon().pixmap(16).toImage();
+        EXPECT_EQ(shown.pixelColor(8, 8), QColor(Qt::blue));
         // The printer list offers the no-printer pick where none is installed.
         auto* printer = w->findChild<ToolCell*>("smtPrinting(0).PRINTER");
         ASSERT_NE(printer, nullptr);

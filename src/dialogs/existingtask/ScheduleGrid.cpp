@@ -147,6 +147,7 @@ void ScheduleGrid::InitializeLayout() {
             grid_.setColumnPosition(c, s.position);
             grid_.setColumnStyle(c, s.style);
         }
+    if (int32_t c = col(kBtn); c >= 0) grid_.setColumnTip(c, "Copy the Duration to the Actual Time Spent");
     applyLayoutWidths();
 }
 
