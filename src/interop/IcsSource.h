@@ -1,0 +1,39 @@
+#pragma once
+// A calendar file read through libical's parser, with the line each
+// component and property began on, so that a complaint names its line.
+// Throws InteropError for a file that can't be read, isn't UTF-8, isn't a
+// calendar or holds a line the parser refused.
+
+#include <map>
+#include <string>
+#include <tuple>
+#include <unordered_map>
+#include <vector>
+
+#include "interop/IcalPtr.h"
+
+namespace qv {
+
+class IcsSource {
+public:
+    explicit IcsSource(std::string path);
+
+    [[nodiscard]] const std::string& path() const { return path_; }
+    [[nodiscard]] icalcomponent* calendar() const { return root_.get(); }
+    // The line of a component's BEGIN, and of the nth (from 0) property of
+    // that name in it; the component's line when unknown.
+    [[nodiscard]] int lineOf(icalcomponent* c) const;
+    [[nodiscard]] int lineOf(icalcomponent* c, icalproperty* p) const;
+
+private:
+    void parse(const std::string& text);
+    void numberComponents(icalcomponent* c, int& ordinal);
+
+    std::string path_;
+    IcalComponentPtr root_;
+    std::vector<int> componentLines_;  // by order of BEGIN
+    std::map<std::tuple<int, std::string, int>, int> propertyLines_;
+    std::unordered_map<icalcomponent*, int> ordinals_;
+};
+
+}  // namespace qv
