@@ -6,7 +6,6 @@ icalproperty_status statusOf(int16_t status) {
     switch (status) {
     case kDoneStatus: return ICAL_STATUS_COMPLETED;
     case kInProgressStatus: return ICAL_STATUS_INPROCESS;
-    case kDeferredStatus: return ICAL_STATUS_CANCELLED;
     default: return ICAL_STATUS_NEEDSACTION;
     }
 }

@@ -1,7 +1,8 @@
 #pragma once
 // How the store's status and importance read in a calendar. Status 0 is
-// the done status; 1 is In Progress; 5 Deferred; every other one is a task
-// still to do. The five importances, Critical first, spread over
+// the done status; 1 is In Progress; every other one is a task still to do
+// (NEEDS-ACTION: Deferred too, which CANCELLED would have readers count as
+// done). A CANCELLED to-do comes in Deferred. The five importances, Critical first, spread over
 // PRIORITY 1 (highest) to 9.
 
 #include <libical/ical.h>

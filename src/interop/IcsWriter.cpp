@@ -89,14 +89,17 @@ icalcomponent* todoOf(const Row& task, const std::vector<const Row*>& links,
         if (auto done = dateOf(task, "tskDoneDate"); done && *status == icalmap::kDoneStatus)
             icalcomponent_add_property(todo, icalproperty_new_completed(icaltime::utcOf(*done)));
     }
+    // One CATEGORIES list: some readers take only one. (A comma inside a
+    // keyword reads there as two categories; X-QUORVEL-KEYWORD keeps it whole.)
+    std::string categories;
     for (const Row* link : links) {
         const std::string key = textOf(*link, "ktKEYGUID");
         auto name = keywordNames.find(key);
-        icalcomponent_add_property(
-            todo, icalproperty_new_categories(
-                      (name != keywordNames.end() ? name->second : textOf(*link, "ktKeyword")).c_str()));
+        const std::string word = name != keywordNames.end() ? name->second : textOf(*link, "ktKeyword");
+        if (!word.empty()) categories += (categories.empty() ? "" : ",") + word;
         if (!key.empty()) addX(todo, "X-QUORVEL-KEYWORD", key);
     }
+    if (!categories.empty()) icalcomponent_add_property(todo, icalproperty_new_categories(categories.c_str()));
     addExact(todo, columns::tasks(), task);
     return todo;
 }

@@ -1,6 +1,8 @@
 #include "interop/Interop.h"
 
+#include <cctype>
 #include <ctime>
+#include <filesystem>
 
 #include "interop/CsvWriter.h"
 #include "interop/IcsReader.h"
@@ -48,6 +50,13 @@ InteropResult guarded(const char* procedure, F&& body) {
     return result;
 }
 
+// A to-do's file in a calendar folder: its key, kept to safe characters.
+std::string fileNameOf(std::string key) {
+    for (char& c : key)
+        if (!std::isalnum(static_cast<unsigned char>(c)) && c != '-') c = '_';
+    return key + ".ics";
+}
+
 std::string importSummary(const std::string& path, const ImportCounts& c) {
     std::string text = "Imported " + path + ": " + plural(c.tasksAdded, "task", "tasks") + " added, " +
                        plural(c.tasksChanged, "task", "tasks") + " updated, " +
@@ -65,7 +74,12 @@ std::string importSummary(const std::string& path, const ImportCounts& c) {
 InteropResult Interop::exportCalendar(const std::string& path, const ExportScope& scope) {
     return guarded("exportCalendar", [&](InteropResult& r) {
         const TaskSelection selection = TaskSelection::read(scope);
-        IcsWriter::save(IcsWriter::calendar(selection).get(), path);
+        if (std::filesystem::is_directory(path)) {
+            for (const auto& one : selection.perTask())
+                IcsWriter::save(IcsWriter::calendar(one).get(), path + "/" + fileNameOf(textOf(one.tasks[0], "tskGUIDID")));
+        } else {
+            IcsWriter::save(IcsWriter::calendar(selection).get(), path);
+        }
         r.tasks = static_cast<int>(selection.tasks.size());
         r.message = "Exported " + plural(r.tasks, "task", "tasks") + " and " +
                     plural(static_cast<int>(selection.appointments.size()), "appointment", "appointments") + " to " +

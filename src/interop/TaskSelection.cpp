@@ -1,6 +1,7 @@
 #include "interop/TaskSelection.h"
 
 #include <algorithm>
+#include <iterator>
 #include <unordered_set>
 
 #include "interop/InteropError.h"
@@ -30,7 +31,32 @@ std::vector<Row> keep(std::vector<Row> rows, const char* column, const Keys& key
     return rows;
 }
 
+template <class Pred>
+std::vector<Row> matching(const std::vector<Row>& rows, Pred keepIt) {
+    std::vector<Row> kept;
+    std::copy_if(rows.begin(), rows.end(), std::back_inserter(kept), keepIt);
+    return kept;
+}
+
 }  // namespace
+
+std::vector<TaskSelection> TaskSelection::perTask() const {
+    std::vector<TaskSelection> parts;
+    for (const auto& task : tasks) {
+        TaskSelection one;
+        const std::string key = textOf(task, "tskGUIDID");
+        one.tasks.push_back(task);
+        one.links = matching(links, [&](const Row& l) { return textOf(l, "ktTASKGUID") == key; });
+        one.appointments = matching(appointments, [&](const Row& a) { return textOf(a, "taTaskGUIDID") == key; });
+        Keys projectKeys{textOf(task, "tskProjectKey")}, keywordKeys;
+        for (const auto& a : one.appointments) projectKeys.insert(textOf(a, "taProjectGUIDID"));
+        for (const auto& l : one.links) keywordKeys.insert(textOf(l, "ktKEYGUID"));
+        one.projects = keep(projects, "prjGUIDID", projectKeys);
+        one.keywords = keep(keywords, "keyGUIDID", keywordKeys);
+        parts.push_back(std::move(one));
+    }
+    return parts;
+}
 
 TaskSelection TaskSelection::read(const ExportScope& scope) {
     TaskSelection s;

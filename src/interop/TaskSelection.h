@@ -20,6 +20,9 @@ struct TaskSelection {
 
     // Throws InteropError when the scope's task or project is not stored.
     static TaskSelection read(const ExportScope& scope);
+    // One selection per task, each with what that task names (a folder of
+    // one file per to-do, as calendar folders keep them).
+    [[nodiscard]] std::vector<TaskSelection> perTask() const;
 };
 
 }  // namespace qv
