@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "interop/InteropError.h"
-#include "values/TextCase.h"
 
 namespace qv {
 
@@ -71,9 +70,12 @@ int firstBadUtf8Line(const std::string& text) {
     return 0;
 }
 
+// Property names are ASCII.
 std::string nameOf(const std::string& line) {
-    const std::size_t end = line.find_first_of(":;");
-    return TextCase::upper(line.substr(0, end));
+    std::string name = line.substr(0, line.find_first_of(":;"));
+    for (char& c : name)
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    return name;
 }
 
 bool hasError(icalcomponent* c) {
@@ -101,7 +103,6 @@ void IcsSource::parse(const std::string& text) {
     std::unique_ptr<icalparser, decltype(&icalparser_free)> parser(icalparser_new(), icalparser_free);
     icalparser_set_gen_data(parser.get(), &feed);
     std::vector<int> open;  // ordinals of the components begun and not ended
-    std::map<std::pair<int, std::string>, int> seen;
     int lookahead = 0;
     for (;;) {
         char* raw = icalparser_get_line(parser.get(), feedLine);
@@ -127,8 +128,7 @@ void IcsSource::parse(const std::string& text) {
         } else if (name == "END") {
             if (!open.empty()) open.pop_back();
         } else if (!open.empty()) {
-            const int nth = seen[{open.back(), name}]++;
-            propertyLines_[{open.back(), name, nth}] = line;
+            propertyLines_.push_back({open.back(), line, name});
         }
         if (icalparser_get_state(parser.get()) == ICALPARSER_ERROR)
             throw InteropError::at(path_, line, "this line can't be read: " + shown(logical));
@@ -161,8 +161,10 @@ int IcsSource::lineOf(icalcomponent* c, icalproperty* p) const {
     for (auto* q = icalcomponent_get_first_property(c, ICAL_ANY_PROPERTY); q && q != p;
          q = icalcomponent_get_next_property(c, ICAL_ANY_PROPERTY))
         if (name == icalproperty_get_property_name(q)) ++nth;
-    auto line = propertyLines_.find({it->second, TextCase::upper(name), nth});
-    return line == propertyLines_.end() ? lineOf(c) : line->second;
+    const std::string wanted = nameOf(name);
+    for (const auto& p : propertyLines_)
+        if (p.component == it->second && p.name == wanted && nth-- == 0) return p.line;
+    return lineOf(c);
 }
 
 }  // namespace qv

@@ -4,9 +4,7 @@
 // Throws InteropError for a file that can't be read, isn't UTF-8, isn't a
 // calendar or holds a line the parser refused.
 
-#include <map>
 #include <string>
-#include <tuple>
 #include <unordered_map>
 #include <vector>
 
@@ -31,8 +29,14 @@ private:
 
     std::string path_;
     IcalComponentPtr root_;
+    // A property's line is looked for only when one is at fault.
+    struct PropertyLine {
+        int component;
+        int line;
+        std::string name;
+    };
     std::vector<int> componentLines_;  // by order of BEGIN
-    std::map<std::tuple<int, std::string, int>, int> propertyLines_;
+    std::vector<PropertyLine> propertyLines_;
     std::unordered_map<icalcomponent*, int> ordinals_;
 };
 
