@@ -13,6 +13,7 @@
 #include "installer/HelpPages.h"
 #include "script/FormChecks.h"
 #include "script/GridCommands.h"
+#include "script/InteropCommands.h"
 #include "installer/StoreInstaller.h"
 #include "store/ADOCode.h"
 #include "store/PgConnection.h"
@@ -182,6 +183,10 @@ void ScriptRunner::step(const ScriptLine& line) {
         {"drag", &ScriptRunner::cmdDrag},     {"clock", &ScriptRunner::cmdClock},
         {"settings-file", &ScriptRunner::cmdSettingsFile}};
     if (GridCommands::handles(lower(line.word(0)))) return GridCommands::run(activeForm(), line);
+    if (InteropCommands::handles(line.word(0))) {
+        ensureStore();
+        return interop_.run(folder_, line, out_);
+    }
     auto it = commands.find(lower(line.word(0)));
     if (it == commands.end()) throw std::invalid_argument("unknown command \"" + line.word(0) + "\"");
     (this->*(it->second))(line);
@@ -378,9 +383,17 @@ void ScriptRunner::cmdExpect(const ScriptLine& l) {
     if (what == "report") return expectReport(l, true);
     if (what == "no-report") return expectReport(l, false);
     if (what == "pdfpages") return expectPdfPages(l);
+    if (InteropCommands::checks(what)) return expectFile(l);
     throw std::invalid_argument(
         "expect event, no-event, message, no-message, tool, absent, checked, editor, date, caption, window, tab, row, "
-        "rows, form, cell, gridrows, help, help-page, report, no-report or pdfpages");
+        "rows, form, cell, gridrows, help, help-page, report, no-report, pdfpages, interop or file");
+}
+
+// expect interop TEXT / expect file FILE TEXT
+void ScriptRunner::expectFile(const ScriptLine& l) {
+    const std::string why = interop_.check(folder_, l);
+    if (why.empty()) return pass();
+    fail(l, why);
 }
 
 // expect event NAME [ARG...]: the next such event after the last one matched.

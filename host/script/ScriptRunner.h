@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "script/InteropCommands.h"
 #include "script/ScriptLine.h"
 #include "session/clsTask2.h"
 
@@ -68,6 +69,7 @@ private:
     void expectNoMessage(const ScriptLine& l);
     void expectHelp(const ScriptLine& l, bool page);
     void expectGrid(const ScriptLine& l);
+    void expectFile(const ScriptLine& l);
     void expectReport(const ScriptLine& l, bool present);
     void expectPdfPages(const ScriptLine& l);
 
@@ -91,6 +93,7 @@ private:
     std::vector<HostEvent> events_;
     std::size_t eventCursor_ = 0;
     std::size_t messageCursor_ = 0;
+    InteropCommands interop_;
     int passed_ = 0;
     int failed_ = 0;
 };
