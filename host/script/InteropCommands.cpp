@@ -2,9 +2,11 @@
 
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <stdexcept>
 
 #include "interop/Interop.h"
+#include "script/ScriptContext.h"
 #include "script/ScriptLine.h"
 
 namespace qv {
@@ -27,31 +29,31 @@ ExportScope scopeOf(const ScriptLine& l) {
 
 }  // namespace
 
-bool InteropCommands::handles(const std::string& command) {
-    return command == "export" || command == "import" || command == "export-csv";
+void InteropCommands::addTo(ScriptCommands& table) {
+    table.commands.insert({{"export", &run}, {"import", &run}, {"export-csv", &run}});
+    table.checks.insert({{"interop", &outcome}, {"file", &file}});
 }
 
-bool InteropCommands::checks(const std::string& expectation) {
-    return expectation == "interop" || expectation == "file";
-}
-
-void InteropCommands::run(const std::string& folder, const ScriptLine& l, std::ostream& out) {
-    const std::string command = l.word(0);
-    const std::string path = inFolder(folder, l.word(1));
+void InteropCommands::run(ScriptContext& c, const ScriptLine& l) {
+    c.ensureStore();
+    const std::string command = l.lowerWord(0);
+    const std::string path = inFolder(c.folder(), l.word(1));
     InteropResult r;
     if (command == "import") r = Interop::importCalendar(path);
     else if (command == "export-csv") r = Interop::exportSpreadsheet(path);
     else r = Interop::exportCalendar(path, scopeOf(l));
-    // Files of the program's folder are told by their own names.
-    last_ = r.message;
-    for (std::size_t at; (at = last_.find(folder + "/")) != std::string::npos;) last_.erase(at, folder.size() + 1);
-    out << command << (r.ok ? ": " : " refused: ") << last_ << "\n";
+    c.fileOutcome = r.message;
+    auto& said = c.fileOutcome;
+    for (std::size_t at; (at = said.find(c.folder() + "/")) != std::string::npos;) said.erase(at, c.folder().size() + 1);
+    c.out() << command << (r.ok ? ": " : " refused: ") << said << "\n";
 }
 
-std::string InteropCommands::check(const std::string& folder, const ScriptLine& l) const {
-    if (l.word(1) == "interop")
-        return last_ == l.word(2) ? std::string() : "the last file command said \"" + last_ + "\"";
-    std::ifstream in(inFolder(folder, l.word(2)), std::ios::binary);
+std::string InteropCommands::outcome(ScriptContext& c, const ScriptLine& l) {
+    return c.fileOutcome == l.word(2) ? std::string() : "the last file command said \"" + c.fileOutcome + "\"";
+}
+
+std::string InteropCommands::file(ScriptContext& c, const ScriptLine& l) {
+    std::ifstream in(inFolder(c.folder(), l.word(2)), std::ios::binary);
     const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
     return text.find(l.word(3)) != std::string::npos ? std::string() : l.word(2) + " does not hold \"" + l.word(3) + "\"";
 }

@@ -1,6 +1,6 @@
 #pragma once
 // The scenario commands of calendar and spreadsheet files. A relative FILE
-// lies in the program's folder.
+// lies in the program's folder, and is told by its own name.
 //
 //   export FILE.ics [project=KEY|task=KEY|current]   the tasks to a calendar file
 //   import FILE.ics                                   a calendar file into the store
@@ -8,25 +8,20 @@
 //   expect interop TEXT          the outcome of the last of these, as printed
 //   expect file FILE TEXT        the file holds TEXT
 
-#include <ostream>
 #include <string>
+
+#include "script/ScriptCommands.h"
 
 namespace qv {
 
-struct ScriptLine;
-
 class InteropCommands {
 public:
-    [[nodiscard]] static bool handles(const std::string& command);
-    [[nodiscard]] static bool checks(const std::string& expectation);
-    // Runs a command and prints its outcome; throws std::invalid_argument
-    // for a bad line.
-    void run(const std::string& folder, const ScriptLine& line, std::ostream& out);
-    // An expectation: empty when it holds, else what was found.
-    [[nodiscard]] std::string check(const std::string& folder, const ScriptLine& line) const;
+    static void addTo(ScriptCommands& table);
 
 private:
-    std::string last_;  // the outcome of the last command
+    static void run(ScriptContext& c, const ScriptLine& l);
+    [[nodiscard]] static std::string outcome(ScriptContext& c, const ScriptLine& l);
+    [[nodiscard]] static std::string file(ScriptContext& c, const ScriptLine& l);
 };
 
 }  // namespace qv
