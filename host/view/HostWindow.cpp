@@ -28,6 +28,7 @@
 #include "toolkit/Ports.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
+#include "view/TaskFileMenu.h"
 #include "view/TaskTableModel.h"
 
 namespace qv {
@@ -86,6 +87,9 @@ void HostWindow::buildActions() {
 }
 
 void HostWindow::buildMenus() {
+    QMenu* file = menuBar()->addMenu("&File");
+    files_ = new TaskFileMenu(*this, store_);
+    files_->addTo(file);
     QMenu* tasks = menuBar()->addMenu("&Task");
     tasks->addAction(newTask_);
     tasks->addAction(openTask_);
@@ -172,6 +176,8 @@ void HostWindow::buildLog() {
     dock->setWidget(log_);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
 }
+
+bool HostWindow::currentListShown() const { return currentOnly_->isChecked(); }
 
 std::string HostWindow::chosenProject() const { return project_->currentData().toString().toStdString(); }
 

@@ -18,6 +18,7 @@ namespace qv {
 
 class AppointmentList;
 class HostSession;
+class TaskFileMenu;
 class HostStore;
 class TaskTableModel;
 
@@ -29,6 +30,10 @@ public:
     [[nodiscard]] TaskTableModel& tasks() const { return *tasks_; }
     // The key of the project chosen above the list; empty for all.
     [[nodiscard]] std::string chosenProject() const;
+    // Whether the list shows only the Current List.
+    [[nodiscard]] bool currentListShown() const;
+    // File > the calendar and spreadsheet commands.
+    [[nodiscard]] TaskFileMenu& files() const { return *files_; }
     void refresh();
     void newTask();
     void taskFromCatalog();
@@ -75,6 +80,7 @@ private:
     QAction* saveToCatalog_ = nullptr;
     QAction* delete_ = nullptr;
     QAction* newTask_ = nullptr;
+    TaskFileMenu* files_ = nullptr;
 };
 
 }  // namespace qv

@@ -1,0 +1,110 @@
+#include "view/TaskFileMenu.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMessageBox>
+
+#include "interop/Interop.h"
+#include "session/globals/SessionGlobals.h"
+#include "view/HostStore.h"
+#include "view/HostWindow.h"
+
+namespace qv {
+
+namespace {
+
+QString withSuffix(QString path, const char* suffix) {
+    if (!path.isEmpty() && !path.endsWith(QLatin1String(suffix), Qt::CaseInsensitive)) path += QLatin1String(suffix);
+    return path;
+}
+
+}  // namespace
+
+TaskFileMenu::TaskFileMenu(HostWindow& window, HostStore& store)
+    : QObject(&window), window_(window), store_(store) {
+    chooseFile = [this](FileKind kind) { return askFile(kind); };
+    tell = [this](bool ok, const QString& text) {
+        if (ok) QMessageBox::information(&window_, kProgramTitle, text);
+        else QMessageBox::warning(&window_, kProgramTitle, text);
+    };
+}
+
+void TaskFileMenu::addTo(QMenu* menu) {
+    auto add = [&](const char* name, const char* text, QKeySequence keys, void (TaskFileMenu::*slot)()) {
+        QAction* a = menu->addAction(QString::fromUtf8(text), this, slot);
+        a->setObjectName(name);
+        if (!keys.isEmpty()) a->setShortcut(keys);
+        return a;
+    };
+    add("actExportTasks", "&Export Tasks...", QKeySequence(Qt::CTRL | Qt::Key_E), &TaskFileMenu::exportTasks);
+    add("actExportTask", "Export &Task...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), &TaskFileMenu::exportTask);
+    add("actImportTasks", "&Import Tasks...", QKeySequence(Qt::CTRL | Qt::Key_I), &TaskFileMenu::importTasks);
+    add("actExportSpreadsheet", "Export to &Spreadsheet...", QKeySequence(), &TaskFileMenu::exportSpreadsheet);
+}
+
+QString TaskFileMenu::askFile(FileKind kind) const {
+    const QString folder = QString::fromStdString(store_.folder());
+    switch (kind) {
+    case FileKind::CalendarToOpen:
+        return QFileDialog::getOpenFileName(&window_, "Import Tasks", folder, "Calendar files (*.ics);;All files (*)");
+    case FileKind::CalendarToSave:
+        return withSuffix(QFileDialog::getSaveFileName(&window_, "Export Tasks", folder + "/tasks.ics",
+                                                       "Calendar files (*.ics)"),
+                          ".ics");
+    case FileKind::SpreadsheetToSave:
+        return withSuffix(QFileDialog::getSaveFileName(&window_, "Export to Spreadsheet", folder + "/tasks.csv",
+                                                       "Spreadsheet files (*.csv)"),
+                          ".csv");
+    }
+    return {};
+}
+
+// The files go through the session's store: the one of the host's folder.
+void TaskFileMenu::prepareStore() const {
+    if (g().AppPath != store_.folder()) {
+        g().AppPath = store_.folder();
+        g().ConnString.clear();
+    }
+}
+
+// The tasks the list shows: the Current List, a project's, or all.
+void TaskFileMenu::exportTasks() {
+    const QString path = chooseFile(FileKind::CalendarToSave);
+    if (path.isEmpty()) return;
+    prepareStore();
+    ExportScope scope = ExportScope::all();
+    if (window_.currentListShown()) scope = ExportScope::current();
+    else if (const std::string project = window_.chosenProject(); !project.empty()) scope = ExportScope::project(project);
+    const InteropResult r = Interop::exportCalendar(path.toStdString(), scope);
+    tell(r.ok, QString::fromStdString(r.message));
+}
+
+void TaskFileMenu::exportTask() {
+    const std::string task = window_.selectedTask();
+    if (task.empty()) return tell(false, "Choose a task in the list first.");
+    const QString path = chooseFile(FileKind::CalendarToSave);
+    if (path.isEmpty()) return;
+    prepareStore();
+    const InteropResult r = Interop::exportCalendar(path.toStdString(), ExportScope::task(task));
+    tell(r.ok, QString::fromStdString(r.message));
+}
+
+void TaskFileMenu::importTasks() {
+    const QString path = chooseFile(FileKind::CalendarToOpen);
+    if (path.isEmpty()) return;
+    prepareStore();
+    const InteropResult r = Interop::importCalendar(path.toStdString());
+    window_.refresh();
+    tell(r.ok, QString::fromStdString(r.message));
+}
+
+void TaskFileMenu::exportSpreadsheet() {
+    const QString path = chooseFile(FileKind::SpreadsheetToSave);
+    if (path.isEmpty()) return;
+    prepareStore();
+    const InteropResult r = Interop::exportSpreadsheet(path.toStdString());
+    tell(r.ok, QString::fromStdString(r.message));
+}
+
+}  // namespace qv
