@@ -68,43 +68,37 @@ void TaskFileMenu::prepareStore() const {
     }
 }
 
-// The tasks the list shows: the Current List, a project's, or all.
-void TaskFileMenu::exportTasks() {
-    const QString path = chooseFile(FileKind::CalendarToSave);
+// Asks for the file, runs the command on the host's store, tells the outcome.
+void TaskFileMenu::withFile(FileKind kind, const std::function<InteropResult(const std::string&)>& command) {
+    const QString path = chooseFile(kind);
     if (path.isEmpty()) return;
     prepareStore();
+    const InteropResult r = command(path.toStdString());
+    if (kind == FileKind::CalendarToOpen) window_.refresh();
+    tell(r.ok, QString::fromStdString(r.message));
+}
+
+// The tasks the list shows: the Current List, a project's, or all.
+void TaskFileMenu::exportTasks() {
     ExportScope scope = ExportScope::all();
     if (window_.currentListShown()) scope = ExportScope::current();
     else if (const std::string project = window_.chosenProject(); !project.empty()) scope = ExportScope::project(project);
-    const InteropResult r = Interop::exportCalendar(path.toStdString(), scope);
-    tell(r.ok, QString::fromStdString(r.message));
+    withFile(FileKind::CalendarToSave, [&](const std::string& path) { return Interop::exportCalendar(path, scope); });
 }
 
 void TaskFileMenu::exportTask() {
     const std::string task = window_.selectedTask();
     if (task.empty()) return tell(false, "Choose a task in the list first.");
-    const QString path = chooseFile(FileKind::CalendarToSave);
-    if (path.isEmpty()) return;
-    prepareStore();
-    const InteropResult r = Interop::exportCalendar(path.toStdString(), ExportScope::task(task));
-    tell(r.ok, QString::fromStdString(r.message));
+    withFile(FileKind::CalendarToSave,
+             [&](const std::string& path) { return Interop::exportCalendar(path, ExportScope::task(task)); });
 }
 
 void TaskFileMenu::importTasks() {
-    const QString path = chooseFile(FileKind::CalendarToOpen);
-    if (path.isEmpty()) return;
-    prepareStore();
-    const InteropResult r = Interop::importCalendar(path.toStdString());
-    window_.refresh();
-    tell(r.ok, QString::fromStdString(r.message));
+    withFile(FileKind::CalendarToOpen, &Interop::importCalendar);
 }
 
 void TaskFileMenu::exportSpreadsheet() {
-    const QString path = chooseFile(FileKind::SpreadsheetToSave);
-    if (path.isEmpty()) return;
-    prepareStore();
-    const InteropResult r = Interop::exportSpreadsheet(path.toStdString());
-    tell(r.ok, QString::fromStdString(r.message));
+    withFile(FileKind::SpreadsheetToSave, &Interop::exportSpreadsheet);
 }
 
 }  // namespace qv

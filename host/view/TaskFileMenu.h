@@ -6,6 +6,7 @@
 // import.
 
 #include <functional>
+#include <string>
 
 #include <QObject>
 #include <QString>
@@ -15,6 +16,7 @@ class QMenu;
 
 namespace qv {
 
+struct InteropResult;
 class HostWindow;
 class HostStore;
 
@@ -41,6 +43,7 @@ public:
 private:
     [[nodiscard]] QString askFile(FileKind kind) const;
     void prepareStore() const;
+    void withFile(FileKind kind, const std::function<InteropResult(const std::string&)>& command);
 
     HostWindow& window_;
     HostStore& store_;

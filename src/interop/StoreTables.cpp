@@ -64,7 +64,10 @@ TableSet::TableSet(StoreTable table) {
 }
 
 TableSet::~TableSet() {
-    if (rs_ && rs_->State() == adStateOpen) rs_->Close();
+    try {
+        if (rs_ && rs_->State() == adStateOpen) rs_->Close();
+    } catch (...) {  // a set that can't close has nothing left to lose
+    }
 }
 
 Row TableSet::current(std::span<const ColumnSpec> specs) {

@@ -1,7 +1,7 @@
 #include "interop/TaskSelection.h"
 
 #include <algorithm>
-#include <iterator>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "interop/InteropError.h"
@@ -31,23 +31,25 @@ std::vector<Row> keep(std::vector<Row> rows, const char* column, const Keys& key
     return rows;
 }
 
-template <class Pred>
-std::vector<Row> matching(const std::vector<Row>& rows, Pred keepIt) {
-    std::vector<Row> kept;
-    std::copy_if(rows.begin(), rows.end(), std::back_inserter(kept), keepIt);
-    return kept;
+// The rows of each task, by its key.
+std::unordered_map<std::string, std::vector<Row>> byTask(const std::vector<Row>& rows, const char* column) {
+    std::unordered_map<std::string, std::vector<Row>> of;
+    for (const auto& r : rows) of[textOf(r, column)].push_back(r);
+    return of;
 }
 
 }  // namespace
 
 std::vector<TaskSelection> TaskSelection::perTask() const {
     std::vector<TaskSelection> parts;
+    auto linksOf = byTask(links, "ktTASKGUID");
+    auto appointmentsOf = byTask(appointments, "taTaskGUIDID");
     for (const auto& task : tasks) {
         TaskSelection one;
         const std::string key = textOf(task, "tskGUIDID");
         one.tasks.push_back(task);
-        one.links = matching(links, [&](const Row& l) { return textOf(l, "ktTASKGUID") == key; });
-        one.appointments = matching(appointments, [&](const Row& a) { return textOf(a, "taTaskGUIDID") == key; });
+        one.links = std::move(linksOf[key]);
+        one.appointments = std::move(appointmentsOf[key]);
         Keys projectKeys{textOf(task, "tskProjectKey")}, keywordKeys;
         for (const auto& a : one.appointments) projectKeys.insert(textOf(a, "taProjectGUIDID"));
         for (const auto& l : one.links) keywordKeys.insert(textOf(l, "ktKEYGUID"));
