@@ -74,7 +74,8 @@ std::string importSummary(const std::string& path, const ImportCounts& c) {
 InteropResult Interop::exportCalendar(const std::string& path, const ExportScope& scope) {
     return guarded("exportCalendar", [&](InteropResult& r) {
         const TaskSelection selection = TaskSelection::read(scope);
-        if (std::filesystem::is_directory(path)) {
+        std::error_code unreadable;
+        if (std::filesystem::is_directory(path, unreadable)) {
             for (const auto& one : selection.perTask())
                 IcsWriter::save(IcsWriter::calendar(one).get(), path + "/" + fileNameOf(textOf(one.tasks[0], "tskGUIDID")));
         } else {
