@@ -91,15 +91,25 @@ bool hasError(icalcomponent* c) {
 IcsSource::IcsSource(std::string path) : path_(std::move(path)) {
     std::ifstream in(path_, std::ios::binary);
     if (!in) throw InteropError(path_ + " can't be read: no such file, or no permission to read it");
-    const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-    if (int bad = firstBadUtf8Line(text)) throw InteropError::at(path_, bad, "the text is not UTF-8");
-    parse(text);
+    text_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+    if (int bad = firstBadUtf8Line(text_)) throw InteropError::at(path_, bad, "the text is not UTF-8");
+    // The whole text in one go; the lines are followed one by one only to
+    // name the line of a fault.
+    root_.reset(icalparser_parse_string(text_.c_str()));
+    if (!root_ || icalcomponent_isa(root_.get()) != ICAL_VCALENDAR_COMPONENT || hasError(root_.get())) {
+        root_.reset();
+        mapLines();  // throws, naming the line
+        throw InteropError::at(path_, 1, "the file can't be read as a calendar");
+    }
     int ordinal = 0;
     numberComponents(root_.get(), ordinal);
 }
 
-void IcsSource::parse(const std::string& text) {
-    LineFeed feed{physicalLines(text)};
+void IcsSource::mapLines() const {
+    if (mapped_) return;
+    mapped_ = true;
+    IcalComponentPtr root;
+    LineFeed feed{physicalLines(text_)};
     std::unique_ptr<icalparser, decltype(&icalparser_free)> parser(icalparser_new(), icalparser_free);
     icalparser_set_gen_data(parser.get(), &feed);
     std::vector<int> open;  // ordinals of the components begun and not ended
@@ -114,8 +124,8 @@ void IcsSource::parse(const std::string& text) {
         icalcomponent* done = icalparser_add_line(parser.get(), raw);
         if (raw) icalmemory_free_buffer(raw);
         if (done) {
-            if (root_) icalcomponent_free(done);
-            else root_.reset(done);
+            if (root) icalcomponent_free(done);
+            else root.reset(done);
         }
         if (!raw) break;
         if (logical.empty() || logical == "\r" || logical == "\n") continue;
@@ -135,9 +145,8 @@ void IcsSource::parse(const std::string& text) {
     }
     if (!open.empty())
         throw InteropError::at(path_, componentLines_[open.back()], "this BEGIN has no END");
-    if (!root_ || icalcomponent_isa(root_.get()) != ICAL_VCALENDAR_COMPONENT)
+    if (!root || icalcomponent_isa(root.get()) != ICAL_VCALENDAR_COMPONENT)
         throw InteropError::at(path_, 1, "not an iCalendar file (it must begin with BEGIN:VCALENDAR)");
-    if (hasError(root_.get())) throw InteropError::at(path_, 1, "the file can't be read as a calendar");
 }
 
 void IcsSource::numberComponents(icalcomponent* c, int& ordinal) {
@@ -148,12 +157,14 @@ void IcsSource::numberComponents(icalcomponent* c, int& ordinal) {
 }
 
 int IcsSource::lineOf(icalcomponent* c) const {
+    mapLines();
     auto it = ordinals_.find(c);
     if (it == ordinals_.end() || it->second >= static_cast<int>(componentLines_.size())) return 1;
     return componentLines_[it->second];
 }
 
 int IcsSource::lineOf(icalcomponent* c, icalproperty* p) const {
+    mapLines();
     auto it = ordinals_.find(c);
     if (it == ordinals_.end()) return 1;
     const std::string name = icalproperty_get_property_name(p);

@@ -24,10 +24,13 @@ public:
     [[nodiscard]] int lineOf(icalcomponent* c, icalproperty* p) const;
 
 private:
-    void parse(const std::string& text);
+    // Follows the text line by line: where each component and property
+    // began; throws at a line the parser refuses.
+    void mapLines() const;
     void numberComponents(icalcomponent* c, int& ordinal);
 
     std::string path_;
+    std::string text_;
     IcalComponentPtr root_;
     // A property's line is looked for only when one is at fault.
     struct PropertyLine {
@@ -35,8 +38,9 @@ private:
         int line;
         std::string name;
     };
-    std::vector<int> componentLines_;  // by order of BEGIN
-    std::vector<PropertyLine> propertyLines_;
+    mutable bool mapped_ = false;
+    mutable std::vector<int> componentLines_;  // by order of BEGIN
+    mutable std::vector<PropertyLine> propertyLines_;
     std::unordered_map<icalcomponent*, int> ordinals_;
 };
 
