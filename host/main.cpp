@@ -103,6 +103,7 @@ int main(int argc, char** argv) {
     const qv::CommandLine cl = qv::parseCommandLine(argumentsOf(argc, argv));
     if (const int code = answerAtOnce(cl, argc, argv); code >= 0) return code;
     if (cl.installStore) return prepareFolder(cl) ? 0 : 1;
+    if (cl.files.any()) return qv::runTaskFileOptions(cl.home, cl.files);
     if (cl.demo) return runDemonstration(cl, argc, argv);
     if (!qv::displayReachable()) return explainHeadless(cl);
     if (!prepareFolder(cl)) return 1;

@@ -50,6 +50,7 @@ public:
     std::vector<HostEvent> events;
     std::size_t eventCursor = 0;
     std::size_t messageCursor = 0;
+    std::string fileOutcome;  // what the last export or import said
 
 private:
     std::ostream& out_;

@@ -7,6 +7,7 @@
 #include "script/FormChecks.h"
 #include "script/GridCommands.h"
 #include "script/InputCommands.h"
+#include "script/InteropCommands.h"
 #include "script/OutputChecks.h"
 #include "script/ScriptContext.h"
 #include "script/SessionCommands.h"
@@ -29,6 +30,7 @@ const ScriptCommands& table() {
         OutputChecks::addTo(t);
         SyncCommands::addTo(t);
         DraftCommands::addTo(t);
+        InteropCommands::addTo(t);
         return t;
     }();
     return commands;

@@ -10,7 +10,7 @@ namespace qv {
 
 namespace {
 
-enum class Opt { Home, InstallStore, Store, Demo, Screenshots };
+enum class Opt { Home, InstallStore, Store, Demo, Screenshots, Import, Export, Project, ExportCsv };
 
 struct OptionRow {
     Opt id;
@@ -37,6 +37,12 @@ const OptionRow kOptions[] = {
      "then exit. It refuses a store holding tasks it did not make."},
     {Opt::Screenshots, "screenshots", nullptr,
      "As --demo, and save every window also at its minimum and at a larger size."},
+    {Opt::Import, "import", "FILE.ics",
+     "Import the to-dos and events of an iCalendar file into the store, then exit. A task already "
+     "stored is updated; a file that can't be read is named with its line and nothing is written."},
+    {Opt::Export, "export", "FILE.ics", "Export every task with its appointments to an iCalendar file, then exit."},
+    {Opt::Project, "project", "KEY", "With --export: only the tasks of the project with this key."},
+    {Opt::ExportCsv, "export-csv", "FILE.csv", "Export the task list to a spreadsheet (CSV) file, then exit."},
 };
 
 void readOption(CommandLine& cl, const OptionRow& row, const QCommandLineParser& p, const QCommandLineOption& o) {
@@ -47,6 +53,10 @@ void readOption(CommandLine& cl, const OptionRow& row, const QCommandLineParser&
     case Opt::Store: cl.storeUri = p.value(o).toStdString(); break;
     case Opt::Demo: cl.demo = true; break;
     case Opt::Screenshots: cl.screenshots = cl.demo = true; break;
+    case Opt::Import: cl.files.importFile = p.value(o).toStdString(); break;
+    case Opt::Export: cl.files.exportFile = p.value(o).toStdString(); break;
+    case Opt::Project: cl.files.projectKey = p.value(o).toStdString(); break;
+    case Opt::ExportCsv: cl.files.exportCsvFile = p.value(o).toStdString(); break;
     }
 }
 
@@ -102,6 +112,8 @@ CommandLine parseCommandLine(const QStringList& arguments) {
         cl.error = "unexpected argument '" + parser.positionalArguments().first().toStdString() + "'";
     else if (!cl.storeUri.empty() && !cl.installStore)
         cl.error = "--store goes with --install-store";
+    else if (!cl.files.projectKey.empty() && cl.files.exportFile.empty())
+        cl.error = "--project goes with --export";
     if (cl.home.empty()) cl.home = defaultAppFolder();
     cl.home = absoluteFolder(cl.home);
     return cl;

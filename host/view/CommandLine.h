@@ -7,6 +7,8 @@
 
 #include <QStringList>
 
+#include "view/TaskFileCommands.h"
+
 namespace qv {
 
 struct CommandLine {
@@ -15,6 +17,7 @@ struct CommandLine {
     std::string storeUri;          // with installStore: a team store on a server
     bool demo = false;             // run the demonstration and exit
     bool screenshots = false;      // the demonstration, every window at three sizes
+    TaskFileOptions files;         // --import, --export [--project], --export-csv
     bool help = false;
     bool version = false;
     std::string error;             // a usage mistake, told to the user

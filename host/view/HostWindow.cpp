@@ -29,6 +29,7 @@
 #include "toolkit/Ports.h"
 #include "view/HostSession.h"
 #include "view/HostStore.h"
+#include "view/TaskFileMenu.h"
 #include "view/TaskTableModel.h"
 
 namespace qv {
@@ -94,7 +95,9 @@ void HostWindow::buildMenus() {
     QMenu* file = menuBar()->addMenu("&File");
     file->setObjectName("mnuFile");
     file->addAction(folder_);
-    // Export and Import take their place here, above Quit.
+    file->addSeparator();
+    files_ = new TaskFileMenu(*this, store_);
+    files_->addTo(file);
     file->addSeparator();
     file->addAction(quit_);
     QMenu* tasks = menuBar()->addMenu("&Task");
@@ -197,6 +200,8 @@ void HostWindow::buildLog() {
     dock->setWidget(log_);
     addDockWidget(Qt::BottomDockWidgetArea, dock);
 }
+
+bool HostWindow::currentListShown() const { return currentOnly_->isChecked(); }
 
 std::string HostWindow::chosenProject() const { return project_->currentData().toString().toStdString(); }
 

@@ -19,6 +19,7 @@ namespace qv {
 
 class AppointmentList;
 class HostSession;
+class TaskFileMenu;
 class HostStore;
 class TaskTableModel;
 
@@ -30,6 +31,10 @@ public:
     [[nodiscard]] TaskTableModel& tasks() const { return *tasks_; }
     // The key of the project chosen above the list; empty for all.
     [[nodiscard]] std::string chosenProject() const;
+    // Whether the list shows only the Current List.
+    [[nodiscard]] bool currentListShown() const;
+    // File > the calendar and spreadsheet commands.
+    [[nodiscard]] TaskFileMenu& files() const { return *files_; }
     void refresh();
     void newTask();
     void taskFromCatalog();
@@ -82,6 +87,7 @@ private:
     QAction* quit_ = nullptr;
     QAction* helpIndex_ = nullptr;
     QAction* tour_ = nullptr;
+    TaskFileMenu* files_ = nullptr;
 };
 
 }  // namespace qv

@@ -136,6 +136,9 @@ const Case kCases[] = {
     {"--home USER --demo", 1, "", "holds 1 task the demonstration did not make"},
     {"--home USER --screenshots", 1, "", "did not make"},
     {"--home USER --install-store", 0, "The store stands already in", ""},
+    {"--home USER --project P-1", 2, "", "--project goes with --export"},
+    {"--home USER --import absent.ics", 1, "", "absent.ics can't be read: no such file"},
+    {"--home USER --export tasks.ics --project nope", 1, "", "There is no project with the key nope to export."},
 };
 
 TEST_F(CommandLine, AnswersEveryCaseAndLeavesTheUsersStoreAsItWas) {

@@ -1,0 +1,20 @@
+#pragma once
+// A file that can't be read or imported: one sentence naming the file and
+// the line. Raised before anything is written, so the store stays as it was.
+
+#include <stdexcept>
+#include <string>
+
+namespace qv {
+
+class InteropError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+
+    // "FILE, line N: what"
+    static InteropError at(const std::string& file, int line, const std::string& what) {
+        return InteropError(file + ", line " + std::to_string(line) + ": " + what);
+    }
+};
+
+}  // namespace qv

@@ -1,0 +1,35 @@
+#include "interop/NameRules.h"
+
+#include "values/TextCase.h"
+#include "values/TextChars.h"
+
+namespace qv {
+
+namespace {
+constexpr std::size_t kLongestProjectName = 101;
+}
+
+std::string NameRules::trimmed(const std::string& text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::optional<std::string> NameRules::projectRefusal(const std::string& name) {
+    if (name.empty()) return "the project has no name: Enter a name for this Project.";
+    if (charCount(name) > kLongestProjectName)
+        return "the project \"" + name + "\": The new Project name is too long.";
+    return std::nullopt;
+}
+
+std::optional<std::string> NameRules::keywordRefusal(const std::string& subject, const std::string& keyword) {
+    if (keyword.empty()) return "a keyword has no text: Enter a new Keyword.";
+    if (subject.empty()) return "the keyword \"" + keyword + "\" has no category: Select or enter a new Keyword.";
+    return std::nullopt;
+}
+
+std::string NameRules::projectMatchKey(const std::string& name) {
+    return TextCase::upper(trimmed(name));
+}
+
+}  // namespace qv
