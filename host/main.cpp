@@ -1,8 +1,8 @@
 // The demo host: installs the store on first run, then runs the task
-// manager window. With no display, or with --screenshots, it runs a short
-// demonstration by itself and saves a picture of every window it opened.
+// manager window. --demo (or --screenshots) runs a short demonstration by
+// itself offscreen and saves a picture of every window it opened; with no
+// display and no such option it only says what it is and writes nothing.
 
-#include <algorithm>
 #include <iostream>
 
 #include <QApplication>
@@ -10,52 +10,88 @@
 
 #include "app/AppFolder.h"
 #include "help/HelpTopics.h"
+#include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
 #include "store/PgConnection.h"
+#include "view/CommandLine.h"
 #include "view/DemoDriver.h"
+#include "view/DemoGuard.h"
 #include "view/HostApp.h"
 #include "view/HostTour.h"
 #include "view/HostWindow.h"
 
 namespace {
 
-constexpr const char* kUsage =
-    "Usage: quorvel [--home DIR] [--install-store [--store URI]] [--screenshots]\n"
-    "  --home DIR        the application folder (else QUORVEL_HOME, else $XDG_DATA_HOME/quorvel)\n"
-    "  --install-store   install a fresh store and QuorvelSettings.txt in the folder, then exit\n"
-    "  --store URI       with --install-store: the store is on a PostgreSQL server\n"
-    "                    (postgresql://host/db or postgresql:///db?host=/socket/dir); its tables\n"
-    "                    are made where missing and the folder's settings file names the URI\n"
-    "  --screenshots     run the demonstration and save every window, at its minimum and a larger\n"
-    "                    size, as PNG files in DIR/screenshots; also what happens with no display\n";
+constexpr const char* kVersion = "1.14";
 
-bool has(const std::vector<std::string>& args, const char* flag) {
-    return std::find(args.begin(), args.end(), flag) != args.end();
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList args;
+    for (int i = 0; i < argc; ++i) args << QString::fromLocal8Bit(argv[i]);
+    return args;
+}
+
+// --help, --version or a usage mistake; -1 when the program goes on.
+int answerAtOnce(const qv::CommandLine& cl, int argc, char** argv) {
+    if (!cl.error.empty()) {
+        std::cerr << "quorvel: " << cl.error << "\nTry 'quorvel --help' for more information.\n";
+        return qv::kUsageExit;
+    }
+    if (cl.help) {
+        QCoreApplication core(argc, argv);
+        std::cout << qv::commandLineHelp().toStdString();
+        return 0;
+    }
+    if (cl.version) {
+        std::cout << "quorvel " << kVersion << "\n";
+        return 0;
+    }
+    return -1;
 }
 
 // Returns false when the store could not be made.
-bool prepareFolder(const qv::HostOptions& opts) {
+bool prepareFolder(const qv::CommandLine& cl) {
     try {
-        if (!opts.storeUri.empty()) {
-            qv::installServerApplicationFolder(opts.home, opts.storeUri);
-            std::cout << "The store on " << qv::serverName(opts.storeUri) << " is ready; " << opts.home
-                      << " uses it\n";
+        if (!cl.storeUri.empty()) {
+            qv::installServerApplicationFolder(cl.home, cl.storeUri);
+            std::cout << "The store on " << qv::serverName(cl.storeUri) << " is ready; " << cl.home << " uses it\n";
             return true;
         }
-        const bool made = qv::installApplicationFolder(opts.home);
-        if (opts.installStoreOnly)
-            std::cout << (made ? "Installed a fresh store in " : "The store stands already in ") << opts.home << "\n";
+        const bool made = qv::installApplicationFolder(cl.home);
+        if (cl.installStore)
+            std::cout << (made ? "Installed a fresh store in " : "The store stands already in ") << cl.home << "\n";
         return true;
     } catch (const std::exception& e) {
-        std::cerr << "quorvel: could not install the store in " << opts.home << ": " << e.what() << "\n";
+        std::cerr << "quorvel: could not install the store in " << cl.home << ": " << e.what() << "\n";
         return false;
     }
 }
 
-int runDemonstration(qv::HostApp& host) {
+// No display and nothing asked: tell what this is, touch nothing.
+int explainHeadless(const qv::CommandLine& cl) {
+    std::cerr << "quorvel " << kVersion
+              << ": the Quorvel desktop task manager. It needs a display (neither DISPLAY nor WAYLAND_DISPLAY is "
+                 "set), so it opened no window and wrote nothing.\n"
+              << "Its store: " << qv::storeLocationOf(cl.home) << " (folder " << cl.home << ")\n"
+              << "To see it work offscreen on a fresh folder: quorvel --demo --home DIR\n"
+              << "  (a picture of every window goes into DIR/screenshots; 'quorvel --help' lists the options)\n";
+    return 1;
+}
+
+int runDemonstration(const qv::CommandLine& cl, int argc, char** argv) {
+    const qv::DemoGuard guard(cl.home);
+    if (const std::string why = guard.refusal(); !why.empty()) {
+        std::cerr << "quorvel: no demonstration: " << why << "\n";
+        return 1;
+    }
+    if (!prepareFolder(cl)) return 1;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("quorvel");
+    qv::HostApp host(cl.home, false);
     const std::string dir = host.folder() + "/screenshots";
-    qv::DemoDriver demo(host, QString::fromStdString(dir), true);
+    qv::DemoDriver demo(host, QString::fromStdString(dir), cl.screenshots);
     const int code = demo.run();
+    guard.remember();
     std::cout << "Saved " << demo.shots().size() << " screenshots in " << dir << "\n";
     for (const QString& shot : demo.shots()) std::cout << "  " << shot.toStdString() << "\n";
     return code;
@@ -64,20 +100,17 @@ int runDemonstration(qv::HostApp& host) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    const auto opts = qv::parseHostOptions(argc, argv);
-    if (!opts.error.empty() || has(opts.rest, "--help")) {
-        std::cerr << (opts.error.empty() ? "" : "quorvel: " + opts.error + "\n") << kUsage;
-        return opts.error.empty() ? 0 : 2;
-    }
-    if (!prepareFolder(opts)) return 1;
-    if (opts.installStoreOnly) return 0;
+    const qv::CommandLine cl = qv::parseCommandLine(argumentsOf(argc, argv));
+    if (const int code = answerAtOnce(cl, argc, argv); code >= 0) return code;
+    if (cl.installStore) return prepareFolder(cl) ? 0 : 1;
+    if (cl.demo) return runDemonstration(cl, argc, argv);
+    if (!qv::displayReachable()) return explainHeadless(cl);
+    if (!prepareFolder(cl)) return 1;
 
-    const bool demonstrate = opts.headless || has(opts.rest, "--screenshots");
-    if (opts.headless) qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setApplicationName("quorvel");
-    qv::HostApp host(opts.home, !demonstrate);
-    if (demonstrate) return runDemonstration(host);
+    QApplication::setApplicationVersion(kVersion);
+    qv::HostApp host(cl.home, true);
     host.window().show();
     if (host.tour().showTourAtStart())
         QTimer::singleShot(0, &host.window(), [&host] { host.window().openHelp(qv::kTourTopic); });

@@ -17,34 +17,6 @@ std::string defaultAppFolder() {
     return env("HOME") + "/.local/share/quorvel";
 }
 
-HostOptions parseHostOptions(int argc, char** argv) {
-    HostOptions o;
-    for (int i = 1; i < argc; ++i) {
-        const std::string a = argv[i];
-        if (a == "--home") {
-            if (i + 1 >= argc) {
-                o.error = "--home needs a folder";
-                return o;
-            }
-            o.home = argv[++i];
-        } else if (a.rfind("--home=", 0) == 0) {
-            o.home = a.substr(7);
-        } else if (a == "--store") {
-            if (i + 1 >= argc) {
-                o.error = "--store needs a connection URI (postgresql://...)";
-                return o;
-            }
-            o.storeUri = argv[++i];
-        } else if (a == "--install-store") {
-            o.installStoreOnly = true;
-        } else {
-            o.rest.push_back(a);
-        }
-    }
-    if (!o.storeUri.empty() && !o.installStoreOnly) o.error = "--store goes with --install-store";
-    if (o.home.empty()) o.home = defaultAppFolder();
-    o.headless = env("DISPLAY").empty() && env("WAYLAND_DISPLAY").empty();
-    return o;
-}
+bool displayReachable() { return !env("DISPLAY").empty() || !env("WAYLAND_DISPLAY").empty(); }
 
 }  // namespace qv

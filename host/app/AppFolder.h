@@ -3,20 +3,11 @@
 // QUORVEL_HOME, else $XDG_DATA_HOME/quorvel (~/.local/share/quorvel).
 
 #include <string>
-#include <vector>
 
 namespace qv {
 
-struct HostOptions {
-    std::string home;
-    bool installStoreOnly = false;
-    std::string storeUri;  // --store URI: a team store on a server
-    bool headless = false;  // set when no display is reachable
-    std::vector<std::string> rest;
-    std::string error;  // a usage mistake, told to the user
-};
-
-HostOptions parseHostOptions(int argc, char** argv);
 std::string defaultAppFolder();
+// True when DISPLAY or WAYLAND_DISPLAY names a display to open windows on.
+bool displayReachable();
 
 }  // namespace qv

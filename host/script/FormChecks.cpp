@@ -1,8 +1,8 @@
 #include "script/FormChecks.h"
 
-#include <cctype>
 #include <stdexcept>
 
+#include "script/ScriptContext.h"
 #include "script/ScriptLine.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/Form.h"
@@ -15,32 +15,29 @@ namespace qv {
 
 namespace {
 
-std::string lower(std::string s) {
-    for (auto& c : s) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return s;
-}
-
 std::string boolText(bool b) { return b ? "true" : "false"; }
 
 std::string quoted(const std::string& s) { return "\"" + s + "\""; }
 
 }  // namespace
 
-bool FormChecks::handles(const std::string& what) {
-    return what == "tool" || what == "absent" || what == "checked" || what == "editor" || what == "date" ||
-           what == "caption" || what == "tab" || what == "window";
+namespace {
+// Each check reads the dialog shown on top.
+template <std::string (*Check)(Form&, const ScriptLine&)>
+std::string onForm(ScriptContext& c, const ScriptLine& l) {
+    return Check(c.activeForm(), l);
 }
+}  // namespace
 
-std::string FormChecks::check(Form& form, const ScriptLine& l) {
-    const auto what = lower(l.word(1));
-    if (what == "tool") return tool(form, l);
-    if (what == "absent") return absent(form, l);
-    if (what == "checked") return checked(form, l);
-    if (what == "editor") return editor(form, l);
-    if (what == "date") return date(form, l);
-    if (what == "caption") return caption(form, l);
-    if (what == "tab") return tab(form, l);
-    return window(form, l);
+void FormChecks::addTo(ScriptCommands& table) {
+    table.checks.insert({{"tool", &onForm<&tool>},
+                         {"absent", &onForm<&absent>},
+                         {"checked", &onForm<&checked>},
+                         {"editor", &onForm<&editor>},
+                         {"date", &onForm<&date>},
+                         {"caption", &onForm<&caption>},
+                         {"tab", &onForm<&tab>},
+                         {"window", &onForm<&window>}});
 }
 
 Tool& FormChecks::toolOf(Form& form, const std::string& target, Sheet** sheetOut) {
@@ -56,7 +53,7 @@ Tool& FormChecks::toolOf(Form& form, const std::string& target, Sheet** sheetOut
 
 std::string FormChecks::tool(Form& form, const ScriptLine& l) {
     const Tool& t = toolOf(form, l.word(2));
-    const auto prop = lower(l.word(3));
+    const auto prop = l.lowerWord(3);
     std::string actual;
     if (prop == "caption") actual = t.caption();
     else if (prop == "text") actual = t.text();
@@ -125,7 +122,7 @@ std::string FormChecks::tab(Form& form, const ScriptLine& l) {
 
 std::string FormChecks::window(Form& form, const ScriptLine& l) {
     const auto& geo = form.geometry();
-    const auto prop = lower(l.word(2));
+    const auto prop = l.lowerWord(2);
     int32_t actual = 0;
     if (prop == "left") actual = geo.left;
     else if (prop == "top") actual = geo.top;

@@ -15,17 +15,17 @@
 
 #include <string>
 
+#include "script/ScriptCommands.h"
+
 namespace qv {
 
 class Form;
 class Sheet;
 class Tool;
-struct ScriptLine;
 
 class FormChecks {
 public:
-    [[nodiscard]] static bool handles(const std::string& what);
-    [[nodiscard]] static std::string check(Form& form, const ScriptLine& line);
+    static void addTo(ScriptCommands& table);
     // A tool named sheet.KEY, and its sheet when asked.
     static Tool& toolOf(Form& form, const std::string& target, Sheet** sheetOut = nullptr);
 

@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "script/ScriptContext.h"
 #include "script/ScriptLine.h"
 #include "toolkit/Form.h"
 #include "toolkit/Grid.h"
@@ -11,8 +12,9 @@
 
 namespace qv {
 
-bool GridCommands::handles(const std::string& command) {
-    return command == "select" || command == "edit" || command == "press" || command == "tab";
+void GridCommands::addTo(ScriptCommands& table) {
+    for (const char* command : {"select", "edit", "press", "tab"}) table.commands.insert({command, &run});
+    for (const char* what : {"cell", "gridrows"}) table.checks.insert({what, &check});
 }
 
 Grid& GridCommands::gridOf(Form& form) {
@@ -51,8 +53,9 @@ void GridCommands::pickTab(Form& form, const std::string& strip, const std::stri
     tabs->userSwitch(static_cast<int32_t>(toLong(index)));
 }
 
-void GridCommands::run(Form& form, const ScriptLine& l) {
-    const std::string& command = l.word(0);
+void GridCommands::run(ScriptContext& c, const ScriptLine& l) {
+    Form& form = c.activeForm();
+    const std::string command = l.lowerWord(0);
     if (command == "tab") return l.words.size() > 2 ? pickTab(form, l.word(1), l.word(2)) : pickTab(form, l.word(1));
     Grid& grid = gridOf(form);
     if (command == "select") {
@@ -67,9 +70,9 @@ void GridCommands::run(Form& form, const ScriptLine& l) {
     }
 }
 
-std::string GridCommands::check(Form& form, const ScriptLine& l) {
-    Grid& grid = gridOf(form);
-    if (l.word(1) == "gridrows") {
+std::string GridCommands::check(ScriptContext& c, const ScriptLine& l) {
+    Grid& grid = gridOf(c.activeForm());
+    if (l.lowerWord(1) == "gridrows") {
         const std::string n = std::to_string(grid.rowCount());
         return n == l.word(2) ? std::string() : grid.name() + " has " + n + " rows, not " + l.word(2);
     }

@@ -13,21 +13,20 @@
 
 #include <string>
 
+#include "script/ScriptCommands.h"
+
 namespace qv {
 
 class Form;
 class Grid;
-struct ScriptLine;
 
 class GridCommands {
 public:
-    [[nodiscard]] static bool handles(const std::string& command);
-    // Runs a command; throws std::invalid_argument for a bad line.
-    static void run(Form& form, const ScriptLine& line);
-    // An expectation: empty when it holds, else what was found.
-    [[nodiscard]] static std::string check(Form& form, const ScriptLine& line);
+    static void addTo(ScriptCommands& table);
 
 private:
+    static void run(ScriptContext& c, const ScriptLine& line);
+    [[nodiscard]] static std::string check(ScriptContext& c, const ScriptLine& line);
     [[nodiscard]] static Grid& gridOf(Form& form);
     [[nodiscard]] static int rowOf(const Grid& grid, const std::string& word);
     [[nodiscard]] static int columnOf(const Grid& grid, const std::string& word);

@@ -1,5 +1,6 @@
 #include "script/ScriptLine.h"
 
+#include <cctype>
 #include <stdexcept>
 
 namespace qv {
@@ -51,6 +52,13 @@ ScriptLine ScriptLine::parse(int number, const std::string& text) {
 const std::string& ScriptLine::word(std::size_t i) const {
     static const std::string none;
     return i < words.size() ? words[i] : none;
+}
+
+std::string ScriptLine::lowerWord(std::size_t i) const { return lowered(word(i)); }
+
+std::string lowered(std::string text) {
+    for (auto& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return text;
 }
 
 std::string ScriptLine::rest(std::size_t from) const {

@@ -16,6 +16,10 @@ struct ScriptLine {
     static ScriptLine parse(int number, const std::string& text);
     [[nodiscard]] const std::string& word(std::size_t i) const;
     [[nodiscard]] std::string rest(std::size_t from) const;  // words from i joined by blanks
+    [[nodiscard]] std::string lowerWord(std::size_t i) const;  // a keyword, in any case
 };
+
+// A keyword as the driver compares it: in lower case.
+[[nodiscard]] std::string lowered(std::string text);
 
 }  // namespace qv
