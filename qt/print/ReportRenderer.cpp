@@ -51,16 +51,33 @@ QFont ReportRenderer::footerFont(QPrinter& printer) const {
 }
 
 void ReportRenderer::layout(QPrinter& printer) {
-    doc_->documentLayout()->setPaintDevice(&printer);
     font_ = footerFont(printer);
     lineHeight_ = QFontMetricsF(font_, &printer).lineSpacing();
     const auto lines = FooterFormat::lines(job_.footer, 1);
     const double footer = lineHeight_ * std::max<std::size_t>(lines.size(), kLinesOfFooter - 1) + lineHeight_;
     page_ = QRectF(QPointF(0, 0), printer.pageLayout().paintRectPixels(printer.resolution()).size());
     body_ = QRectF(0, 0, page_.width(), std::max(page_.height() - footer, page_.height() / 2));
+    if (laidOutFor(printer)) return;
     // Laid out as one long page, then cut between rows and lines.
-    doc_->setTextWidth(body_.width());
+    layOutOnce(printer, body_.width());
     tops_ = PageCuts::cuts(PageCuts::keepTogether(*doc_), doc_->size().height(), body_.height());
+}
+
+// The document's layout lays the whole text out as it is made and again at
+// every change of width; with no page size it waits, so the text is laid
+// out once, for the printer's metrics and the body's width.
+void ReportRenderer::layOutOnce(QPrinter& printer, double width) {
+    doc_->setPageSize(QSizeF(0, 0));
+    doc_->documentLayout()->setPaintDevice(&printer);
+    doc_->setTextWidth(width);
+    laidOut_ = {&printer, printer.resolution(), body_.size()};
+}
+
+// A preview repaints on every change of zoom: the same printer and page
+// need no new layout.
+bool ReportRenderer::laidOutFor(QPrinter& printer) const {
+    return laidOut_.printer == &printer && laidOut_.resolution == printer.resolution() &&
+           laidOut_.body == body_.size();
 }
 
 void ReportRenderer::render(QPrinter& printer) {

@@ -41,6 +41,8 @@ public:
     [[nodiscard]] QRectF body() const { return body_; }
 
 private:
+    void layOutOnce(QPrinter& printer, double width);
+    [[nodiscard]] bool laidOutFor(QPrinter& printer) const;
     void paintFooter(QPainter& painter, int page) const;
     [[nodiscard]] QFont footerFont(QPrinter& printer) const;
 
@@ -51,6 +53,11 @@ private:
     QFont font_;
     double lineHeight_ = 0;
     std::vector<double> tops_{0.0, 0.0};
+    struct LaidOut {
+        const QPrinter* printer = nullptr;
+        int resolution = 0;
+        QSizeF body;
+    } laidOut_;
 };
 
 }  // namespace qv

@@ -131,7 +131,7 @@ void ScheduleGrid::InitializeLayout() {
         grid_.addColumn(name, name);
     }
     boundColumns_ = fields;
-    for (const char* key : {kCalc, kBtn, kFake}) grid_.addColumn(key, key);
+    unbound_ = {grid_.addColumn(kCalc, kCalc), grid_.addColumn(kBtn, kBtn), grid_.addColumn(kFake, kFake)};
     for (const char* key : kHidden)
         if (int32_t c = col(key); c >= 0) {
             grid_.setColumnVisible(c, false);
@@ -196,9 +196,9 @@ void ScheduleGrid::fillUnbound(std::vector<std::string>& cells, std::optional<do
                                std::optional<double> end, std::optional<double> minutes) const {
     std::string duration;
     if (start && end) duration = SetTimeFormat(roundLong((*end - *start) * 1440.0));
-    cells[static_cast<std::size_t>(col(kCalc))] = std::move(duration);
-    cells[static_cast<std::size_t>(col(kBtn))] = kButtonText;
-    cells[static_cast<std::size_t>(col(kFake))] = SetTimeFormat(minutes.value_or(0.0));
+    cells[static_cast<std::size_t>(unbound_.calc)] = std::move(duration);
+    cells[static_cast<std::size_t>(unbound_.button)] = kButtonText;
+    cells[static_cast<std::size_t>(unbound_.fake)] = SetTimeFormat(minutes.value_or(0.0));
 }
 
 void ScheduleGrid::InitializeRow(int32_t row) {

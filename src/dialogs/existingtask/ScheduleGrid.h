@@ -87,6 +87,11 @@ private:
     RecordsetPtr rs_;
     int32_t skedRowCount_ = 0;
     int32_t boundColumns_ = 0;
+    // The columns the dialog adds after the query's, found once per layout
+    // rather than by name for every row.
+    struct Unbound {
+        int32_t calc = -1, button = -1, fake = -1;
+    } unbound_;
     bool laidOut_ = false;
 };
 
