@@ -85,7 +85,7 @@ for _ in $(seq 13); do keys Tab; done                             # from Status 
 keys space; shot keyword-ticked
 keys alt+d
 wait_sql "SELECT tskDesc || '/' || tskProject FROM TASKS" "Walk the dog/Garden"
-wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; shot task-added
+wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; sleep 1; shot task-added   # the dialog makes itself ready for the next task
 keys Escape; wait_title "Task Manager"
 
 # The task in the list: open it, change the description, Update Task.

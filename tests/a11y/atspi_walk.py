@@ -172,10 +172,11 @@ def everything(acc, out):
 
 
 def focused(window):
-    for acc in focusables(window, []):
-        if state(acc).contains(pyatspi.STATE_FOCUSED):
-            return acc
-    return None
+    # Qt marks the current tab of every tab strip as focused, whether or not
+    # the strip has the focus: a field that has it comes first.
+    hits = [acc for acc in focusables(window, []) if state(acc).contains(pyatspi.STATE_FOCUSED)]
+    fields = [acc for acc in hits if acc.getRole() != pyatspi.ROLE_PAGE_TAB]
+    return (fields or hits or [None])[0]
 
 
 class Walk:

@@ -34,7 +34,7 @@ TEST_F(HostFileMenu, TheFourCommandsStandInTheFileMenuWithTheirKeys) {
         {"actExportTasks", QKeySequence("Ctrl+E")},
         {"actExportTask", QKeySequence("Ctrl+Shift+E")},
         {"actImportTasks", QKeySequence("Ctrl+I")},
-        {"actExportSpreadsheet", QKeySequence()},
+        {"actExportSpreadsheet", QKeySequence("Ctrl+Shift+X")},
     };
     for (const auto& [name, keys] : commands) {
         QAction* a = action(name);

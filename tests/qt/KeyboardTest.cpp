@@ -211,7 +211,7 @@ TEST_F(Keyboard, ASheetRebuiltWhileShownKeepsItsPlaceInTheTabOrder) {
 TEST_F(Keyboard, TheMenusHoldEveryCommandWithAShortcutAndTheToolBarFits) {
     HostWindow& w = host().window();
     const std::map<QString, QStringList> menus{
-        {"&File", {"actFolder", "actQuit"}},
+        {"&File", {"actFolder", "actExportTasks", "actExportTask", "actImportTasks", "actExportSpreadsheet", "actQuit"}},
         {"&Task", {"actNewTask", "actOpenTask", "actFromCatalog", "actSaveToCatalog", "actDelete"}},
         {"&Appointment", {"actWorkAppointment", "actSchedule"}},
         {"&Help", {"actHelpIndex", "actTour"}},
