@@ -16,7 +16,7 @@
 #include "support/BenchStore.h"
 #include "support/TimeSetupTask.h"
 #include "toolkit/Form.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace {
 

@@ -22,7 +22,7 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
 #include "toolkit/ScriptedUi.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 
 #include "store/Connection.h"
 #include "store/Recordset.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace {
 

@@ -17,8 +17,8 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
 #include "toolkit/ScriptedUi.h"
-#include "values/Settings.h"
-#include "values/TimeValues.h"
+#include "values/settings/Settings.h"
+#include "values/settings/TimeValues.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <cstring>
 
 #include "FuzzPorts.h"
-#include "values/Convert.h"
-#include "values/DateSerial.h"
+#include "values/types/Convert.h"
+#include "values/types/DateSerial.h"
 
 using namespace qv;
 using namespace qv::dateserial;

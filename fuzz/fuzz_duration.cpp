@@ -8,9 +8,9 @@
 #include "FuzzPorts.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Failure.h"
-#include "values/Convert.h"
-#include "values/DateFormats.h"
-#include "values/TimeValues.h"
+#include "values/types/Convert.h"
+#include "values/settings/DateFormats.h"
+#include "values/settings/TimeValues.h"
 
 using namespace qv;
 

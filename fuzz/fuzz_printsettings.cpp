@@ -8,8 +8,8 @@
 #include "reports/FooterText.h"
 #include "reports/PrintSettings.h"
 #include "toolkit/Failure.h"
-#include "values/CStringBag.h"
-#include "values/Convert.h"
+#include "values/types/CStringBag.h"
+#include "values/types/Convert.h"
 
 using namespace qv;
 

@@ -12,7 +12,7 @@
 #include "store/PgConnection.h"
 #include "store/StoreBackend.h"
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

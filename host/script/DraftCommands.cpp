@@ -9,7 +9,7 @@
 #include "dialogs/shared/DraftKeeper.h"
 #include "script/ScriptContext.h"
 #include "script/ScriptLine.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

@@ -9,7 +9,7 @@
 #include "script/ScriptLine.h"
 #include "toolkit/Form.h"
 #include "toolkit/ScriptedUi.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

@@ -8,7 +8,7 @@
 #include "toolkit/Form.h"
 #include "toolkit/Grid.h"
 #include "toolkit/TabStrip.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

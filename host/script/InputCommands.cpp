@@ -14,7 +14,7 @@
 #include "toolkit/Sheet.h"
 #include "toolkit/Splitter.h"
 #include "toolkit/TextEditor.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

@@ -11,8 +11,8 @@
 #include "script/ScriptContext.h"
 #include "script/ScriptLine.h"
 #include "toolkit/FakeClock.h"
-#include "values/Convert.h"
-#include "values/DateSerial.h"
+#include "values/types/Convert.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

@@ -9,7 +9,7 @@
 #include <QLocale>
 
 #include "Export.h"
-#include "values/DateTimeFormatter.h"
+#include "values/types/DateTimeFormatter.h"
 
 namespace qv {
 

@@ -8,10 +8,10 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CStringBag.h"
-#include "values/Convert.h"
-#include "values/International.h"
-#include "values/TextCase.h"
+#include "values/types/CStringBag.h"
+#include "values/types/Convert.h"
+#include "values/types/International.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

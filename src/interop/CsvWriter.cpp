@@ -3,9 +3,9 @@
 #include "interop/StoreTables.h"
 #include "interop/TaskSelection.h"
 #include "session/globals/SessionGlobals.h"
-#include "values/DateSerial.h"
-#include "values/Settings.h"
-#include "values/TimeValues.h"
+#include "values/types/DateSerial.h"
+#include "values/settings/Settings.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

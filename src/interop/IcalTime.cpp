@@ -3,7 +3,7 @@
 #include <cmath>
 #include <ctime>
 
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv::icaltime {
 

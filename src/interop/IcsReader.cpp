@@ -12,7 +12,7 @@
 #include "interop/IcsSource.h"
 #include "interop/InteropError.h"
 #include "interop/NameRules.h"
-#include "values/TextChars.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

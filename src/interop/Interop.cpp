@@ -13,7 +13,7 @@
 #include "store/ErrorPath.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

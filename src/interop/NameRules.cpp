@@ -1,7 +1,7 @@
 #include "interop/NameRules.h"
 
-#include "values/TextCase.h"
-#include "values/TextChars.h"
+#include "values/types/TextCase.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

@@ -3,7 +3,7 @@
 #include <charconv>
 #include <cmath>
 
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

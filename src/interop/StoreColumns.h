@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

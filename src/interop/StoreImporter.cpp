@@ -12,7 +12,7 @@
 #include "interop/StoreTables.h"
 #include "interop/TaskSelection.h"
 #include "store/SaveTransaction.h"
-#include "values/CCreateGuid.h"
+#include "values/types/CCreateGuid.h"
 
 namespace qv {
 

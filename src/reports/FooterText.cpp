@@ -1,7 +1,7 @@
 #include "reports/FooterText.h"
 
 #include "session/globals/SessionGlobals.h"
-#include "values/DateTimeFormatter.h"
+#include "values/types/DateTimeFormatter.h"
 
 namespace qv {
 

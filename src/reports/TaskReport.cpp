@@ -15,10 +15,10 @@
 #include "toolkit/Ports.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Ui.h"
-#include "values/CStringBag.h"
-#include "values/Convert.h"
-#include "values/International.h"
-#include "values/TaskUtil.h"
+#include "values/types/CStringBag.h"
+#include "values/types/Convert.h"
+#include "values/types/International.h"
+#include "values/types/TaskUtil.h"
 
 namespace qv {
 

@@ -9,8 +9,8 @@
 #include "toolkit/Grid.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
-#include "values/Convert.h"
-#include "values/TimeValues.h"
+#include "values/types/Convert.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

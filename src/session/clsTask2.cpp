@@ -8,7 +8,7 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace qv {
 

@@ -3,7 +3,7 @@
 #include <limits>
 #include <string>
 
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

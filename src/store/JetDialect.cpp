@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
-#include "values/Value.h"
+#include "values/types/DateSerial.h"
+#include "values/types/Value.h"
 
 namespace qv::jet {
 

@@ -6,7 +6,7 @@
 #include "store/JetDialect.h"
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

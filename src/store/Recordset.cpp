@@ -12,7 +12,7 @@
 #include "store/StoreBackend.h"
 #include "store/WriteConflict.h"
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

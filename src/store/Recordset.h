@@ -15,7 +15,7 @@
 
 #include "Export.h"
 #include "store/Query.h"
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

@@ -14,7 +14,7 @@
 
 #include "store/FieldCodec.h"
 #include "store/RowStore.h"
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

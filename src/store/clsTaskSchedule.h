@@ -4,7 +4,7 @@
 
 #include "Export.h"
 #include "store/DataSource.h"
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

@@ -15,8 +15,8 @@
 #include "store/Connection.h"
 #include "store/PgConnection.h"
 #include "store/Recordset.h"
-#include "values/DateSerial.h"
-#include "values/TextChars.h"
+#include "values/types/DateSerial.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

@@ -13,7 +13,7 @@
 #include "interop/InteropFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

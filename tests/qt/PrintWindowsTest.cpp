@@ -12,7 +12,7 @@
 #include "kit/ToolCell.h"
 #include "print/QtPrintSurface.h"
 #include "session/clsTask2.h"
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 #include "view/HostSession.h"
 
 namespace qv {

@@ -8,7 +8,7 @@
 #include "support/TestEnv.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
 namespace qv {
 

@@ -14,7 +14,7 @@
 #include "toolkit/Grid.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace qv {
 

@@ -13,7 +13,7 @@
 #include "toolkit/Ports.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Ui.h"
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
 namespace qv {
 

@@ -15,7 +15,7 @@
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Form.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "values/CCreateGuid.h"
+#include "values/types/CCreateGuid.h"
 
 namespace qv {
 

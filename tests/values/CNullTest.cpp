@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "toolkit/Failure.h"
-#include "values/CNull.h"
+#include "values/types/CNull.h"
 
 namespace qv {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
 namespace qv {
 

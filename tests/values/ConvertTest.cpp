@@ -1,9 +1,9 @@
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 #include <gtest/gtest.h>
 
 #include "toolkit/Failure.h"
-#include "values/DateTimeFormatter.h"
+#include "values/types/DateTimeFormatter.h"
 
 namespace qv {
 namespace {

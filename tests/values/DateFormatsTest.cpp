@@ -1,4 +1,4 @@
-#include "values/DateFormats.h"
+#include "values/settings/DateFormats.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include "support/TestEnv.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/Failure.h"
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 namespace {

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 namespace {

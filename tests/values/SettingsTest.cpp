@@ -1,4 +1,4 @@
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 #include <gtest/gtest.h>
 

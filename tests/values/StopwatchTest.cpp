@@ -1,4 +1,4 @@
-#include "values/Stopwatch.h"
+#include "values/settings/Stopwatch.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +7,7 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Timer.h"
-#include "values/StopwatchDisplay.h"
+#include "values/settings/StopwatchDisplay.h"
 
 namespace qv {
 namespace {

@@ -7,8 +7,8 @@
 #include "toolkit/Sheet.h"
 #include "toolkit/ToolkitFixture.h"
 #include "toolkit/Timer.h"
-#include "values/International.h"
-#include "values/TaskUtil.h"
+#include "values/types/International.h"
+#include "values/types/TaskUtil.h"
 
 namespace qv {
 

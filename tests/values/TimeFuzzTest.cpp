@@ -12,9 +12,9 @@
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ui.h"
-#include "values/Convert.h"
-#include "values/DateFormats.h"
-#include "values/TimeValues.h"
+#include "values/types/Convert.h"
+#include "values/settings/DateFormats.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 namespace {

@@ -1,4 +1,4 @@
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +6,8 @@
 #include "support/TestEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ui.h"
-#include "values/Convert.h"
-#include "values/DateFormats.h"
+#include "values/types/Convert.h"
+#include "values/settings/DateFormats.h"
 
 namespace qv {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "toolkit/Failure.h"
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 namespace {

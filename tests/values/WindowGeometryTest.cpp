@@ -1,11 +1,11 @@
-#include "values/WindowGeometry.h"
+#include "values/settings/WindowGeometry.h"
 
 #include <gtest/gtest.h>
 
 #include "session/globals/SessionGlobals.h"
 #include "support/TestEnv.h"
 #include "toolkit/Form.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace qv {
 namespace {

@@ -5,7 +5,7 @@
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/TextCase.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

@@ -4,7 +4,7 @@
 #include "store/SaveTransaction.h"
 #include "store/StoreQueries.h"
 #include "store/clsNewKeyword.h"
-#include "values/CCreateGuid.h"
+#include "values/types/CCreateGuid.h"
 
 namespace qv {
 

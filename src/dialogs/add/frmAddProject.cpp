@@ -10,10 +10,10 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CCreateGuid.h"
-#include "values/DateFormats.h"
-#include "values/TextCase.h"
-#include "values/TextChars.h"
+#include "values/types/CCreateGuid.h"
+#include "values/settings/DateFormats.h"
+#include "values/types/TextCase.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

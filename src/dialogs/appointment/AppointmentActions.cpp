@@ -6,7 +6,7 @@
 #include "dialogs/shared/StatusWords.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

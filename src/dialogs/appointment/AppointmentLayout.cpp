@@ -2,7 +2,7 @@
 
 #include "dialogs/appointment/frmTAS2.h"
 #include "session/globals/SessionGlobals.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace qv {
 

@@ -9,7 +9,7 @@
 #include <cstdint>
 #include <string>
 
-#include "values/WindowGeometry.h"
+#include "values/settings/WindowGeometry.h"
 
 namespace qv {
 

@@ -16,11 +16,11 @@
 #include "store/clsNewTask.h"
 #include "store/clsVLProjectsList.h"
 #include "toolkit/Failure.h"
-#include "values/CNull.h"
-#include "values/Convert.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TaskUtil.h"
-#include "values/TimeValues.h"
+#include "values/types/CNull.h"
+#include "values/types/Convert.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/types/TaskUtil.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -18,10 +18,10 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CNull.h"
-#include "values/Convert.h"
-#include "values/DateSerial.h"
-#include "values/TimeValues.h"
+#include "values/types/CNull.h"
+#include "values/types/Convert.h"
+#include "values/types/DateSerial.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

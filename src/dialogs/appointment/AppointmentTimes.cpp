@@ -6,8 +6,8 @@
 #include "dialogs/shared/TimeSpentEdit.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Sheet.h"
-#include "values/TaskUtil.h"
-#include "values/TimeValues.h"
+#include "values/types/TaskUtil.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "values/StopwatchDisplay.h"
+#include "values/settings/StopwatchDisplay.h"
 
 namespace qv {
 

@@ -13,7 +13,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/ErrorPath.h"
-#include "values/DateFormats.h"
+#include "values/settings/DateFormats.h"
 
 namespace qv {
 

@@ -7,7 +7,7 @@
 #include "store/clsCheckLists.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CCreateGuid.h"
+#include "values/types/CCreateGuid.h"
 
 namespace qv {
 

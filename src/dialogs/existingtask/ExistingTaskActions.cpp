@@ -10,9 +10,9 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/StopwatchDisplay.h"
-#include "values/TimeValues.h"
-#include "values/WindowGeometry.h"
+#include "values/settings/StopwatchDisplay.h"
+#include "values/settings/TimeValues.h"
+#include "values/settings/WindowGeometry.h"
 
 namespace qv {
 

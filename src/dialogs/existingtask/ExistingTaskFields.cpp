@@ -12,10 +12,10 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/TextCase.h"
-#include "values/Convert.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TimeValues.h"
+#include "values/types/TextCase.h"
+#include "values/types/Convert.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -12,8 +12,8 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Tool.h"
-#include "values/CNull.h"
-#include "values/TextCase.h"
+#include "values/types/CNull.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

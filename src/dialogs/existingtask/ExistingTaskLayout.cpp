@@ -5,7 +5,7 @@
 #include "toolkit/Form.h"
 #include "toolkit/Splitter.h"
 #include "toolkit/TabStrip.h"
-#include "values/WindowGeometry.h"
+#include "values/settings/WindowGeometry.h"
 
 namespace qv {
 

@@ -19,9 +19,9 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
-#include "values/DateFormats.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TimeValues.h"
+#include "values/settings/DateFormats.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -17,10 +17,10 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CNull.h"
-#include "values/TextCase.h"
-#include "values/TextChars.h"
-#include "values/TimeValues.h"
+#include "values/types/CNull.h"
+#include "values/types/TextCase.h"
+#include "values/types/TextChars.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -10,9 +10,9 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/TaskUtil.h"
-#include "values/TextChars.h"
-#include "values/TimeValues.h"
+#include "values/types/TaskUtil.h"
+#include "values/types/TextChars.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

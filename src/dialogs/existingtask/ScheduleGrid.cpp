@@ -14,10 +14,10 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
-#include "values/CCreateGuid.h"
-#include "values/Convert.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TimeValues.h"
+#include "values/types/CCreateGuid.h"
+#include "values/types/Convert.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -18,7 +18,7 @@
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
-#include "values/WindowGeometry.h"
+#include "values/settings/WindowGeometry.h"
 
 namespace qv {
 

@@ -17,9 +17,9 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/CNull.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TimeValues.h"
+#include "values/types/CNull.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -12,9 +12,9 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
-#include "values/Convert.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TimeValues.h"
+#include "values/types/Convert.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "values/WindowGeometry.h"
+#include "values/settings/WindowGeometry.h"
 
 namespace qv {
 

@@ -4,7 +4,7 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "reports/PrintSettings.h"
 #include "session/globals/SessionGlobals.h"
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -16,8 +16,8 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
-#include "values/TaskUtil.h"
-#include "values/TextCase.h"
+#include "values/types/TaskUtil.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

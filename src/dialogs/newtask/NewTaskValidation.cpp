@@ -5,8 +5,8 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/PointsTally.h"
 #include "session/globals/SessionGlobals.h"
-#include "values/TextChars.h"
-#include "values/TimeValues.h"
+#include "values/types/TextChars.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -18,10 +18,10 @@
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
-#include "values/DateFormats.h"
-#include "values/Settings.h"
-#include "values/TextChars.h"
-#include "values/TimeValues.h"
+#include "values/settings/DateFormats.h"
+#include "values/settings/Settings.h"
+#include "values/types/TextChars.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -14,7 +14,7 @@
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Ui.h"
-#include "values/DateTimeFormatter.h"
+#include "values/types/DateTimeFormatter.h"
 
 namespace qv {
 

@@ -4,7 +4,7 @@
 #include "store/StoreQueries.h"
 #include "store/clsKeywords.h"
 #include "toolkit/Sheet.h"
-#include "values/TextCase.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

@@ -5,7 +5,7 @@
 #include "store/StoreQueries.h"
 #include "store/clsVLProjectsList.h"
 #include "toolkit/Sheet.h"
-#include "values/TaskUtil.h"
+#include "values/types/TaskUtil.h"
 
 namespace qv {
 

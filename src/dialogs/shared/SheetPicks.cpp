@@ -2,8 +2,8 @@
 
 #include "dialogs/shared/TaskRecord.h"
 #include "toolkit/Sheet.h"
-#include "values/Convert.h"
-#include "values/TaskUtil.h"
+#include "values/types/Convert.h"
+#include "values/types/TaskUtil.h"
 
 namespace qv {
 

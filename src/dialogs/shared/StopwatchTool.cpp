@@ -4,8 +4,8 @@
 
 #include "toolkit/Failure.h"
 #include "toolkit/Tool.h"
-#include "values/StopwatchDisplay.h"
-#include "values/TimeValues.h"
+#include "values/settings/StopwatchDisplay.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

@@ -5,7 +5,7 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
-#include "values/CNull.h"
+#include "values/types/CNull.h"
 
 namespace qv {
 

@@ -1,8 +1,8 @@
 #include "dialogs/shared/TaskGuid.h"
 
 #include "session/globals/SessionGlobals.h"
-#include "values/CCreateGuid.h"
-#include "values/TextChars.h"
+#include "values/types/CCreateGuid.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

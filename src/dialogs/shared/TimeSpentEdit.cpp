@@ -4,7 +4,7 @@
 #include "dialogs/shared/SettingUp.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Sheet.h"
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

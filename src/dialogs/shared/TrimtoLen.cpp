@@ -1,6 +1,6 @@
 #include "dialogs/shared/TrimtoLen.h"
 
-#include "values/TextChars.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

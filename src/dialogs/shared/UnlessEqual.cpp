@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "store/Recordset.h"
-#include "values/Convert.h"
-#include "values/DateSerial.h"
+#include "values/types/Convert.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

@@ -5,7 +5,7 @@
 // a text against a number by the number it reads as, texts as texts; a null
 // differs from everything.
 
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

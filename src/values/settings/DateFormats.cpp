@@ -1,4 +1,4 @@
-#include "values/DateFormats.h"
+#include "values/settings/DateFormats.h"
 
 #include <algorithm>
 
@@ -6,9 +6,9 @@
 #include "store/ErrorPath.h"
 #include "store/clsSettings.h"
 #include "toolkit/DateBox.h"
-#include "values/Convert.h"
-#include "values/SettingsSection.h"
-#include "values/TextChars.h"
+#include "values/types/Convert.h"
+#include "values/settings/SettingsSection.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

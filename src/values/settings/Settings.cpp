@@ -1,4 +1,4 @@
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 #include <array>
 #include <cstdint>
@@ -8,10 +8,10 @@
 #include "store/ErrorPath.h"
 #include "store/clsSettings.h"
 #include "toolkit/Failure.h"
-#include "values/Convert.h"
-#include "values/DateFormats.h"
-#include "values/SettingsSection.h"
-#include "values/TimeValues.h"
+#include "values/types/Convert.h"
+#include "values/settings/DateFormats.h"
+#include "values/settings/SettingsSection.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 

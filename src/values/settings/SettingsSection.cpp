@@ -1,9 +1,9 @@
-#include "values/SettingsSection.h"
+#include "values/settings/SettingsSection.h"
 
 #include "store/StoreQueries.h"
 #include "store/clsSettings.h"
 #include "toolkit/Failure.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

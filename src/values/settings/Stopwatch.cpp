@@ -1,4 +1,4 @@
-#include "values/Stopwatch.h"
+#include "values/settings/Stopwatch.h"
 
 #include <cstdint>
 #include <cstdio>

@@ -1,8 +1,8 @@
-#include "values/StopwatchDisplay.h"
+#include "values/settings/StopwatchDisplay.h"
 
 #include "toolkit/Timer.h"
 #include "toolkit/Tool.h"
-#include "values/Stopwatch.h"
+#include "values/settings/Stopwatch.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/TimeValues.h"
+#include "values/settings/TimeValues.h"
 
 #include <cmath>
 #include <string_view>
@@ -9,9 +9,9 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/Convert.h"
-#include "values/DateTimeFormatter.h"
-#include "values/TextChars.h"
+#include "values/types/Convert.h"
+#include "values/types/DateTimeFormatter.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/CCreateGuid.h"
+#include "values/types/CCreateGuid.h"
 
 #include <exception>
 #include <random>

@@ -1,9 +1,9 @@
-#include "values/CNull.h"
+#include "values/types/CNull.h"
 
 #include <cmath>
 
 #include "toolkit/Failure.h"
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 namespace qv {
 

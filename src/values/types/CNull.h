@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

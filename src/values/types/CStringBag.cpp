@@ -1,6 +1,6 @@
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
-#include "values/TextCase.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/Convert.h"
+#include "values/types/Convert.h"
 
 #include <cfloat>
 #include <charconv>
@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 #include "values/types/Digits.h"
 
 namespace qv {

@@ -1,4 +1,4 @@
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 #include "toolkit/DaySerial.h"
 #include "values/types/Digits.h"

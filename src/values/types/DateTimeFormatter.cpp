@@ -1,11 +1,11 @@
-#include "values/DateTimeFormatter.h"
+#include "values/types/DateTimeFormatter.h"
 
 #include <cmath>
 #include <cstdio>
 
 #include "toolkit/DaySerial.h"
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/International.h"
+#include "values/types/International.h"
 
 #include "toolkit/EnvLocaleInfo.h"
 #include "toolkit/Ports.h"

@@ -1,4 +1,4 @@
-#include "values/TaskUtil.h"
+#include "values/types/TaskUtil.h"
 
 #include <vector>
 
@@ -7,8 +7,8 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Tool.h"
 #include "toolkit/Ui.h"
-#include "values/CCreateGuid.h"
-#include "values/Value.h"
+#include "values/types/CCreateGuid.h"
+#include "values/types/Value.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/TextCase.h"
+#include "values/types/TextCase.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/TextChars.h"
+#include "values/types/TextChars.h"
 
 namespace qv {
 

@@ -1,4 +1,4 @@
-#include "values/Value.h"
+#include "values/types/Value.h"
 
 #include <charconv>
 #include <cmath>
@@ -8,7 +8,7 @@
 #include <string_view>
 
 #include "toolkit/Failure.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 #include "values/types/Digits.h"
 
 namespace qv {

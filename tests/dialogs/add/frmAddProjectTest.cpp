@@ -9,7 +9,7 @@
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/DateFormats.h"
+#include "values/settings/DateFormats.h"
 
 namespace qv {
 namespace {

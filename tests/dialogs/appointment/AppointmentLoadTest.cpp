@@ -8,7 +8,7 @@
 #include "toolkit/Label.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Ui.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

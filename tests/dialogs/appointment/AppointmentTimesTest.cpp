@@ -6,7 +6,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Timer.h"
 #include "toolkit/Ui.h"
-#include "values/Settings.h"
+#include "values/settings/Settings.h"
 
 namespace qv {
 

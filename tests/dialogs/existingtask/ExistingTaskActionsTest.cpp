@@ -10,7 +10,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Timer.h"
 #include "toolkit/Ui.h"
-#include "values/DateSerial.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 

@@ -6,8 +6,8 @@
 #include "support/TestEnv.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
-#include "values/Settings.h"
-#include "values/TimeValues.h"
+#include "values/settings/Settings.h"
+#include "values/settings/TimeValues.h"
 
 namespace qv {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "dialogs/shared/KeywordSheet.h"
 #include "toolkit/Sheet.h"
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
 namespace qv {
 

@@ -9,7 +9,7 @@
 #include "support/PrintPorts.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
-#include "values/CStringBag.h"
+#include "values/types/CStringBag.h"
 
 namespace qv {
 

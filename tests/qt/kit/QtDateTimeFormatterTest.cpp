@@ -4,8 +4,8 @@
 
 #include <cmath>
 
-#include "values/Convert.h"
-#include "values/DateSerial.h"
+#include "values/types/Convert.h"
+#include "values/types/DateSerial.h"
 
 namespace qv {
 namespace {
