@@ -57,17 +57,17 @@ public:
         const std::string name = icalproperty_get_x_name(p);
         if (name == kEmpty) {
             for (const auto& column : split(xValue(p))) {
-                auto spec = std::find_if(specs.begin(), specs.end(), [&](const ColumnSpec& s) { return column == s.column; });
-                if (spec == specs.end() || spec->kind != ColumnKind::Text) return false;
-                row[spec->column] = Value(std::string());
+                auto entry = std::find_if(specs.begin(), specs.end(), [&](const ColumnSpec& s) { return column == s.column; });
+                if (entry == specs.end() || entry->kind != ColumnKind::Text) return false;
+                row[entry->column] = Value(std::string());
             }
             return true;
         }
-        for (const auto& spec : specs) {
-            if (!spec.property || name != spec.property) continue;
-            auto v = columns::fromText(spec.kind, xValue(p));
+        for (const auto& entry : specs) {
+            if (!entry.property || name != entry.property) continue;
+            auto v = columns::fromText(entry.kind, xValue(p));
             if (!v) fail(p, name + " \"" + xValue(p) + "\" can't be read");
-            row[spec.column] = std::move(*v);
+            row[entry.column] = std::move(*v);
             return true;
         }
         return false;

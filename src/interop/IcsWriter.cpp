@@ -35,11 +35,11 @@ bool isEmptyText(const Value& v) {
 // X-QUORVEL-EMPTY, which keeps them apart from those that hold nothing.
 void addExact(icalcomponent* c, std::span<const ColumnSpec> specs, const Row& row, const std::string& key = {}) {
     std::string empties;
-    for (const auto& spec : specs) {
-        auto it = row.find(spec.column);
+    for (const auto& entry : specs) {
+        auto it = row.find(entry.column);
         if (it == row.end()) continue;
-        if (isEmptyText(it->second)) empties += (empties.empty() ? "" : ",") + std::string(spec.column);
-        else if (spec.property) addX(c, spec.property, columns::toText(spec.kind, it->second), key);
+        if (isEmptyText(it->second)) empties += (empties.empty() ? "" : ",") + std::string(entry.column);
+        else if (entry.property) addX(c, entry.property, columns::toText(entry.kind, it->second), key);
     }
     if (!empties.empty()) addX(c, "X-QUORVEL-EMPTY", empties, key);
 }

@@ -27,11 +27,11 @@ using KeyMap = std::unordered_map<std::string, std::string>;
 // Assigns the fields of wanted that differ from the current row; true when any did.
 bool assignChanged(Recordset& rs, std::span<const ColumnSpec> specs, const Row& wanted) {
     bool changed = false;
-    for (const auto& spec : specs) {
-        auto it = wanted.find(spec.column);
+    for (const auto& entry : specs) {
+        auto it = wanted.find(entry.column);
         if (it == wanted.end()) continue;
-        if (columns::same(spec.kind, rs.Fields(spec.column).value(), it->second)) continue;
-        rs.Fields(spec.column) = it->second;
+        if (columns::same(entry.kind, rs.Fields(entry.column).value(), it->second)) continue;
+        rs.Fields(entry.column) = it->second;
         changed = true;
     }
     return changed;
@@ -39,8 +39,8 @@ bool assignChanged(Recordset& rs, std::span<const ColumnSpec> specs, const Row& 
 
 void addRow(Recordset& rs, std::span<const ColumnSpec> specs, const Row& row) {
     rs.AddNew();
-    for (const auto& spec : specs)
-        if (auto it = row.find(spec.column); it != row.end()) rs.Fields(spec.column) = it->second;
+    for (const auto& entry : specs)
+        if (auto it = row.find(entry.column); it != row.end()) rs.Fields(entry.column) = it->second;
     rs.Update();
 }
 

@@ -72,9 +72,9 @@ TableSet::~TableSet() {
 
 Row TableSet::current(std::span<const ColumnSpec> specs) {
     Row row;
-    for (const auto& spec : specs) {
-        Value v = rs_->Fields(spec.column).value();
-        if (!v.isNull()) row.emplace(spec.column, std::move(v));
+    for (const auto& entry : specs) {
+        Value v = rs_->Fields(entry.column).value();
+        if (!v.isNull()) row.emplace(entry.column, std::move(v));
     }
     return row;
 }

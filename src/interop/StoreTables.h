@@ -25,7 +25,7 @@ public:
     TableSet& operator=(const TableSet&) = delete;
 
     [[nodiscard]] Recordset& rs() { return *rs_; }
-    // Every row from the first, with the spec's columns that are not null.
+    // Every row from the first, with the entry's columns that are not null.
     [[nodiscard]] std::vector<Row> rows(std::span<const ColumnSpec> specs);
     // The current row as such.
     [[nodiscard]] Row current(std::span<const ColumnSpec> specs);
