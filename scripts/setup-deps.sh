@@ -6,7 +6,8 @@ pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev li
       at-spi2-core python3-pyatspi dbus-x11
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
       postgresql libpq-dev libical-dev
-      openbox xdotool x11-utils imagemagick sqlite3)  # the keyboard walk under Xvfb
+      openbox xdotool x11-utils imagemagick sqlite3  # the keyboard walk under Xvfb
+      gettext locales qt6-translations-l10n)  # catalogues, and the German locale their tests run in
 # Test tools that read the exported calendar files: their tests skip where
 # these are missing, and a failed install of them stops nothing.
 optional=(python3-icalendar todoman)
@@ -19,6 +20,11 @@ if [ ${#missing[@]} -gt 0 ]; then
   SUDO=""; [ "$(id -u)" -eq 0 ] || SUDO="sudo"
   $SUDO apt-get update -qq
   DEBIAN_FRONTEND=noninteractive $SUDO apt-get install -y -qq "${missing[@]}" >/dev/null
+fi
+# The German locale, for the runs that check the German catalogue.
+if ! locale -a 2>/dev/null | grep -qi '^de_DE\.utf-\?8$'; then
+  SUDO=""; [ "$(id -u)" -eq 0 ] || SUDO="sudo"
+  $SUDO localedef -i de_DE -f UTF-8 de_DE.UTF-8 || echo "Could not make the locale de_DE.UTF-8"
 fi
 optional_missing=()
 for p in "${optional[@]}"; do
