@@ -5,6 +5,7 @@
 #if defined(QV_HOST_VIEW) && defined(QV_HOST_EXE)
 
 #include <gtest/gtest.h>
+#include <locale.h>
 #include <sqlite3.h>
 #include <stdlib.h>
 #include <sys/wait.h>
@@ -99,12 +100,16 @@ protected:
         fs::remove_all(root_, ec);
     }
 
-    // The program with no display, its HOME inside the test's folder.
-    Outcome run(const std::string& args) const {
+    // The program with no display, its HOME inside the test's folder; with
+    // a language, in that locale alone.
+    Outcome run(const std::string& args, const std::string& lang = {}) const {
         const fs::path out = root_ / "out.txt", err = root_ / "err.txt";
-        const std::string cmd = "cd '" + root_.string() + "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QUORVEL_HOME" +
-                                " -u XDG_DATA_HOME HOME='" + (root_ / "home").string() + "' '" QV_HOST_EXE "' " +
-                                args + " >'" + out.string() + "' 2>'" + err.string() + "'";
+        const std::string locale =
+            lang.empty() ? "" : " -u LC_ALL -u LC_MESSAGES -u LANGUAGE LANG='" + lang + "'";
+        const std::string cmd =
+            "cd '" + root_.string() + "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QUORVEL_HOME" +
+            " -u XDG_DATA_HOME" + locale + " HOME='" + (root_ / "home").string() + "' '" QV_HOST_EXE "' " +
+            args + " >'" + out.string() + "' 2>'" + err.string() + "'";
         const int raw = std::system(cmd.c_str());
         Outcome r{WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, slurp(out), slurp(err)};
         fs::remove(out);
@@ -158,6 +163,41 @@ TEST_F(CommandLine, AnswersEveryCaseAndLeavesTheUsersStoreAsItWas) {
         EXPECT_EQ(dumpStore(user_ / "QuorvelData.mdb"), before);
         EXPECT_EQ(listing(root_), files) << "written by quorvel " << args;
     }
+}
+
+// The program speaks the language of its environment: its own texts from
+// the quorvel catalogue, Qt's (the help's headings) from Qt's; in C, English.
+struct LanguageCase {
+    const char* lang;
+    const char* args;
+    const char* out;  // standard output holds this ("" for empty)
+    const char* err;  // standard error holds this ("" for empty)
+};
+
+const LanguageCase kLanguages[] = {
+    {"de_DE.UTF-8", "--help", "Diese Hilfe zeigen und beenden.", ""},
+    {"de_DE.UTF-8", "--help", "Optionen:", ""},
+    {"de_DE.UTF-8", "--home USER leftover", "", "unerwartetes Argument 'leftover'"},
+    {"de_DE.UTF-8", "--home USER", "", "Ihr Datenbestand: "},
+    {"de_DE.UTF-8", "--home USER --install-store", "Der Datenbestand besteht bereits in", ""},
+    {"C", "--help", "Show this help and exit.", ""},
+    {"C", "--help", "Options:", ""},
+    {"C", "--home USER leftover", "", "unexpected argument 'leftover'"},
+    {"C.UTF-8", "--home USER --install-store", "The store stands already in", ""},
+};
+
+TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
+    const bool german = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr) != nullptr;
+    for (const LanguageCase& c : kLanguages) {
+        if (!german && std::string(c.lang) != "C" && std::string(c.lang) != "C.UTF-8") continue;
+        std::string args = c.args;
+        if (auto at = args.find("USER"); at != std::string::npos) args.replace(at, 4, user_.string());
+        SCOPED_TRACE(std::string(c.lang) + " " + args);
+        const Outcome r = run(args, c.lang);
+        if (*c.out) EXPECT_NE(r.out.find(c.out), std::string::npos) << r.out;
+        if (*c.err) EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
+    }
+    if (!german) GTEST_SKIP() << "no de_DE.UTF-8 locale on this machine";
 }
 
 // A relative --home is made absolute: the settings file names the store by
