@@ -41,7 +41,10 @@ std::string says(const QString& text, const Args&... args) {
 // --help, --version or a usage mistake; -1 when the program goes on.
 int answerAtOnce(const qv::CommandLine& cl, int argc, char** argv) {
     if (!cl.error.empty()) {
-        std::cerr << "quorvel: " << cl.error << "\n"
+        // Qt's parser says its part in Qt's own catalogue, which needs an application.
+        QCoreApplication core(argc, argv);
+        qv::UserLanguage::useIn(core);
+        std::cerr << "quorvel: " << qv::parseCommandLine(argumentsOf(argc, argv)).error << "\n"
                   << qv::qtr("Try 'quorvel --help' for more information.").toStdString() << "\n";
         return qv::kUsageExit;
     }

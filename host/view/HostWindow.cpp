@@ -1,5 +1,6 @@
 #include "view/HostWindow.h"
 
+#include <algorithm>
 #include <exception>
 
 #include <QAction>
@@ -162,6 +163,9 @@ QWidget* HostWindow::buildTaskPage() {
     const auto& fm = fontMetrics();
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
     table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
+    // A heading longer than its column (in another language) widens it.
+    for (int c = TaskTableModel::Status; c < TaskTableModel::ColumnCount; ++c)
+        table_->setColumnWidth(c, std::max(table_->columnWidth(c), table_->horizontalHeader()->sectionSizeHint(c)));
     column->addWidget(table_, 3);
     // Enter or a double click opens the task.
     connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);

@@ -178,6 +178,7 @@ const LanguageCase kLanguages[] = {
     {"de_DE.UTF-8", "--help", "Diese Hilfe zeigen und beenden.", ""},
     {"de_DE.UTF-8", "--help", "Optionen:", ""},
     {"de_DE.UTF-8", "--home USER leftover", "", "unerwartetes Argument 'leftover'"},
+    {"de_DE.UTF-8", "--bogus", "", "Unbekannte Option 'bogus'"},
     {"de_DE.UTF-8", "--home USER", "", "Ihr Datenbestand: "},
     {"de_DE.UTF-8", "--home USER --install-store", "Der Datenbestand besteht bereits in", ""},
     {"C", "--help", "Show this help and exit.", ""},
