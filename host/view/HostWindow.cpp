@@ -8,6 +8,8 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFont>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -162,10 +164,21 @@ QWidget* HostWindow::buildTaskPage() {
     // Widths from the text they hold, not from 100,000 rows.
     const auto& fm = fontMetrics();
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
-    table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
-    // A heading longer than its column (in another language) widens it.
+    table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00")) + 12);
+    // A heading longer than its column (in another language) widens it; the
+    // description keeps room for its heading on a narrow screen.
+    // (measured bold: the chosen row's headings are).
+    QHeaderView* header = table_->horizontalHeader();
+    QFont boldFont = header->font();
+    boldFont.setBold(true);
+    const QFontMetrics bold(boldFont), plain(header->font());
+    const auto headingWidth = [&](int c) {
+        const QString text = tasks_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        return header->sectionSizeHint(c) + bold.horizontalAdvance(text) - plain.horizontalAdvance(text);
+    };
     for (int c = TaskTableModel::Status; c < TaskTableModel::ColumnCount; ++c)
-        table_->setColumnWidth(c, std::max(table_->columnWidth(c), table_->horizontalHeader()->sectionSizeHint(c)));
+        table_->setColumnWidth(c, std::max(table_->columnWidth(c), headingWidth(c)));
+    header->setMinimumSectionSize(headingWidth(TaskTableModel::Desc));
     column->addWidget(table_, 3);
     // Enter or a double click opens the task.
     connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
