@@ -13,7 +13,7 @@
 #endif
 
 int main(int argc, char** argv) {
-    // Messages in the environment's language; numbers always with '.'.
+    // Messages in the user's language; numbers keep the '.' the logic writes and reads.
     std::setlocale(LC_ALL, "");
     std::setlocale(LC_NUMERIC, "C");
     if (argc != 2) {

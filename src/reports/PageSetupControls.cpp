@@ -1,29 +1,30 @@
 #include "reports/PageSetupControls.h"
 
+#include "reports/PrintSettings.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Translate.h"
 
 namespace qv {
 
 namespace {
-const char* const kStoredWords[] = {QV_N("Portrait"), QV_N("Landscape"), QV_N("Automatic"), QV_N("Yes"), QV_N("No")};
-
-bool holdsWords(const std::string& key) {
-    return key == "PAPER" || key == "PAGESWIDE" || key == "PRINTCOLOR";
-}
+struct StoredWord {
+    const char* key;
+    const char* word;
+};
+const StoredWord kStoredWords[] = {{"PAPER", QV_N("Portrait")},  {"PAPER", QV_N("Landscape")},
+                                   {"PAGESWIDE", QV_N("Automatic")}, {"PRINTCOLOR", QV_N("Yes")},
+                                   {"PRINTCOLOR", QV_N("No")},   {"PRINTER", PrintSettings::kNoPrinter}};
 }  // namespace
 
 std::string PageSetupControls::shownWord(const std::string& key, const std::string& stored) {
-    if (holdsWords(key))
-        for (const char* word : kStoredWords)
-            if (stored == word) return tr(word);
+    for (const auto& [k, word] : kStoredWords)
+        if (key == k && stored == word) return tr(word);
     return stored;
 }
 
 std::string PageSetupControls::storedWord(const std::string& key, const std::string& shown) {
-    if (holdsWords(key))
-        for (const char* word : kStoredWords)
-            if (shown == tr(word)) return word;
+    for (const auto& [k, word] : kStoredWords)
+        if (key == k && shown == tr(word)) return word;
     return shown;
 }
 

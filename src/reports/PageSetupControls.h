@@ -29,9 +29,9 @@ struct PageSetupControls {
     // The tool of any settings sheet by key; throws for an unknown key.
     [[nodiscard]] Tool& tool(const char* key) const;
 
-    // Orientation, pages wide and colour (keys "PAPER", "PAGESWIDE",
-    // "PRINTCOLOR") are stored in English ("Landscape", "Automatic", "Yes")
-    // and shown in the user's language; other keys' texts pass unchanged.
+    // Orientation, pages wide, colour and the missing printer are stored in
+    // English ("Landscape", "Automatic", "Yes", "(No Printer Installed)") and
+    // shown in the user's language; other texts pass unchanged.
     [[nodiscard]] static std::string shownWord(const std::string& key, const std::string& stored);
     [[nodiscard]] static std::string storedWord(const std::string& key, const std::string& shown);
 

@@ -105,7 +105,7 @@ void frmPageSetup::GetTHEDefaultPrinter() {
         std::string profile = defaultDeviceProfile().substr(0, 254);
         if (auto nul = profile.find('\0'); nul != std::string::npos) profile.resize(nul);
         printerList_ = splitAt(profile, ',');
-        c_.tool("PRINTER").setText(printerList_.at(0));
+        c_.tool("PRINTER").setText(PageSetupControls::shownWord("PRINTER", printerList_.at(0)));
     });
 }
 
@@ -115,7 +115,7 @@ void frmPageSetup::PopulateListControlWithPrinters() {
         const std::vector<std::string> names =
             ports().printers ? ports().printers->deviceNames() : std::vector<std::string>{};
         if (names.empty()) {
-            list.addItem(ttOption, "PRN-0", PrintSettings::kNoPrinter);
+            list.addItem(ttOption, "PRN-0", PageSetupControls::shownWord("PRINTER", PrintSettings::kNoPrinter));
             return;
         }
         for (std::size_t i = 0; i < names.size(); ++i) {
