@@ -29,7 +29,8 @@ bool isLanguageFolder(const std::string& name) {
     const std::size_t letters = name.find('_');
     const std::string language = name.substr(0, letters);
     if (language.size() < 2 || language.size() > 3) return false;
-    if (!std::all_of(language.begin(), language.end(), [](char c) { return c >= 'a' && c <= 'z'; })) return false;
+    if (!std::all_of(language.begin(), language.end(), [](char c) { return c >= 'a' && c <= 'z'; }))
+        return false;
     if (letters == std::string::npos) return true;
     const std::string territory = name.substr(letters + 1);
     return territory.size() == 2 &&
@@ -60,8 +61,10 @@ std::string HelpLanguages::pageFor(const std::string& helpFolder, const std::str
     if (helpFolder.empty() || !path.starts_with(helpFolder)) return path;
     const std::size_t hash = path.find('#');
     const std::string place = hash == std::string::npos ? "" : path.substr(hash);
-    std::string file = path.substr(helpFolder.size(), hash == std::string::npos ? std::string::npos : hash - helpFolder.size());
-    if (const std::size_t slash = file.find('/'); slash != std::string::npos && isLanguageFolder(file.substr(0, slash)))
+    std::string file = path.substr(helpFolder.size(),
+                                   hash == std::string::npos ? std::string::npos : hash - helpFolder.size());
+    if (const std::size_t slash = file.find('/');
+        slash != std::string::npos && isLanguageFolder(file.substr(0, slash)))
         file.erase(0, slash + 1);
     std::error_code ec;
     for (const std::string& language : languages_) {

@@ -28,8 +28,10 @@ public:
 
 private:
     static void apply(const char* name, const std::optional<std::string>& value) {
-        if (value) ::setenv(name, value->c_str(), 1);
-        else ::unsetenv(name);
+        if (value)
+            ::setenv(name, value->c_str(), 1);
+        else
+            ::unsetenv(name);
     }
 
     std::vector<std::pair<std::string, std::optional<std::string>>> saved_;
