@@ -1,6 +1,7 @@
 #include "kit/UserLanguage.h"
 
 #include <clocale>
+#include <string>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -16,7 +17,11 @@ void UserLanguage::fromEnvironment() {
 
 void UserLanguage::useIn(QCoreApplication& app) {
     std::setlocale(LC_NUMERIC, "C");
-    // No catalogue for English or C: the translator stays unloaded and unused.
+    // In the C locales gettext ignores LANGUAGE, so Qt's texts stay English too.
+    const char* current = std::setlocale(LC_MESSAGES, nullptr);
+    const std::string messages = current ? current : "C";
+    if (messages == "C" || messages == "POSIX" || messages.rfind("C.", 0) == 0) return;
+    // No catalogue for English: the translator stays unloaded and unused.
     auto* qtTexts = new QTranslator(&app);
     if (qtTexts->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"),
                       QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
