@@ -7,6 +7,7 @@
 #include "store/ErrorPath.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CStringBag.h"
 #include "values/types/Convert.h"
@@ -18,8 +19,8 @@ namespace qv {
 namespace {
 
 constexpr const char* kModule = "frmPopHelp";
-constexpr const char* kPrintQuestion = "Print this help topic? It may take a moment or two to prepare.";
-constexpr const char* kPreviewQuestion = "Print Preview this help topic? It may take a moment or two to prepare.";
+constexpr const char* kPrintQuestion = QV_N("Print this help topic? It may take a moment or two to prepare.");
+constexpr const char* kPreviewQuestion = QV_N("Print Preview this help topic? It may take a moment or two to prepare.");
 constexpr const char* kTitlePrefix = "Quorvel -";
 // Twips per unit of the margins: inches for US measurement, else centimetres.
 constexpr float kTwipsPerInch = 1440.0f;
@@ -29,9 +30,12 @@ std::string withSlash(const std::string& folder) {
     return !folder.empty() && folder.back() == '/' ? folder : folder + "/";
 }
 
-// The page's file name, without a place inside the page ("#...").
+// The page, without a place inside it ("#...").
+std::string pageOf(const std::string& location) { return location.substr(0, location.find('#')); }
+
+// The page's file name.
 std::string fileNameOf(const std::string& location) {
-    const std::string page = location.substr(0, location.find('#'));
+    const std::string page = pageOf(location);
     const auto slash = page.find_last_of('/');
     return slash == std::string::npos ? page : page.substr(slash + 1);
 }
@@ -50,16 +54,17 @@ int32_t twipsOr(const std::string& text, float perUnit) {
 frmPopHelp::frmPopHelp(HelpPrinter* printer, TourPreference* tour)
     : Form(kModule), printer_(printer), tour_(tour) {
     addControl("smtAction", smtAction);
+    browsePWindow.setPagePicker([this](const std::string& path) { return languages_.pageFor(helpFolder(), path); });
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
-    setCaption("Quorvel Help");
-    smtAction.add(ttButton, "BACK", "&Back").setTip("Go back to the page before");
-    smtAction.add(ttButton, "PRINT", "&Print").setTip("Print this help topic");
-    smtAction.add(ttButton, "PRINTPREVIEW", "Print Pre&view").setTip("Preview this help topic as it prints");
+    setCaption(tr("Quorvel Help"));
+    smtAction.add(ttButton, "BACK", tr("&Back")).setTip(tr("Go back to the page before"));
+    smtAction.add(ttButton, "PRINT", tr("&Print")).setTip(tr("Print this help topic"));
+    smtAction.add(ttButton, "PRINTPREVIEW", tr("Print Pre&view")).setTip(tr("Preview this help topic as it prints"));
     smtAction.add(ttSeparator, "S1").setVisible(false);
-    Tool& noShow = smtAction.add(ttCheck, "NOSHOW", "Show Tour when Application starts");
-    noShow.setTip("Show/don't the Tour when application opens");
+    Tool& noShow = smtAction.add(ttCheck, "NOSHOW", tr("Show Tour when Application starts"));
+    noShow.setTip(tr("Show/don't the Tour when application opens"));
     noShow.setVisible(false);
-    smtAction.add(ttButton, "CLOSE", "&Close").setTip("Close this help window");
+    smtAction.add(ttButton, "CLOSE", tr("&Close")).setTip(tr("Close this help window"));
 }
 
 bool frmPopHelp::setHelpPrinterSettings(const std::string& settings) {
@@ -71,7 +76,7 @@ bool frmPopHelp::Setup(int32_t topic) {
     return trapAs(kProject, kModule, "Setup", [&] {
         const std::string folder = withSlash(g().AppPath);
         if (const auto found = HelpTopics::find(topic)) {
-            browsePWindow.Navigate(folder + found->page);
+            browsePWindow.Navigate(languages_.pageFor(helpFolder(), folder + found->page));
             setCaption(found->title);
             helpPath_ = found->keptPath;
         }
@@ -118,7 +123,7 @@ void frmPopHelp::closeNow() {
 }
 
 void frmPopHelp::printTopic(bool preview) {
-    const int32_t answer = ui().msgBox(preview ? kPreviewQuestion : kPrintQuestion, vbYesNo + vbQuestion, kProgramTitle);
+    const int32_t answer = ui().msgBox(tr(preview ? kPreviewQuestion : kPrintQuestion), vbYesNo + vbQuestion, kProgramTitle);
     if (answer != vbYes || !printer_) return;
     const HelpPrintJob job = MakeHelpHTML();
     if (job.page.empty()) return;
@@ -155,8 +160,8 @@ HelpPrintJob frmPopHelp::MakeHelpHTML() const {
     const std::string right = FooterText::forPrint(bag.ReadItem("FRIGHT"), now);
     job.footer = "{newline}{line}{Left}" + left + "{Right}" + right;
     job.heading = caption().rfind(kTitlePrefix, 0) == 0 ? caption().substr(std::string(kTitlePrefix).size()) : caption();
-    job.baseFolder = helpFolder();
     job.page = pageToPrint();
+    job.baseFolder = job.page.empty() ? helpFolder() : job.page.substr(0, job.page.find_last_of('/') + 1);
     return job;
 }
 
@@ -165,8 +170,13 @@ std::string frmPopHelp::helpFolder() const {
     return folder + (!folder.empty() && folder.back() == '/' ? "help/" : "/help/");
 }
 
+// A page of the help folder or of one of its language folders prints as
+// shown; any other location by its file name in the help folder.
 std::string frmPopHelp::pageToPrint() const {
-    if (browsePWindow.hasPage()) return helpFolder() + fileNameOf(browsePWindow.LocationURL());
+    if (browsePWindow.hasPage()) {
+        const std::string page = pageOf(browsePWindow.LocationURL());
+        return page.starts_with(helpFolder()) ? page : helpFolder() + fileNameOf(page);
+    }
     return helpPath_.empty() ? std::string() : withSlash(g().AppPath) + helpPath_;
 }
 
