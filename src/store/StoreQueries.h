@@ -5,6 +5,7 @@
 // never as part of the text.
 
 #include <string>
+#include <vector>
 
 #include "store/Query.h"
 
@@ -54,5 +55,7 @@ Query checklistPickerList();
 
 // --- settings ------------------------------------------------------------
 Query settingsSection(const std::string& section);
+// The rows of several sections in one read, each section's in display order.
+Query settingsSections(const std::vector<std::string>& sections);
 
 }  // namespace qv::queries
