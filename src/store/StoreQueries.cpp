@@ -135,7 +135,7 @@ Query settingsSections(const std::vector<std::string>& sections) {
         values.emplace_back(section);
     }
     return {"SELECT * from Settings WHERE SetUser='1' and SetSettingSection IN (" + marks +
-                ") ORDER BY setSettingDisplayOrd",
+                ") ORDER BY SetSettingSection, setSettingDisplayOrd",
             std::move(values)};
 }
 
