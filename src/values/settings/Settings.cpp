@@ -42,13 +42,13 @@ const std::vector<std::string>& loadedSections() {
 }
 
 // The value sections' rule: the value when it has any length, else the default.
-std::string valueOrDefault(const SettingRow& row) {
+std::string valueOrDefault(const StoredSetting& row) {
     std::string value = row.value.toText();
     return value.empty() ? row.fallback.toText() : value;
 }
 
 // The window sections' rule: the value as a number when 0 or more, else the default.
-int32_t windowValue(const SettingRow& row) {
+int32_t windowValue(const StoredSetting& row) {
     const int32_t value = toLong(row.value.toText());
     return value >= 0 ? value : toLong(row.fallback.toText());
 }
@@ -57,7 +57,7 @@ int32_t windowValue(const SettingRow& row) {
 template <class Array, class Read>
 void fillByOrder(const Rows& rows, Array& array, Read read) {
     std::size_t i = 0;
-    for (const SettingRow& row : rows) slot(array, i++) = read(row);
+    for (const StoredSetting& row : rows) slot(array, i++) = read(row);
 }
 
 struct NewRow {
@@ -114,7 +114,7 @@ void loadSpellchecking(const Rows& rows) {
 void loadStatus(const Rows& rows) {
     auto& list = g().StatusList;
     list.assign(rows.size(), std::string());
-    for (const SettingRow& row : rows) {
+    for (const StoredSetting& row : rows) {
         std::string name = row.name.toText();
         for (char& c : name)
             if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
@@ -129,7 +129,7 @@ void loadTimeNeeded(const Rows& rows) {
     labels.assign(rows.size(), std::string());
     minutes.assign(rows.size(), 0);
     std::size_t i = 0;
-    for (const SettingRow& row : rows) {
+    for (const StoredSetting& row : rows) {
         const std::string value = valueOrDefault(row);
         slot(labels, i) = SetTimeFormat(toDouble(value));
         slot(minutes, i) = toLong(value);
@@ -138,7 +138,7 @@ void loadTimeNeeded(const Rows& rows) {
 }
 
 void loadOutlookIntegration(const Rows& rows) {
-    for (const SettingRow& row : rows)
+    for (const StoredSetting& row : rows)
         if (row.name.toText() == "Integrate Outlook Tasks") g().OutlookIntegrationOn = row.value.toBool();
 }
 
@@ -189,7 +189,7 @@ void loadAll() {
     SettingsSnapshot all(reader, loadedSections());
     loadAppVersion(reader, all.rows("AppVersion"));
     loadSpellchecking(all.rows("Spellchecking"));
-    fillByOrder(all.rows("UserStuff"), g().UStuff, [](const SettingRow& row) { return row.value.toText(); });
+    fillByOrder(all.rows("UserStuff"), g().UStuff, [](const StoredSetting& row) { return row.value.toText(); });
     loadStatus(all.rows("Status"));
     fillByOrder(all.rows("Importance Level"), g().ImportanceList, valueOrDefault);
     fillByOrder(all.rows("Difficulty"), g().DifficultyList, valueOrDefault);
@@ -198,7 +198,7 @@ void loadAll() {
     loadWindow(reader, all, "TASKWINDOW", g().TaskWindow, 4);
     addExistingTaskWindow(reader, all);
     loadWindow(reader, all, "ETASK", g().ETaskWindow, 4);
-    fillByOrder(all.rows("Points"), g().PointsTable, [](const SettingRow& row) { return toLong(valueOrDefault(row)); });
+    fillByOrder(all.rows("Points"), g().PointsTable, [](const StoredSetting& row) { return toLong(valueOrDefault(row)); });
     loadOutlookIntegration(all.rows("OutLookIntegration"));
     loadOutlookProfile(all.rows("OutlookProfileString"));
 }

@@ -14,7 +14,7 @@ namespace qv {
 class clsSettings;
 
 // One row of a section: SetSettingName, SetSettingValue and SetDefault.
-struct SettingRow {
+struct StoredSetting {
     Value name;
     Value value;
     Value fallback;
@@ -22,7 +22,7 @@ struct SettingRow {
 
 class SettingsSnapshot {
 public:
-    using Rows = std::vector<SettingRow>;
+    using Rows = std::vector<StoredSetting>;
 
     // Throws Failure(err::ObjectRequired) when the reader could not open them.
     SettingsSnapshot(clsSettings& reader, const std::vector<std::string>& sections);
