@@ -4,6 +4,8 @@
 #include "store/ErrorPath.h"
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/TextCase.h"
 
@@ -43,7 +45,7 @@ void AddDialog::Form_KeyDown(int32_t keyCode, int32_t shift) {
 
 void AddDialog::addNew(AddTrigger how) {
     if (!validateNew() || !createNew()) return;
-    info(std::string(shape_.noun) + " \"" + addedName() + "\" created.");
+    info(fill(tr(shape_.created), {addedName()}));
     afterAdd(how);
 }
 

@@ -31,7 +31,7 @@ protected:
         const char* addKey;    // the tool that adds
         const char* closeKey;  // the tool that closes
         int32_t helpTopic;
-        const char* noun;  // "Project", "Keyword": the "created." box
+        const char* created;  // the "created." box, %1 the name (translated when shown)
     };
 
     AddDialog(std::string name, Shape shape);
