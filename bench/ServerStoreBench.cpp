@@ -1,6 +1,7 @@
 // The store on a PostgreSQL server over a Unix socket: SetupTask in mode 0
-// (New Task), 1 (Existing Task) and 2 (Task Appointment) on the large store, each against
-// the same reads done with bare libpq on one open connection. The same
+// (New Task), 1 (Existing Task) and 2 (Task Appointment) on the large store, and a
+// Recordset walk of 10,000 tasks, each against the same reads done with bare libpq
+// on one open connection. The same
 // opens on the SQLite file are NewTaskBench, ExistingTaskBench and AppointmentBench. Needs
 // QV_STORE_URI (scripts/bench-server.sh starts a throw-away server).
 
@@ -17,6 +18,8 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "installer/StoreFile.h"
 #include "session/clsTask2.h"
+#include "store/Recordset.h"
+#include "values/types/DateSerial.h"
 #include "support/BenchStore.h"
 #include "support/TimeSetupTask.h"
 
@@ -180,5 +183,60 @@ void BM_ServerExistingTaskOpen(benchmark::State& state) {
         });
 }
 BENCHMARK(BM_ServerExistingTaskOpen)->Unit(benchmark::kMillisecond);
+
+// The walk: 10,000 tasks, reading the key, the description, the importance,
+// the current flag and the deadline of each.
+constexpr const char* kServerWalk = "SELECT * from TASKS WHERE tskCustSortQV < 10000";
+
+void BM_ServerWalk_Recordset(benchmark::State& state) {
+    auto* s = large();
+    if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
+    const std::string cs = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + s->storePath() + ";";
+    int64_t rows = 0;
+    for (auto _ : state) {
+        Recordset rs;
+        rs.Open(kServerWalk, cs, adOpenStatic, adLockBatchOptimistic);
+        const Field key = rs.Fields("tskGUIDID");
+        const Field desc = rs.Fields("tskDesc");
+        const Field imp = rs.Fields("tskImp");
+        const Field current = rs.Fields("tskCURRENT");
+        const Field deadline = rs.Fields("tskDeadline");
+        for (; !rs.EOF_(); rs.MoveNext(), ++rows) {
+            benchmark::DoNotOptimize(key.value());
+            benchmark::DoNotOptimize(desc.value());
+            benchmark::DoNotOptimize(imp.value());
+            benchmark::DoNotOptimize(current.value());
+            benchmark::DoNotOptimize(deadline.value());
+        }
+        rs.Close();
+    }
+    state.SetItemsProcessed(rows);
+}
+BENCHMARK(BM_ServerWalk_Recordset)->Unit(benchmark::kMillisecond);
+
+void BM_ServerWalk_BareLibpq(benchmark::State& state) {
+    auto* s = large();
+    if (!s) return state.SkipWithError("no server: set QV_STORE_URI");
+    PGconn* c = PQconnectdb(s->storePath().c_str());
+    int64_t rows = 0;
+    for (auto _ : state) {
+        PGresult* r = PQexec(c, kServerWalk);
+        const int n = PQntuples(r);
+        const int fKey = PQfnumber(r, "tskguidid"), fDesc = PQfnumber(r, "tskdesc"), fImp = PQfnumber(r, "tskimp");
+        const int fCurrent = PQfnumber(r, "tskcurrent"), fDeadline = PQfnumber(r, "tskdeadline");
+        for (int i = 0; i < n; ++i, ++rows) {
+            benchmark::DoNotOptimize(Value(std::string(PQgetvalue(r, i, fKey), PQgetlength(r, i, fKey))));
+            benchmark::DoNotOptimize(Value(std::string(PQgetvalue(r, i, fDesc), PQgetlength(r, i, fDesc))));
+            benchmark::DoNotOptimize(Value(static_cast<int16_t>(std::atoi(PQgetvalue(r, i, fImp)))));
+            benchmark::DoNotOptimize(Value(std::atoi(PQgetvalue(r, i, fCurrent)) != 0));
+            benchmark::DoNotOptimize(
+                Value(Date{dateserial::fromIso(PQgetvalue(r, i, fDeadline)).value_or(0.0)}));
+        }
+        PQclear(r);
+    }
+    PQfinish(c);
+    state.SetItemsProcessed(rows);
+}
+BENCHMARK(BM_ServerWalk_BareLibpq)->Unit(benchmark::kMillisecond);
 
 }  // namespace

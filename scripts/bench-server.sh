@@ -10,4 +10,4 @@ shift || true
 dir=/tmp/qv-pg-bench-$$
 trap 'scripts/pg-server.sh stop "$dir"' EXIT
 export QV_STORE_URI=$(scripts/pg-server.sh start "$dir")
-"$build/bench/qv_bench" --benchmark_filter='NewTaskOpen|ExistingTaskOpen|AppointmentOpen' "$@"
+"$build/bench/qv_bench" --benchmark_filter='NewTaskOpen|ExistingTaskOpen|AppointmentOpen|Walk_' "$@"

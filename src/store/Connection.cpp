@@ -199,7 +199,6 @@ std::shared_ptr<Connection> Connection::forConnString(const std::string& connStr
 }
 
 std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
-    const std::string context = "opening the store file " + quotedPath(path);
     auto& reg = registry();
     const FileFacts facts = examine(path);
     const auto found = reg.find(path);

@@ -18,6 +18,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "store/JetDialect.h"
 #include "store/StoreBackend.h"
 
 namespace qv {
@@ -81,8 +82,8 @@ public:
     // The store engine's side of a Recordset (ConnectionRows.cpp).
     QueryPlan plan(const std::string& jetSource) override;
     void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-              std::string_view context) override;
-    int64_t count(const QueryPlan& plan, std::string_view context) override;
+              const Doing& doing) override;
+    int64_t count(const QueryPlan& plan, const Doing& doing) override;
     void removeRow(const std::string& table, int64_t id, std::string_view context) override;
     int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
                       const std::vector<Value>& values, std::string_view context) override;
@@ -107,6 +108,18 @@ private:
     static std::shared_ptr<Connection> openNew(const std::string& path, uint64_t dev, uint64_t ino,
                                                bool readOnly);
 
+    // A query text's translation and shape, which depend on the text alone.
+    struct TextPlan {
+        std::string sql;
+        jet::SelectShape shape;
+        std::string rowidSql;
+        std::string countSql;
+    };
+    static constexpr size_t kMaxTextPlans = 512;
+    const TextPlan& textPlan(const std::string& jetSource);
+    // The columns of a prepared text, and its one base table.
+    static void describe(sqlite3_stmt* stmt, QueryPlan& p);
+
     struct Entry {
         sqlite3_stmt* stmt = nullptr;
         bool inUse = false;
@@ -121,6 +134,7 @@ private:
     uint64_t ino_ = 0;
     uint64_t tick_ = 0;
     std::unordered_map<std::string, std::unique_ptr<Entry>> cache_;
+    std::unordered_map<std::string, TextPlan> texts_;
 };
 
 }  // namespace qv

@@ -47,28 +47,44 @@ void readCell(sqlite3_stmt* stmt, int c, Cell& cell, RowStore& store) {
 
 }  // namespace
 
+const Connection::TextPlan& Connection::textPlan(const std::string& jetSource) {
+    if (const auto found = texts_.find(jetSource); found != texts_.end()) return found->second;
+    if (texts_.size() >= kMaxTextPlans) texts_.clear();
+    TextPlan t;
+    t.sql = jet::translate(jetSource);
+    t.shape = jet::analyse(t.sql);
+    if (t.shape.isSelect) {
+        t.rowidSql = jet::withRowid(t.sql, t.shape);
+        t.countSql = jet::countQuery(t.sql, t.shape);
+    }
+    return texts_.emplace(jetSource, std::move(t)).first->second;
+}
+
 QueryPlan Connection::plan(const std::string& jetSource) {
-    const std::string sql = jet::translate(jetSource);
-    const jet::SelectShape shape = jet::analyse(sql);
-    const std::string ctx = where("opening the query \"" + jetSource + "\"");
+    const TextPlan& text = textPlan(jetSource);
+    const jet::SelectShape& shape = text.shape;
 
     QueryPlan p;
     Statement st;
-    if (shape.isSelect) {
-        std::string rowidSql = jet::withRowid(sql, shape);
-        if (!rowidSql.empty()) {
-            st = tryPrepare(rowidSql);
-            if (st) {
-                p.selectSql = std::move(rowidSql);
-                p.withIdentity = true;
-            }
+    if (!text.rowidSql.empty()) {
+        st = tryPrepare(text.rowidSql);
+        if (st) {
+            p.selectSql = text.rowidSql;
+            p.withIdentity = true;
         }
     }
     if (!st) {
-        p.selectSql = shape.isSelect ? sql.substr(0, shape.end) : sql;
-        st = prepare(p.selectSql, ctx);
+        p.selectSql = shape.isSelect ? text.sql.substr(0, shape.end) : text.sql;
+        st = tryPrepare(p.selectSql);
+        if (!st) fail(where("opening the query \"" + jetSource + "\""));
     }
-    sqlite3_stmt* stmt = st.get();
+    describe(st.get(), p);
+    p.isSelect = shape.isSelect;
+    p.countSql = text.countSql;
+    return p;
+}
+
+void Connection::describe(sqlite3_stmt* stmt, QueryPlan& p) {
     const int total = sqlite3_column_count(stmt);
     const int n = p.withIdentity ? total - 1 : total;
     p.cols.reserve(static_cast<size_t>(std::max(n, 0)));
@@ -90,14 +106,12 @@ QueryPlan Connection::plan(const std::string& jetSource) {
         p.cols.push_back(std::move(col));
     }
     if (tableClash || !p.withIdentity) p.table.clear();
-    p.isSelect = shape.isSelect;
-    p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
-    return p;
 }
 
 void Connection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                      std::string_view context) {
-    Statement st = prepare(plan.selectSql, context);
+                      const Doing& doing) {
+    Statement st = tryPrepare(plan.selectSql);
+    if (!st) fail(doing.text());
     sqlite3_stmt* stmt = st.get();
     bindAll(stmt, plan.params);
     const int n = static_cast<int>(plan.cols.size());
@@ -106,15 +120,15 @@ void Connection::read(const QueryPlan& plan, RowStore& store, const std::functio
         Cell* cells = newRow(plan.withIdentity ? sqlite3_column_int64(stmt, n) : 0);
         for (int c = 0; c < n; ++c) readCell(stmt, c, cells[c], store);
     }
-    if (rc != SQLITE_DONE) fail(context);
+    if (rc != SQLITE_DONE) fail(doing.text());
 }
 
-int64_t Connection::count(const QueryPlan& plan, std::string_view context) {
+int64_t Connection::count(const QueryPlan& plan, const Doing& doing) {
     if (plan.countSql.empty()) return -1;
     Statement st = tryPrepare(plan.countSql);
     if (!st) return -1;
     bindAll(st.get(), plan.params);
-    if (sqlite3_step(st.get()) != SQLITE_ROW) fail(context);
+    if (sqlite3_step(st.get()) != SQLITE_ROW) fail(doing.text());
     return sqlite3_column_int64(st.get(), 0);
 }
 

@@ -3,6 +3,7 @@
 #include <limits>
 #include <string>
 
+#include "toolkit/Failure.h"
 #include "values/types/DateSerial.h"
 
 namespace qv {
@@ -74,6 +75,90 @@ bool FieldCodec::sameStored(const Value& a, const Value& b) {
         return dateserial::toIso(a.toDate().serial) == dateserial::toIso(b.toDate().serial);
     if (a.kind() != b.kind() && numeric(a.kind()) && numeric(b.kind())) return a.toDouble() == b.toDouble();
     return a == b;
+}
+
+namespace {
+
+Value integerFor(int64_t i, FieldType type) {
+    switch (type) {
+        case FieldType::Bool:
+            return Value(i != 0);
+        case FieldType::Int16:
+            if (FieldCodec::fitsInt16(i)) return Value(static_cast<int16_t>(i));
+            [[fallthrough]];
+        case FieldType::Int32:
+        case FieldType::Expr:
+            if (FieldCodec::fitsInt32(i)) return Value(static_cast<int32_t>(i));
+            return Value(static_cast<double>(i));
+        case FieldType::Double:
+            return Value(static_cast<double>(i));
+        case FieldType::Date:
+            return Value(Date{static_cast<double>(i)});
+        case FieldType::Text:
+            return Value(std::to_string(i));
+    }
+    return {};
+}
+
+Value floatFor(double d, FieldType type) {
+    switch (type) {
+        case FieldType::Bool:
+            return Value(d != 0.0);
+        case FieldType::Date:
+            return Value(Date{d});
+        case FieldType::Text:
+            return Value(Value(d).toText());
+        default:
+            return Value(d);
+    }
+}
+
+// A text that doesn't read as the column's date or yes/no stays text.
+Value textFor(std::string_view text, FieldType type) {
+    if (type == FieldType::Date) {
+        if (auto serial = dateserial::fromIso(text)) return Value(Date{*serial});
+        try {
+            return Value(Value(std::string(text)).toDate());
+        } catch (const Failure&) {
+        }
+    } else if (type == FieldType::Bool) {
+        try {
+            return Value(Value(std::string(text)).toBool());
+        } catch (const Failure&) {
+        }
+    }
+    return Value(std::string(text));
+}
+
+}  // namespace
+
+Value FieldCodec::fromCell(const Cell& cell, FieldType type) {
+    switch (cell.kind) {
+        case kCellInteger:
+            return integerFor(cell.i, type);
+        case kCellFloat:
+            return floatFor(cell.d, type);
+        case kCellText:
+        case kCellBlob:
+            return textFor(std::string_view(cell.text, cell.len), type);
+        default:
+            return {};
+    }
+}
+
+Value FieldCodec::rawFromCell(const Cell& cell) {
+    switch (cell.kind) {
+        case kCellInteger:
+            if (fitsInt32(cell.i)) return Value(static_cast<int32_t>(cell.i));
+            return Value(static_cast<double>(cell.i));
+        case kCellFloat:
+            return Value(cell.d);
+        case kCellText:
+        case kCellBlob:
+            return Value(std::string(cell.text, cell.len));
+        default:
+            return {};
+    }
 }
 
 void FieldCodec::bindValue(sqlite3_stmt* stmt, int index, const Value& v) {

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "store/RowStore.h"
 #include "values/types/Value.h"
 
 namespace qv {
@@ -29,6 +30,10 @@ public:
     [[nodiscard]] static bool equalsNoCase(std::string_view a, std::string_view b);
     [[nodiscard]] static bool fitsInt32(int64_t i);
     [[nodiscard]] static bool fitsInt16(int64_t i);
+    // A cell as read, decoded for its column's declared type.
+    [[nodiscard]] static Value fromCell(const Cell& cell, FieldType type);
+    // A cell as the store holds it, whatever its column's type (for a write's check).
+    [[nodiscard]] static Value rawFromCell(const Cell& cell);
 };
 
 }  // namespace qv

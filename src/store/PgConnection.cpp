@@ -455,7 +455,8 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
 }
 
 void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                        std::string_view context) {
+                        const Doing& doing) {
+    const std::string context = doing.text();
     Result r = plan.isSelect || !plan.params.empty()
                    ? run(plan.selectSql, plan.params, context)
                    : Result(PQexec(conn_, withPendingBegin(plan.selectSql).c_str()));
@@ -482,18 +483,20 @@ void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField,
     }
 }
 
-int64_t PgConnection::count(const QueryPlan& plan, std::string_view context) {
+int64_t PgConnection::count(const QueryPlan& plan, const Doing& doing) {
     if (plan.countSql.empty()) return -1;
+    const std::string context = doing.text();
     const Result r = run(plan.countSql, plan.params, context);
     if (PQntuples(r.get()) < 1) return -1;
     return std::atoll(PQgetvalue(r.get(), 0, 0));
 }
 
 int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
-                                  const std::function<Cell*(int64_t)>& newRow, std::string_view context,
+                                  const std::function<Cell*(int64_t)>& newRow, const Doing& doing,
                                   bool& read) {
     read = false;
-    if (plan.probeSql.empty()) return count(plan, context);
+    if (plan.probeSql.empty()) return count(plan, doing);
+    const std::string context = doing.text();
     const Result r = run(plan.probeSql, plan.params, context);
     const PGresult* res = r.get();
     const int rows = PQntuples(res);

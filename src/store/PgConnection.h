@@ -33,12 +33,12 @@ public:
 
     QueryPlan plan(const std::string& jetSource) override;
     void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-              std::string_view context) override;
-    int64_t count(const QueryPlan& plan, std::string_view context) override;
+              const Doing& doing) override;
+    int64_t count(const QueryPlan& plan, const Doing& doing) override;
     // The first rows and the count in one round trip: a set of up to
     // kProbeRows rows (a list's size) comes whole; a larger one is counted only.
     int64_t countOrRead(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                        std::string_view context, bool& read) override;
+                        const Doing& doing, bool& read) override;
     void removeRow(const std::string& table, int64_t id, std::string_view context) override;
     int64_t insertRow(const std::string& table, const std::vector<std::string>& names,
                       const std::vector<Value>& values, std::string_view context) override;

@@ -102,6 +102,7 @@ public:
 
 private:
     friend class Field;
+    friend class RecordWriteBack;
     struct Impl;
     std::unique_ptr<Impl> d_;
 };

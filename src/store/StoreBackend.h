@@ -41,6 +41,22 @@ struct QueryPlan {
 // postgres://); any other location is a store file.
 bool isServerUri(std::string_view location);
 
+class StoreBackend;
+
+// What a set was doing when the store failed ("reading "<query>" in the
+// store ..."), put into words only when a failure tells it.
+class Doing {
+public:
+    Doing(const StoreBackend& store, std::string_view what, std::string_view source)
+        : store_(&store), what_(what), source_(source) {}
+    [[nodiscard]] std::string text() const;
+
+private:
+    const StoreBackend* store_;
+    std::string_view what_;
+    std::string_view source_;
+};
+
 class StoreBackend {
 public:
     virtual ~StoreBackend() = default;
@@ -53,16 +69,16 @@ public:
     virtual QueryPlan plan(const std::string& jetSource) = 0;
     // Reads every row of the plan: newRow(identity) gives the row's cells.
     virtual void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                      std::string_view context) = 0;
+                      const Doing& doing) = 0;
     // The number of rows, or -1 when it can't be counted without reading.
-    virtual int64_t count(const QueryPlan& plan, std::string_view context) = 0;
+    virtual int64_t count(const QueryPlan& plan, const Doing& doing) = 0;
     // As count; an engine for which a question costs a round trip may read
     // a small set whole on the way (then read is set and the rows are in).
     virtual int64_t countOrRead(const QueryPlan& plan, RowStore& store,
-                                const std::function<Cell*(int64_t)>& newRow, std::string_view context,
+                                const std::function<Cell*(int64_t)>& newRow, const Doing& doing,
                                 bool& read) {
         read = false;
-        return count(plan, context);
+        return count(plan, doing);
     }
 
     // Row writes by identity; names are base-table columns.

@@ -127,4 +127,16 @@ Query settingsSection(const std::string& section) {
         section);
 }
 
+Query settingsSections(const std::vector<std::string>& sections) {
+    std::string marks;
+    std::vector<Value> values;
+    for (const std::string& section : sections) {
+        marks += marks.empty() ? "?" : ", ?";
+        values.emplace_back(section);
+    }
+    return {"SELECT * from Settings WHERE SetUser='1' and SetSettingSection IN (" + marks +
+                ") ORDER BY SetSettingSection, setSettingDisplayOrd",
+            std::move(values)};
+}
+
 }  // namespace qv::queries

@@ -5,6 +5,7 @@
 // never as part of the text.
 
 #include <string>
+#include <vector>
 
 #include "store/Query.h"
 
@@ -54,5 +55,8 @@ Query checklistPickerList();
 
 // --- settings ------------------------------------------------------------
 Query settingsSection(const std::string& section);
+// The rows of several sections in one read, section by section, each in
+// display order (the order of the section index, as one section's read).
+Query settingsSections(const std::vector<std::string>& sections);
 
 }  // namespace qv::queries

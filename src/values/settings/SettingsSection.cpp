@@ -3,7 +3,6 @@
 #include "store/StoreQueries.h"
 #include "store/clsSettings.h"
 #include "toolkit/Failure.h"
-#include "values/types/Convert.h"
 
 namespace qv {
 
@@ -19,16 +18,6 @@ SettingsSection::~SettingsSection() {
     } catch (...) {
         // Closing a read set must not turn into a second failure.
     }
-}
-
-std::string SettingsSection::valueOrDefault() {
-    std::string value = text("SetSettingValue");
-    return value.empty() ? text("SetDefault") : value;
-}
-
-int32_t SettingsSection::windowValue() {
-    const int32_t value = toLong(text("SetSettingValue"));
-    return value >= 0 ? value : toLong(text("SetDefault"));
 }
 
 }  // namespace qv

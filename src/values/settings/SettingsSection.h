@@ -1,7 +1,6 @@
 #pragma once
 // One section of the table Settings, opened through a clsSettings reader in
-// the display order and closed when this object goes, so that each
-// section's result is closed before the next is opened.
+// the display order, to be written, and closed when this object goes.
 
 #include <cstdint>
 #include <string>
@@ -25,10 +24,6 @@ public:
     [[nodiscard]] int32_t count() { return rs_->RecordCount(); }
     // A field of the current row as text; null reads as empty.
     [[nodiscard]] std::string text(const char* field) { return rs_->Fields(field).value().toText(); }
-    // The value sections' rule: the value when it has any length, else the default.
-    [[nodiscard]] std::string valueOrDefault();
-    // The window sections' rule: the value as a number when 0 or more, else the default.
-    [[nodiscard]] int32_t windowValue();
 
 private:
     RecordsetPtr rs_;
