@@ -190,7 +190,9 @@ const LanguageCase kLanguages[] = {
 };
 
 TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
-    const bool german = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr) != nullptr;
+    const locale_t de = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr);
+    const bool german = de != nullptr;
+    if (de) freelocale(de);
     for (const LanguageCase& c : kLanguages) {
         if (!german && std::string(c.locale).find("de_DE") != std::string::npos) continue;
         std::string args = c.args;
