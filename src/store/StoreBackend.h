@@ -58,8 +58,8 @@ public:
     virtual int64_t count(const QueryPlan& plan, std::string_view context) = 0;
     // As count; an engine for which a question costs a round trip may read
     // a small set whole on the way (then read is set and the rows are in).
-    virtual int64_t countOrRead(const QueryPlan& plan, RowStore& store,
-                                const std::function<Cell*(int64_t)>& newRow, std::string_view context,
+    virtual int64_t countOrRead(const QueryPlan& plan, RowStore& /*store*/,
+                                const std::function<Cell*(int64_t)>& /*newRow*/, std::string_view context,
                                 bool& read) {
         read = false;
         return count(plan, context);

@@ -4,6 +4,7 @@
 
 #include "toolkit/Failure.h"
 #include "values/types/DateTimeFormatter.h"
+#include "values/types/Digits.h"
 
 namespace qv {
 namespace {
@@ -30,6 +31,10 @@ TEST(Convert, WholeNumbersRoundHalfToEvenAndFailAsDocumented) {
     EXPECT_EQ(toInteger("32767"), 32767);
     EXPECT_THROW((void)toInteger("32768"), Failure);
     EXPECT_THROW((void)toSingle("1e39"), Failure);
+    // A count or key read from a store or a script: the whole text, nothing less.
+    EXPECT_EQ(wholeNumber("-9223372036854775808"), INT64_MIN);
+    for (const char* bad : {"", "12 ", " 12", "+1", "1.0", "12abc", "9223372036854775808"})
+        EXPECT_FALSE(wholeNumber(bad)) << bad;
 }
 
 TEST(Convert, SingleFloatsAndDates) {

@@ -31,7 +31,8 @@ protected:
         const char* addKey;    // the tool that adds
         const char* closeKey;  // the tool that closes
         int32_t helpTopic;
-        const char* noun;  // "Project", "Keyword": the "created." box
+        const char* noun;   // "Project", "Keyword": the "created." box
+        const char* title;  // the window's name after the program's (QV_N)
     };
 
     AddDialog(std::string name, Shape shape);

@@ -4,6 +4,7 @@
 #include "store/SaveTransaction.h"
 #include "store/StoreQueries.h"
 #include "store/clsNewKeyword.h"
+#include "toolkit/Translate.h"
 #include "values/types/CCreateGuid.h"
 
 namespace qv {
@@ -12,7 +13,7 @@ namespace {
 constexpr const char* kModule = "frmAddKeyword";
 }  // namespace
 
-frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, "Keyword"}) {
+frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, "Keyword", QV_N("Add Keyword")}) {
     smtKeywords.add(ttTextBox, "CATEGORY", "Category:").setTip("Pick a category or enter a new category");
     smtKeywords.add(ttTextBox, "KEYWORD", "Keyword:").setTip("Enter the new Keyword");
     smtAction.add(ttButton, "HELP", "&Help");

@@ -9,6 +9,7 @@
 #include "store/clsNewProject.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CCreateGuid.h"
 #include "values/settings/DateFormats.h"
@@ -32,7 +33,7 @@ double today() {
 }
 }  // namespace
 
-frmAddProject::frmAddProject() : AddDialog(kModule, {"OK", "CANCEL", 800, "Project"}) {
+frmAddProject::frmAddProject() : AddDialog(kModule, {"OK", "CANCEL", 800, "Project", QV_N("Add Project")}) {
     smtProject.add(ttTextBox, "txName", "Project Name:");
     smtProject.add(ttTextBox, "txSummary", "Description:");
     smtProject.add(ttTextBox, "DEADLINE", "Deadline:").setHostedControl("cboDate");
