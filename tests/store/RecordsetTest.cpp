@@ -15,7 +15,7 @@
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
 #include "store/WriteConflict.h"
-#include "toolkit/Failure.h"
+#include "support/FailureOf.h"
 
 namespace qv {
 namespace {
@@ -87,16 +87,6 @@ protected:
         std::ostringstream s;
         s << in.rdbuf();
         return s.str();
-    }
-
-    // The failure a call throws (number 0 when none).
-    static Failure failureOf(const std::function<void()>& f) {
-        try {
-            f();
-        } catch (const Failure& e) {
-            return e;
-        }
-        return Failure(0, "no failure");
     }
 
     // A store failure whose description names each of the parts.

@@ -49,8 +49,8 @@ TEST_F(LayoutTest, LimitsAndTheResetWithItsSums) {
     for (const auto& [pane, width, height] :
          {std::tuple{paneAbout, 1500, 1500}, std::tuple{paneTabs, 1500, 0}, std::tuple{paneTimes, 400, 1905},
           std::tuple{paneKeywordList, 0, 1500}}) {
-        if (width) EXPECT_EQ(split.pane(pane).minWidth, width) << pane;
-        if (height) EXPECT_EQ(split.pane(pane).minHeight, height) << pane;
+        if (width) { EXPECT_EQ(split.pane(pane).minWidth, width) << pane; }
+        if (height) { EXPECT_EQ(split.pane(pane).minHeight, height) << pane; }
     }
     EXPECT_TRUE(split.pane(paneActions).lockHeight);
     EXPECT_EQ(split.pane(paneActions).height, 400);
