@@ -56,6 +56,10 @@ dpkg --root="$root" --force-depends --force-script-chrootless -i "$deb"/*.deb >"
 if [ -d share/help ]; then
     [ -d "$root/usr/share/quorvel/help" ] || fail "the help pages are not installed"
     [ -d "$root/home/help" ] || fail "the installed program put no help pages in its folder"
+    for lang in share/help/*/; do
+        lang=$(basename "$lang")
+        [ -f "$root/home/help/$lang/helpindex.htm" ] || fail "the installed program put no $lang help pages in its folder"
+    done
 fi
 "$root/usr/bin/quorvel-script" "$root/usr/share/doc/quorvel/examples/add-task.qvs" | tail -n 1
 libdir=$(dirname "$(find "$root/usr/lib" -name libQuorvelTask2.so)")

@@ -1,6 +1,9 @@
 #include "installer/DefaultSettings.h"
 
 #include <initializer_list>
+#include <string>
+
+#include "installer/DateConventions.h"
 
 namespace qv {
 
@@ -102,7 +105,13 @@ void addWindows(std::vector<SettingRow>& rows) {
                 {"meSplit", "2505", "Split"}});
 }
 
-void addDateFormats(std::vector<SettingRow>& rows) {
+// Names stay English whatever the locale; the order, separator, clock and
+// first day of the week follow it. D5Format is the day view's clock: 0 for
+// 12 hours, 1 for 24.
+void addDateFormats(std::vector<SettingRow>& rows, const DateConventions& locale) {
+    const std::string weekStart = std::to_string(locale.firstDay);
+    const std::string order = std::to_string(locale.order);
+    const char* clock = locale.twentyFourHour ? "1" : "0";
     addSection(rows, "DateFormats",
                {{"Month1", "January"},
                 {"Month2", "February"},
@@ -124,11 +133,11 @@ void addDateFormats(std::vector<SettingRow>& rows) {
                 {"Day6", "Saturday"},
                 {"Day7", "Sunday"},
                 {"DayLetters", "S,M,T,W,T,F,S"},
-                {"WeekStartDay", "1"},
-                {"DDFormat", "0"},
+                {"WeekStartDay", weekStart.c_str()},
+                {"DDFormat", order.c_str()},
                 {"DDMonth", "0"},
-                {"DDSep", "/"},
-                {"D5Format", "0"},
+                {"DDSep", locale.separator.c_str()},
+                {"D5Format", clock},
                 {"D5Start", "480", "minutes after midnight"},
                 {"D5End", "1020", "minutes after midnight"},
                 {"D5Prime", "16777215"},
@@ -146,19 +155,14 @@ void addDateFormats(std::vector<SettingRow>& rows) {
                 {"HoursColor", "0"}});
 }
 
-std::vector<SettingRow> makeDefaults() {
+}  // namespace
+
+std::vector<SettingRow> defaultSettings(const DateConventions& locale) {
     std::vector<SettingRow> rows;
     addIdentity(rows);
     addLists(rows);
     addWindows(rows);
-    addDateFormats(rows);
-    return rows;
-}
-
-}  // namespace
-
-const std::vector<SettingRow>& defaultSettings() {
-    static const std::vector<SettingRow> rows = makeDefaults();
+    addDateFormats(rows, locale);
     return rows;
 }
 

@@ -15,6 +15,10 @@ struct SettingRow {
     std::string comment;
 };
 
-const std::vector<SettingRow>& defaultSettings();
+class DateConventions;
+
+// The rows, with the date formats written as the locale writes dates (the
+// program's own defaults for US English and C).
+std::vector<SettingRow> defaultSettings(const DateConventions& locale);
 
 }  // namespace qv

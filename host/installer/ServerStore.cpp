@@ -6,6 +6,7 @@
 #include <atomic>
 #include <memory>
 
+#include "installer/DateConventions.h"
 #include "installer/DefaultSettings.h"
 #include "installer/StoreSchema.h"
 #include "store/PgConnection.h"
@@ -98,7 +99,7 @@ void insertSettings(PGconn* c) {
     const std::string sql =
         "INSERT INTO Settings (SetUser, SetSettingSection, SetSettingName, SetSettingValue, SetDefault, "
         "setSettingDisplayOrd, setSettingComment) VALUES ('1', $1, $2, $3, $3, $4, $5)";
-    for (const auto& row : defaultSettings())
+    for (const auto& row : defaultSettings(DateConventions::fromEnvironment()))
         run(c, sql, {row.section, row.name, row.value, std::to_string(row.displayOrd), row.comment});
 }
 

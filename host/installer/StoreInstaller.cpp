@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "installer/DateConventions.h"
 #include "installer/DefaultSettings.h"
 #include "installer/HelpPages.h"
 #include "installer/ServerStore.h"
@@ -59,7 +60,7 @@ void insertSettings(sqlite3* db) {
     sqlite3_stmt* raw = nullptr;
     check(db, sqlite3_prepare_v2(db, sql, -1, &raw, nullptr), "Cannot prepare the settings");
     Stmt st(raw);
-    for (const auto& row : defaultSettings()) {
+    for (const auto& row : defaultSettings(DateConventions::fromEnvironment())) {
         bindText(db, st.get(), 1, row.section);
         bindText(db, st.get(), 2, row.name);
         bindText(db, st.get(), 3, row.value);

@@ -3,6 +3,7 @@
 // been. The view draws the page at LocationURL and reports the links the
 // user follows; Back walks the way back.
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,8 +22,10 @@ public:
 
     // The program sends the pane to a page.
     void Navigate(const std::string& path);
-    // The user followed a link inside the page.
-    void followed(const std::string& path) { Navigate(path); }
+    // The user followed a link inside the page: to the page the picker
+    // names for it (the page of the user's language), else to the link.
+    void followed(const std::string& path) { Navigate(pick_ ? pick_(path) : path); }
+    void setPagePicker(std::function<std::string(const std::string&)> pick) { pick_ = std::move(pick); }
     // Back to the page before; false when there is none.
     bool GoBack();
 
@@ -31,6 +34,7 @@ public:
 private:
     std::string location_ = kNoLocation;
     std::vector<std::string> history_;
+    std::function<std::string(const std::string&)> pick_;
 };
 
 }  // namespace qv

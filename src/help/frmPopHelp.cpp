@@ -29,9 +29,12 @@ std::string withSlash(const std::string& folder) {
     return !folder.empty() && folder.back() == '/' ? folder : folder + "/";
 }
 
-// The page's file name, without a place inside the page ("#...").
+// The page, without a place inside it ("#...").
+std::string pageOf(const std::string& location) { return location.substr(0, location.find('#')); }
+
+// The page's file name.
 std::string fileNameOf(const std::string& location) {
-    const std::string page = location.substr(0, location.find('#'));
+    const std::string page = pageOf(location);
     const auto slash = page.find_last_of('/');
     return slash == std::string::npos ? page : page.substr(slash + 1);
 }
@@ -50,6 +53,7 @@ int32_t twipsOr(const std::string& text, float perUnit) {
 frmPopHelp::frmPopHelp(HelpPrinter* printer, TourPreference* tour)
     : Form(kModule), printer_(printer), tour_(tour) {
     addControl("smtAction", smtAction);
+    browsePWindow.setPagePicker([this](const std::string& path) { return languages_.pageFor(helpFolder(), path); });
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
     setCaption("Quorvel Help");
     smtAction.add(ttButton, "BACK", "&Back").setTip("Go back to the page before");
@@ -71,7 +75,7 @@ bool frmPopHelp::Setup(int32_t topic) {
     return trapAs(kProject, kModule, "Setup", [&] {
         const std::string folder = withSlash(g().AppPath);
         if (const auto found = HelpTopics::find(topic)) {
-            browsePWindow.Navigate(folder + found->page);
+            browsePWindow.Navigate(languages_.pageFor(helpFolder(), folder + found->page));
             setCaption(found->title);
             helpPath_ = found->keptPath;
         }
@@ -155,8 +159,8 @@ HelpPrintJob frmPopHelp::MakeHelpHTML() const {
     const std::string right = FooterText::forPrint(bag.ReadItem("FRIGHT"), now);
     job.footer = "{newline}{line}{Left}" + left + "{Right}" + right;
     job.heading = caption().rfind(kTitlePrefix, 0) == 0 ? caption().substr(std::string(kTitlePrefix).size()) : caption();
-    job.baseFolder = helpFolder();
     job.page = pageToPrint();
+    job.baseFolder = job.page.empty() ? helpFolder() : job.page.substr(0, job.page.find_last_of('/') + 1);
     return job;
 }
 
@@ -165,8 +169,13 @@ std::string frmPopHelp::helpFolder() const {
     return folder + (!folder.empty() && folder.back() == '/' ? "help/" : "/help/");
 }
 
+// A page of the help folder or of one of its language folders prints as
+// shown; any other location by its file name in the help folder.
 std::string frmPopHelp::pageToPrint() const {
-    if (browsePWindow.hasPage()) return helpFolder() + fileNameOf(browsePWindow.LocationURL());
+    if (browsePWindow.hasPage()) {
+        const std::string page = pageOf(browsePWindow.LocationURL());
+        return page.starts_with(helpFolder()) ? page : helpFolder() + fileNameOf(page);
+    }
     return helpPath_.empty() ? std::string() : withSlash(g().AppPath) + helpPath_;
 }
 

@@ -8,6 +8,7 @@
 
 #include "toolkit/ReporterRelay.h"
 #include "help/HelpBrowser.h"
+#include "help/HelpLanguages.h"
 #include "help/HelpPrinter.h"
 #include "toolkit/Event.h"
 #include "toolkit/Form.h"
@@ -60,6 +61,7 @@ private:
 
     HelpPrinter* printer_;
     TourPreference* tour_;
+    HelpLanguages languages_;
     std::string printSettings_;
     std::string helpPath_;
     int32_t rememberedTopic_ = 0;

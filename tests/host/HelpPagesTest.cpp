@@ -37,13 +37,39 @@ TEST_F(HelpPages, EveryTopicHasAPageAndEveryLinkLands) {
     EXPECT_EQ(helpPagesSource(), kShipped.string());
 }
 
+// A language folder holds translations of shipped pages, under their English
+// names, and each of their links lands on a page of that language or, for
+// one not translated, on the English page.
+TEST_F(HelpPages, EveryTranslatedPageHasItsEnglishPageAndItsLinksLand) {
+    int translated = 0;
+    for (const auto& folder : fs::directory_iterator(kShipped)) {
+        if (!folder.is_directory()) continue;
+        for (const auto& entry : fs::directory_iterator(folder.path())) {
+            const std::string file = entry.path().filename().string();
+            EXPECT_TRUE(fs::exists(kShipped / file)) << folder.path().filename() << "/" << file;
+            const std::string text = readFile(entry.path());
+            EXPECT_NE(text.find("<h1>"), std::string::npos) << file;
+            const std::regex link(R"(href="([^"#]+))");
+            for (auto it = std::sregex_iterator(text.begin(), text.end(), link); it != std::sregex_iterator(); ++it) {
+                const std::string to = (*it)[1].str();
+                EXPECT_TRUE(fs::exists(folder.path() / to) || fs::exists(kShipped / to)) << file << " links to " << to;
+            }
+            ++translated;
+        }
+    }
+    EXPECT_GE(translated, 28);
+}
+
 TEST_F(HelpPages, FirstRunInstallsMissingPagesAndKeepsTheUsersOwn) {
     const fs::path home = folder();
     fs::create_directories(home / "help");
     std::ofstream(home / "help" / "POP-KEYWORDS.htm") << "my own notes";
     installApplicationFolder(home.string());
     EXPECT_EQ(readFile(home / "help" / "POP-KEYWORDS.htm"), "my own notes");
-    for (const std::string& file : HelpTopics::pageFiles()) EXPECT_TRUE(fs::exists(home / "help" / file)) << file;
+    for (const std::string& file : HelpTopics::pageFiles()) {
+        EXPECT_TRUE(fs::exists(home / "help" / file)) << file;
+        EXPECT_TRUE(fs::exists(home / "help" / "de" / file)) << file;
+    }
 
     fs::remove(home / "help" / "QV-TOUR1.htm");
     EXPECT_EQ(installHelpPages(home.string(), kShipped.string()), 1);

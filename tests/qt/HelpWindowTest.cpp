@@ -13,6 +13,7 @@
 #include "help/frmPopHelp.h"
 #include "installer/HelpPages.h"
 #include "kit/ToolCell.h"
+#include "support/ScopedEnv.h"
 #include "view/HostTour.h"
 #include "view/HostWindow.h"
 
@@ -64,6 +65,22 @@ TEST_F(HelpWindow, TheNewTaskHelpToolOpensItsPageAndBackReturnsFromALink) {
     EXPECT_EQ(seen, (QStringList{"Quorvel: Creating New Tasks", "focus in page", "POP-TASKDIALOG.htm"}));
     // The one question is the New Task's own, on leaving it.
     EXPECT_EQ(steps.messages(), QStringList{"Cancel creating the current task?"});
+}
+
+// Under a German locale the pane shows the German pages, and a link to a
+// page not translated lands on the English one.
+TEST_F(HelpWindow, PagesInTheUsersLanguageFallBackToEnglishPageByPage) {
+    ScopedEnv env;
+    env.set("LC_ALL", nullptr).set("LC_MESSAGES", nullptr).set("LANGUAGE", nullptr).set("LANG", "de_DE.UTF-8");
+    QFile::remove(QString::fromStdString(folder() + "/help/de/POP-ADDPROJECT.htm"));
+    StepRunner steps;
+    steps.when("index", [] { return page().contains("Mit einer Aufgabe arbeiten"); },
+               [] { emit pane()->anchorClicked(QUrl("POP-ADDPROJECT.htm")); });
+    steps.when("English page", [] { return page().contains("Projects group tasks"); },
+               [] { emit pane()->anchorClicked(QUrl("POP-KEYWORDS.htm")); });
+    steps.when("German page", [] { return page().contains("Stichwörter sind kurze Wörter"); }, [] { close(); });
+    openHelp(steps, 5000);
+    EXPECT_TRUE(ranAll(steps));
 }
 
 TEST_F(HelpWindow, AnUnknownTopicShowsAnEmptyPaneWithoutAMessage) {

@@ -168,6 +168,27 @@ TEST(DesktopViews, DateBoxShowsEmptyForNoDateAndReportsPicks) {
     view.calendarWidget()->window()->hide();
 }
 
+// Month and day names on screen are the locale's, whatever names the
+// settings hand the model; the order and separator are the settings'.
+TEST(DesktopViews, DateBoxNamesMonthsAndDaysInTheUsersLanguage) {
+    const QLocale saved;
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    DateBox model("ctDeadline");
+    model.setMonthNames("January,February,March,April,May,June,July,August,September,October,November,December");
+    model.setDateStyle(DateBox::DayMonthYear);
+    model.setSeparator(" ");
+    model.setMonthStyle(DateBox::MonthName);
+    model.setValue(45323.0);  // 2024-02-01
+    DateBoxView view(model);
+    EXPECT_EQ(view.text(), "1 Februar 2024");
+    view.show();
+    QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(view.width() - 5, view.height() / 2));
+    EXPECT_EQ(view.calendarWidget()->locale().standaloneMonthName(3), "März");
+    EXPECT_EQ(view.calendarWidget()->locale().dayName(1), "Montag");
+    view.calendarWidget()->window()->hide();
+    QLocale::setDefault(saved);
+}
+
 TEST(DesktopViews, SplitterArrangementGoesThroughTheBlob) {
     Splitter model("splitTest");
     for (const char* name : {"A", "B", "C", "D"}) model.addPane(name);
