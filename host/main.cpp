@@ -12,6 +12,8 @@
 #include "help/HelpTopics.h"
 #include "installer/StoreFile.h"
 #include "installer/StoreInstaller.h"
+#include "kit/QtText.h"
+#include "kit/UserLanguage.h"
 #include "store/PgConnection.h"
 #include "view/CommandLine.h"
 #include "view/DemoDriver.h"
@@ -30,14 +32,25 @@ QStringList argumentsOf(int argc, char** argv) {
     return args;
 }
 
+// A text of the catalogue with its %1, %2, ... filled in.
+template <typename... Args>
+std::string says(const QString& text, const Args&... args) {
+    return text.arg(QString::fromStdString(std::string(args))...).toStdString();
+}
+
 // --help, --version or a usage mistake; -1 when the program goes on.
 int answerAtOnce(const qv::CommandLine& cl, int argc, char** argv) {
     if (!cl.error.empty()) {
-        std::cerr << "quorvel: " << cl.error << "\nTry 'quorvel --help' for more information.\n";
+        // Qt's parser says its part in Qt's own catalogue, which needs an application.
+        QCoreApplication core(argc, argv);
+        qv::UserLanguage::useIn(core);
+        std::cerr << "quorvel: " << qv::parseCommandLine(argumentsOf(argc, argv)).error << "\n"
+                  << qv::qtr("Try 'quorvel --help' for more information.").toStdString() << "\n";
         return qv::kUsageExit;
     }
     if (cl.help) {
         QCoreApplication core(argc, argv);
+        qv::UserLanguage::useIn(core);
         std::cout << qv::commandLineHelp().toStdString();
         return 0;
     }
@@ -53,46 +66,62 @@ bool prepareFolder(const qv::CommandLine& cl) {
     try {
         if (!cl.storeUri.empty()) {
             qv::installServerApplicationFolder(cl.home, cl.storeUri);
-            std::cout << "The store on " << qv::serverName(cl.storeUri) << " is ready; " << cl.home << " uses it\n";
+            std::cout << says(qv::qtr("The store on %1 is ready; %2 uses it"), qv::serverName(cl.storeUri),
+                              cl.home)
+                      << "\n";
             return true;
         }
         const bool made = qv::installApplicationFolder(cl.home);
         if (cl.installStore)
-            std::cout << (made ? "Installed a fresh store in " : "The store stands already in ") << cl.home << "\n";
+            std::cout << says(made ? qv::qtr("Installed a fresh store in %1")
+                                   : qv::qtr("The store stands already in %1"),
+                              cl.home)
+                      << "\n";
         return true;
     } catch (const std::exception& e) {
-        std::cerr << "quorvel: could not install the store in " << cl.home << ": " << e.what() << "\n";
+        std::cerr << "quorvel: " << says(qv::qtr("could not install the store in %1: %2"), cl.home, e.what())
+                  << "\n";
         return false;
     }
 }
 
 // No display and nothing asked: tell what this is, touch nothing.
 int explainHeadless(const qv::CommandLine& cl) {
-    std::cerr << "quorvel " << kVersion
-              << ": the Quorvel desktop task manager. It needs a display (neither DISPLAY nor WAYLAND_DISPLAY is "
-                 "set), so it opened no window and wrote nothing.\n"
-              << "Its store: " << qv::storeLocationOf(cl.home) << " (folder " << cl.home << ")\n"
-              << "To see it work offscreen on a fresh folder: quorvel --demo --home DIR\n"
-              << "  (a picture of every window goes into DIR/screenshots; 'quorvel --help' lists the options)\n";
+    std::cerr
+        << "quorvel " << kVersion << ": "
+        << qv::qtr(
+               "the Quorvel desktop task manager. It needs a display (neither DISPLAY nor WAYLAND_DISPLAY is "
+               "set), so it opened no window and wrote nothing.")
+               .toStdString()
+        << "\n"
+        << says(qv::qtr("Its store: %1 (folder %2)"), qv::storeLocationOf(cl.home), cl.home) << "\n"
+        << qv::qtr("To see it work offscreen on a fresh folder: quorvel --demo --home DIR").toStdString()
+        << "\n"
+        << qv::qtr(
+               "  (a picture of every window goes into DIR/screenshots; 'quorvel --help' lists the options)")
+               .toStdString()
+        << "\n";
     return 1;
 }
 
 int runDemonstration(const qv::CommandLine& cl, int argc, char** argv) {
     const qv::DemoGuard guard(cl.home);
     if (const std::string why = guard.refusal(); !why.empty()) {
-        std::cerr << "quorvel: no demonstration: " << why << "\n";
+        std::cerr << "quorvel: " << says(qv::qtr("no demonstration: %1"), why) << "\n";
         return 1;
     }
     if (!prepareFolder(cl)) return 1;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
+    qv::UserLanguage::useIn(app);
     QApplication::setApplicationName("quorvel");
     qv::HostApp host(cl.home, false);
     const std::string dir = host.folder() + "/screenshots";
     qv::DemoDriver demo(host, QString::fromStdString(dir), cl.screenshots);
     const int code = demo.run();
     guard.remember();
-    std::cout << "Saved " << demo.shots().size() << " screenshots in " << dir << "\n";
+    std::cout << says(qv::qtr("Saved %1 screenshots in %2"), std::to_string(demo.shots().size()), dir)
+              << "\n";
     for (const QString& shot : demo.shots()) std::cout << "  " << shot.toStdString() << "\n";
     return code;
 }
@@ -100,6 +129,7 @@ int runDemonstration(const qv::CommandLine& cl, int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    qv::UserLanguage::fromEnvironment();
     const qv::CommandLine cl = qv::parseCommandLine(argumentsOf(argc, argv));
     if (const int code = answerAtOnce(cl, argc, argv); code >= 0) return code;
     if (cl.installStore) return prepareFolder(cl) ? 0 : 1;
@@ -109,6 +139,7 @@ int main(int argc, char** argv) {
     if (!prepareFolder(cl)) return 1;
 
     QApplication app(argc, argv);
+    qv::UserLanguage::useIn(app);
     QApplication::setApplicationName("quorvel");
     QApplication::setApplicationVersion(kVersion);
     qv::HostApp host(cl.home, true);

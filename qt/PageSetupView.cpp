@@ -10,6 +10,7 @@
 #include "PagePicture.h"
 #include "kit/AccessibleText.h"
 #include "kit/PaneBuilder.h"
+#include "kit/QtText.h"
 #include "toolkit/Form.h"
 #include "toolkit/Label.h"
 #include "toolkit/Sheet.h"
@@ -31,9 +32,9 @@ PageSetupView::PageSetupView(Form& form, QWidget* parent) : FormView(form, paren
     left->addLayout(picture);
     auto* right = new QVBoxLayout;
     right->addWidget(make.sheet("smtPrinting(1)"), 3);
-    right->addWidget(colourButton("smtPrinting(1)", "HCOLOR", tr("Heading &Colour...")));
+    right->addWidget(colourButton("smtPrinting(1)", "HCOLOR", qtr("Heading &Colour...")));
     right->addWidget(make.sheet("smtPrinting(2)"), 3);
-    right->addWidget(colourButton("smtPrinting(2)", "FCOLOR", tr("Foo&ter Colour...")));
+    right->addWidget(colourButton("smtPrinting(2)", "FCOLOR", qtr("Foo&ter Colour...")));
     right->addWidget(make.sheet("smtPrinting(3)"), 2);
     right->addWidget(make.sheet("smtPrinting(4)"), 3);
     columns->addLayout(left, 1);
@@ -57,7 +58,7 @@ QWidget* PageSetupView::colourButton(const char* sheetName, const char* key, con
         const Tool* tool = sheet->find(key);
         const std::string number = tool ? tool->text() : std::string();
         button->setIcon(swatch(number));
-        AccessibleText::set(button, name, QStringLiteral("Colour %1").arg(QString::fromStdString(number)));
+        AccessibleText::set(button, name, qtr("Colour %1").arg(QString::fromStdString(number)));
     };
     swatches_.emplace_back(sheet->Changed, follow);
     follow();

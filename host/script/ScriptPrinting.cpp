@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "kit/QtFontList.h"
+#include "kit/UserLanguage.h"
 #include "print/QtPrintSurface.h"
 #include "toolkit/Ports.h"
 
@@ -20,6 +21,7 @@ ScriptPrinting::ScriptPrinting()
     if (!QApplication::instance()) {
         if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
         app_ = std::make_unique<QApplication>(argc, argv);
+        UserLanguage::useIn(*app_);
     }
     ports().print = surface_.get();
     ports().fonts = fonts_.get();

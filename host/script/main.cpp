@@ -1,6 +1,7 @@
 // quorvel-script SCRIPT: runs the component headless from a scenario
 // script; exits 1 when an expectation failed, 2 when the script can't be read.
 
+#include <clocale>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -12,6 +13,9 @@
 #endif
 
 int main(int argc, char** argv) {
+    // Messages in the user's language; numbers keep the '.' the logic writes and reads.
+    std::setlocale(LC_ALL, "");
+    std::setlocale(LC_NUMERIC, "C");
     if (argc != 2) {
         std::cerr << "usage: quorvel-script SCRIPT   (\"-\" reads standard input)\n";
         return 2;

@@ -1,5 +1,6 @@
 #include "view/AppointmentList.h"
 
+#include "kit/QtText.h"
 #include "view/HostStore.h"
 #include "view/TaskTableModel.h"
 
@@ -17,10 +18,11 @@ void AppointmentList::showTask(const std::string& taskKey) {
     if (taskKey.empty()) return;
     for (const auto& a : store_.appointments(taskKey)) {
         const QString end = TaskTableModel::deadlineText(a.end).section(' ', 1);
-        auto* item = new QListWidgetItem(QStringLiteral("%1 - %2  %3%4")
-                                             .arg(TaskTableModel::deadlineText(a.start), end,
-                                                  QString::fromStdString(a.desc), a.worked ? "  (worked)" : ""),
-                                         this);
+        auto* item = new QListWidgetItem(
+            QStringLiteral("%1 - %2  %3%4")
+                .arg(TaskTableModel::deadlineText(a.start), end, QString::fromStdString(a.desc),
+                     a.worked ? qtr("  (worked)") : QString()),
+            this);
         item->setData(Qt::UserRole, QString::fromStdString(a.key));
         if (a.key == keep) setCurrentItem(item);
     }

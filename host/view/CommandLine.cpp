@@ -5,6 +5,7 @@
 #include <QCommandLineParser>
 
 #include "app/AppFolder.h"
+#include "kit/QtText.h"
 
 namespace qv {
 
@@ -16,33 +17,35 @@ struct OptionRow {
     Opt id;
     const char* name;
     const char* valueName;  // nullptr: a flag
-    const char* description;
+    const char* description;  // English, translated when shown
 };
 
 // Every option the host takes, in the order --help lists them. A new option
 // is a row here and a line in readOption below.
 const OptionRow kOptions[] = {
     {Opt::Home, "home", "DIR",
-     "The application folder (else QUORVEL_HOME, else $XDG_DATA_HOME/quorvel, by default "
-     "~/.local/share/quorvel)."},
+     QV_N("The application folder (else QUORVEL_HOME, else $XDG_DATA_HOME/quorvel, by default "
+          "~/.local/share/quorvel).")},
     {Opt::InstallStore, "install-store", nullptr,
-     "Install a fresh store and QuorvelSettings.txt in the folder, then exit. A store that "
-     "stands is left as it is."},
+     QV_N("Install a fresh store and QuorvelSettings.txt in the folder, then exit. A store that "
+          "stands is left as it is.")},
     {Opt::Store, "store", "URI",
-     "With --install-store: the store is on a PostgreSQL server (postgresql://host/db or "
-     "postgresql:///db?host=/socket/dir); its tables are made where missing and the folder's "
-     "settings file names the URI."},
+     QV_N("With --install-store: the store is on a PostgreSQL server (postgresql://host/db or "
+          "postgresql:///db?host=/socket/dir); its tables are made where missing and the folder's "
+          "settings file names the URI.")},
     {Opt::Demo, "demo", nullptr,
-     "Run the demonstration offscreen and save a picture of every window in DIR/screenshots, "
-     "then exit. It refuses a store holding tasks it did not make."},
+     QV_N("Run the demonstration offscreen and save a picture of every window in DIR/screenshots, "
+          "then exit. It refuses a store holding tasks it did not make.")},
     {Opt::Screenshots, "screenshots", nullptr,
-     "As --demo, and save every window also at its minimum and at a larger size."},
+     QV_N("As --demo, and save every window also at its minimum and at a larger size.")},
     {Opt::Import, "import", "FILE.ics",
-     "Import the to-dos and events of an iCalendar file into the store, then exit. A task already "
-     "stored is updated; a file that can't be read is named with its line and nothing is written."},
-    {Opt::Export, "export", "FILE.ics", "Export every task with its appointments to an iCalendar file, then exit."},
-    {Opt::Project, "project", "KEY", "With --export: only the tasks of the project with this key."},
-    {Opt::ExportCsv, "export-csv", "FILE.csv", "Export the task list to a spreadsheet (CSV) file, then exit."},
+     QV_N("Import the to-dos and events of an iCalendar file into the store, then exit. A task already "
+          "stored is updated; a file that can't be read is named with its line and nothing is written.")},
+    {Opt::Export, "export", "FILE.ics",
+     QV_N("Export every task with its appointments to an iCalendar file, then exit.")},
+    {Opt::Project, "project", "KEY", QV_N("With --export: only the tasks of the project with this key.")},
+    {Opt::ExportCsv, "export-csv", "FILE.csv",
+     QV_N("Export the task list to a spreadsheet (CSV) file, then exit.")},
 };
 
 void readOption(CommandLine& cl, const OptionRow& row, const QCommandLineParser& p, const QCommandLineOption& o) {
@@ -61,15 +64,15 @@ void readOption(CommandLine& cl, const OptionRow& row, const QCommandLineParser&
 }
 
 QCommandLineOption optionOf(const OptionRow& row) {
-    const QString description = QString::fromUtf8(row.description);
+    const QString description = qtr(row.description);
     if (!row.valueName) return QCommandLineOption(QString::fromUtf8(row.name), description);
     return QCommandLineOption(QString::fromUtf8(row.name), description, QString::fromUtf8(row.valueName));
 }
 
 std::vector<QCommandLineOption> addOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(
-        "Quorvel, the desktop task manager: tasks, appointments, keywords and checklists.\n"
-        "With no option it opens the task manager window on the store in the application folder.");
+        qtr("Quorvel, the desktop task manager: tasks, appointments, keywords and checklists.\n"
+            "With no option it opens the task manager window on the store in the application folder."));
     std::vector<QCommandLineOption> options;
     for (const OptionRow& row : kOptions) {
         options.push_back(optionOf(row));
@@ -82,8 +85,12 @@ std::vector<QCommandLineOption> addOptions(QCommandLineParser& parser) {
 
 // Help and version by hand: the parser's own help option would also offer
 // --help-all, with options this program does not take.
-static QCommandLineOption helpOption() { return QCommandLineOption({"h", "help"}, "Show this help and exit."); }
-static QCommandLineOption versionOption() { return QCommandLineOption({"v", "version"}, "Show the version and exit."); }
+static QCommandLineOption helpOption() {
+    return QCommandLineOption({"h", "help"}, qtr("Show this help and exit."));
+}
+static QCommandLineOption versionOption() {
+    return QCommandLineOption({"v", "version"}, qtr("Show the version and exit."));
+}
 
 QString commandLineHelp() {
     QCommandLineParser parser;
@@ -109,11 +116,11 @@ CommandLine parseCommandLine(const QStringList& arguments) {
     cl.version = parser.isSet(version);
     for (std::size_t i = 0; i < options.size(); ++i) readOption(cl, kOptions[i], parser, options[i]);
     if (!parser.positionalArguments().isEmpty())
-        cl.error = "unexpected argument '" + parser.positionalArguments().first().toStdString() + "'";
+        cl.error = qtr("unexpected argument '%1'").arg(parser.positionalArguments().first()).toStdString();
     else if (!cl.storeUri.empty() && !cl.installStore)
-        cl.error = "--store goes with --install-store";
+        cl.error = tr("--store goes with --install-store");
     else if (!cl.files.projectKey.empty() && cl.files.exportFile.empty())
-        cl.error = "--project goes with --export";
+        cl.error = tr("--project goes with --export");
     if (cl.home.empty()) cl.home = defaultAppFolder();
     cl.home = absoluteFolder(cl.home);
     return cl;

@@ -18,6 +18,7 @@
 #include <QTimer>
 
 #include "installer/StoreFile.h"
+#include "kit/QtText.h"
 #include "kit/TabStripView.h"
 #include "kit/ToolCell.h"
 #include "view/AppointmentList.h"
@@ -40,7 +41,7 @@ bool saved() {
     QWidget* w = StepRunner::formWindow(kNewTask);
     auto* done = w ? w->findChild<ToolCell*>("smtActions.DONE") : nullptr;
     auto* b = done ? qobject_cast<QAbstractButton*>(done->control()) : nullptr;
-    return b && b->text() == "D&one";
+    return b && b->text() == qtr("D&one");
 }
 // Chooses an entry of a tool-bar menu of the New Task window ("PRINT").
 void chooseMenuEntry(const QString& key) {

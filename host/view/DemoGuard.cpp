@@ -5,6 +5,7 @@
 #include <set>
 
 #include "installer/StoreFile.h"
+#include "kit/QtText.h"
 #include "store/StoreBackend.h"
 #include "view/HostStore.h"
 
@@ -37,11 +38,18 @@ std::string DemoGuard::refusal() const {
         std::size_t foreign = 0;
         for (const std::string& key : storedTasks(folder_)) foreign += mine.count(key) == 0 ? 1 : 0;
         if (foreign == 0) return {};
-        return "the store in " + folder_ + " holds " + std::to_string(foreign) +
-               (foreign == 1 ? " task" : " tasks") +
-               " the demonstration did not make; it runs only on a fresh folder (--home DIR)";
+        return qtrn(
+                   "the store in %1 holds %2 task the demonstration did not make; it runs only on a fresh "
+                   "folder (--home DIR)",
+                   "the store in %1 holds %2 tasks the demonstration did not make; it runs only on a fresh "
+                   "folder (--home DIR)",
+                   foreign)
+            .arg(QString::fromStdString(folder_), QString::number(foreign))
+            .toStdString();
     } catch (const std::exception& e) {
-        return "the store in " + folder_ + " can't be read (" + e.what() + ")";
+        return qtr("the store in %1 can't be read (%2)")
+            .arg(QString::fromStdString(folder_), e.what())
+            .toStdString();
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include "app/AppFolder.h"
 #include "installer/StoreInstaller.h"
+#include "kit/QtText.h"
 #include "reports/PrintSettings.h"
 #include "session/clsTask2.h"
 #include "session/globals/SessionGlobals.h"
@@ -70,7 +71,7 @@ void HostSession::wire() {
         try {
             store_.deleteTask(key);
         } catch (const std::exception& e) {
-            emit logged(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+            emit logged(qtr("Could not remove the task: %1").arg(e.what()));
         }
     });
     task_->updateMainPrintInfo.connect([this](const std::string& info, int32_t slot) { savePrintInfo(info, slot); });
@@ -93,14 +94,14 @@ void HostSession::open(int32_t mode, const std::string& key, const std::string& 
                        const std::string& appointmentKey) {
     // A session that ended on a fault is not used again: the next task gets a fresh one.
     if (ended_) {
-        emit logged(QStringLiteral("The last session ended on a fault; starting a new one"));
+        emit logged(qtr("The last session ended on a fault; starting a new one"));
         start();
     }
     try {
         const int32_t slot = slotFor(mode);
         task_->SetupTask(mode, key, userStuff(), slot, printInfo(slot), appointmentKey, projectKey);
     } catch (const std::exception& e) {
-        emit logged(QStringLiteral("SetupTask failed: %1").arg(e.what()));
+        emit logged(qtr("SetupTask failed: %1").arg(e.what()));
     }
     emit listsChanged();
 }
@@ -110,7 +111,7 @@ void HostSession::useFolder(const std::string& chosen) {
     try {
         installApplicationFolder(folder);
     } catch (const std::exception& e) {
-        emit logged(QStringLiteral("Could not prepare %1: %2").arg(QString::fromStdString(folder), e.what()));
+        emit logged(qtr("Could not prepare %1: %2").arg(QString::fromStdString(folder), e.what()));
         return;
     }
     folder_ = folder;
@@ -121,7 +122,7 @@ void HostSession::useFolder(const std::string& chosen) {
     g().DBLocation.clear();
     Connection::releaseAll();
     start();
-    emit logged(QStringLiteral("Using the folder %1").arg(QString::fromStdString(folder)));
+    emit logged(qtr("Using the folder %1").arg(QString::fromStdString(folder)));
     emit listsChanged();
 }
 
@@ -153,7 +154,7 @@ std::string HostSession::scheduleAppointment(const std::string& taskKey) {
     if (!schedule.AddTA(key, taskKey, it->project, it->projectKey, serial(start.addSecs(3600)),
                         serial(start.addSecs(7200)), it->desc, levels))
         return {};
-    emit logged(QStringLiteral("Scheduled an appointment for \"%1\"").arg(QString::fromStdString(it->desc)));
+    emit logged(qtr("Scheduled an appointment for \"%1\"").arg(QString::fromStdString(it->desc)));
     emit listsChanged();
     return key;
 }

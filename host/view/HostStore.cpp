@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "installer/StoreFile.h"
+#include "toolkit/TextFill.h"
 #include "toolkit/Translate.h"
 #include "values/types/Digits.h"
 #include "view/HostRows.h"
@@ -21,9 +22,8 @@ int32_t number(const HostRows::Row& row, std::size_t col, const char* column, in
     if (!row[col]) return null;
     const auto n = wholeNumber(*row[col]);
     if (!n || *n < std::numeric_limits<int32_t>::min() || *n > std::numeric_limits<int32_t>::max())
-        throw std::runtime_error(
-            tr("The store holds something other than a whole number in a column of numbers") + " (" + column +
-            " \"" + *row[col] + "\").");
+        throw std::runtime_error(qv::fill(tr("The store holds \"%1\" in %2, a column of whole numbers."),
+                                          {*row[col], column}));
     return static_cast<int32_t>(*n);
 }
 

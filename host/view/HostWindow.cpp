@@ -1,5 +1,6 @@
 #include "view/HostWindow.h"
 
+#include <algorithm>
 #include <exception>
 
 #include <QAction>
@@ -7,6 +8,8 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QFileDialog>
+#include <QFont>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -22,6 +25,7 @@
 #include <QVBoxLayout>
 
 #include "help/HelpTopics.h"
+#include "kit/QtText.h"
 #include "kit/ScreenFit.h"
 #include "session/globals/SessionGlobals.h"
 #include "view/AppointmentList.h"
@@ -37,15 +41,15 @@ namespace qv {
 HostWindow::HostWindow(HostStore& store, HostSession& session, QWidget* parent)
     : QMainWindow(parent), store_(store), session_(session), tasks_(new TaskTableModel(this)) {
     setObjectName("hostWindow");
-    setWindowTitle(QStringLiteral("%1 - Task Manager").arg(kProgramTitle));
+    setWindowTitle(qtr("%1 - Task Manager").arg(kProgramTitle));
     buildActions();
     auto* tabs = new QTabWidget(this);
     tabs->setObjectName("tabs");
-    tabs->setAccessibleName("Task lists");
+    tabs->setAccessibleName(qtr("Task lists"));
     // Its tab bar takes the focus for it.
     tabs->setFocusPolicy(Qt::NoFocus);
-    tabs->addTab(buildTaskPage(), "Tasks");
-    tabs->addTab(buildCatalogPage(), "Task Catalog");
+    tabs->addTab(buildTaskPage(), qtr("Tasks"));
+    tabs->addTab(buildCatalogPage(), qtr("Task Catalog"));
     setCentralWidget(tabs);
     buildLog();
     connect(&session_, &HostSession::listsChanged, this, &HostWindow::refresh);
@@ -65,34 +69,36 @@ QAction* HostWindow::action(const char* name, const QString& text, const QKeySeq
 // Every command is an action with a shortcut; the menus hold them all and
 // the tool bar the everyday ones.
 void HostWindow::buildActions() {
-    newTask_ = action("actNewTask", "&New Task", QKeySequence::New, true);
+    newTask_ = action("actNewTask", qtr("&New Task"), QKeySequence::New, true);
     connect(newTask_, &QAction::triggered, this, &HostWindow::newTask);
-    fromCatalog_ = action("actFromCatalog", "Create Task from &Catalog Item", QKeySequence("Ctrl+Shift+N"), false);
+    fromCatalog_ =
+        action("actFromCatalog", qtr("Create Task from &Catalog Item"), QKeySequence("Ctrl+Shift+N"), false);
     connect(fromCatalog_, &QAction::triggered, this, &HostWindow::taskFromCatalog);
-    folder_ = action("actFolder", "Store &Folder...", QKeySequence("Ctrl+Shift+O"), true);
+    folder_ = action("actFolder", qtr("Store &Folder..."), QKeySequence("Ctrl+Shift+O"), true);
     connect(folder_, &QAction::triggered, this, &HostWindow::chooseFolder);
-    openTask_ = action("actOpenTask", "&Open Task", QKeySequence::Open, false);
+    openTask_ = action("actOpenTask", qtr("&Open Task"), QKeySequence::Open, false);
     connect(openTask_, &QAction::triggered, this, &HostWindow::openTask);
-    workAppointment_ = action("actWorkAppointment", "&Work Appointment", QKeySequence("Ctrl+Shift+W"), false);
+    workAppointment_ =
+        action("actWorkAppointment", qtr("&Work Appointment"), QKeySequence("Ctrl+Shift+W"), false);
     connect(workAppointment_, &QAction::triggered, this, &HostWindow::workAppointment);
-    schedule_ = action("actSchedule", "&Schedule Appointment", QKeySequence("Ctrl+Shift+A"), false);
+    schedule_ = action("actSchedule", qtr("&Schedule Appointment"), QKeySequence("Ctrl+Shift+A"), false);
     connect(schedule_, &QAction::triggered, this, &HostWindow::scheduleAppointment);
-    saveToCatalog_ = action("actSaveToCatalog", "&Save to Catalog", QKeySequence("Ctrl+Shift+S"), false);
+    saveToCatalog_ = action("actSaveToCatalog", qtr("&Save to Catalog"), QKeySequence("Ctrl+Shift+S"), false);
     connect(saveToCatalog_, &QAction::triggered, this, &HostWindow::saveToCatalog);
-    delete_ = action("actDelete", "&Delete Task", QKeySequence::Delete, false);
+    delete_ = action("actDelete", qtr("&Delete Task"), QKeySequence::Delete, false);
     connect(delete_, &QAction::triggered, this, &HostWindow::deleteTask);
-    quit_ = action("actQuit", "&Quit", QKeySequence("Ctrl+Q"), true);
+    quit_ = action("actQuit", qtr("&Quit"), QKeySequence("Ctrl+Q"), true);
     connect(quit_, &QAction::triggered, this, &QWidget::close);
-    helpIndex_ = action("actHelpIndex", "&Help Index", QKeySequence("F1"), true);
+    helpIndex_ = action("actHelpIndex", qtr("&Help Index"), QKeySequence("F1"), true);
     connect(helpIndex_, &QAction::triggered, this, [this] { openHelp(kHelpIndexTopic); });
-    tour_ = action("actTour", "Getting Started &Tour", QKeySequence("Shift+F1"), true);
+    tour_ = action("actTour", qtr("Getting Started &Tour"), QKeySequence("Shift+F1"), true);
     connect(tour_, &QAction::triggered, this, [this] { openHelp(kTourTopic); });
     buildMenus();
     buildToolBar();
 }
 
 void HostWindow::buildMenus() {
-    QMenu* file = menuBar()->addMenu("&File");
+    QMenu* file = menuBar()->addMenu(qtr("&File"));
     file->setObjectName("mnuFile");
     file->addAction(folder_);
     file->addSeparator();
@@ -100,22 +106,22 @@ void HostWindow::buildMenus() {
     files_->addTo(file);
     file->addSeparator();
     file->addAction(quit_);
-    QMenu* tasks = menuBar()->addMenu("&Task");
+    QMenu* tasks = menuBar()->addMenu(qtr("&Task"));
     tasks->setObjectName("mnuTask");
     tasks->addActions({newTask_, openTask_, fromCatalog_, saveToCatalog_});
     tasks->addSeparator();
     tasks->addAction(delete_);
-    QMenu* appointments = menuBar()->addMenu("&Appointment");
+    QMenu* appointments = menuBar()->addMenu(qtr("&Appointment"));
     appointments->setObjectName("mnuAppointment");
     appointments->addActions({workAppointment_, schedule_});
-    QMenu* help = menuBar()->addMenu("&Help");
+    QMenu* help = menuBar()->addMenu(qtr("&Help"));
     help->setObjectName("mnuHelp");
     help->addActions({helpIndex_, tour_});
 }
 
 // Text only, and few enough to fit the window's default width.
 void HostWindow::buildToolBar() {
-    QToolBar* bar = addToolBar("Commands");
+    QToolBar* bar = addToolBar(qtr("Commands"));
     bar->setObjectName("commands");
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar->addActions({newTask_, openTask_, saveToCatalog_});
@@ -136,10 +142,10 @@ QWidget* HostWindow::buildTaskPage() {
     project_ = new QComboBox(page);
     project_->setObjectName("cboProject");
     project_->setMinimumContentsLength(24);
-    project_->setAccessibleName("Project");
-    auto* projectLabel = new QLabel("&Project:", page);
+    project_->setAccessibleName(qtr("Project"));
+    auto* projectLabel = new QLabel(qtr("&Project:"), page);
     projectLabel->setBuddy(project_);
-    currentOnly_ = new QCheckBox("Current &List", page);
+    currentOnly_ = new QCheckBox(qtr("Current &List"), page);
     currentOnly_->setObjectName("chkCurrent");
     filters->addWidget(projectLabel);
     filters->addWidget(project_);
@@ -148,7 +154,7 @@ QWidget* HostWindow::buildTaskPage() {
     column->addLayout(filters);
     table_ = new QTableView(page);
     table_->setObjectName("tblTasks");
-    table_->setAccessibleName("Tasks");
+    table_->setAccessibleName(qtr("Tasks"));
     table_->setModel(tasks_);
     table_->setSelectionBehavior(QAbstractItemView::SelectRows);
     table_->setAlternatingRowColors(true);
@@ -158,15 +164,29 @@ QWidget* HostWindow::buildTaskPage() {
     // Widths from the text they hold, not from 100,000 rows.
     const auto& fm = fontMetrics();
     table_->setColumnWidth(TaskTableModel::Project, fm.horizontalAdvance(QStringLiteral("Quarterly Reports 2026")));
-    table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00:00")) + 12);
+    table_->setColumnWidth(TaskTableModel::Deadline, fm.horizontalAdvance(QStringLiteral("0000-00-00 00:00")) + 12);
+    // A heading longer than its column (in another language) widens it; the
+    // description keeps room for its heading on a narrow screen.
+    // (measured bold: the chosen row's headings are).
+    QHeaderView* header = table_->horizontalHeader();
+    QFont boldFont = header->font();
+    boldFont.setBold(true);
+    const QFontMetrics bold(boldFont), plain(header->font());
+    const auto headingWidth = [&](int c) {
+        const QString text = tasks_->headerData(c, Qt::Horizontal, Qt::DisplayRole).toString();
+        return header->sectionSizeHint(c) + bold.horizontalAdvance(text) - plain.horizontalAdvance(text);
+    };
+    for (int c = TaskTableModel::Status; c < TaskTableModel::ColumnCount; ++c)
+        table_->setColumnWidth(c, std::max(table_->columnWidth(c), headingWidth(c)));
+    header->setMinimumSectionSize(headingWidth(TaskTableModel::Desc));
     column->addWidget(table_, 3);
     // Enter or a double click opens the task.
     connect(table_, &QAbstractItemView::activated, this, &HostWindow::openTask);
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &HostWindow::taskSelectionChanged);
-    auto* apptLabel = new QLabel("Appoint&ments of the chosen task:", page);
+    auto* apptLabel = new QLabel(qtr("Appoint&ments of the chosen task:"), page);
     appointments_ = new AppointmentList(store_, page);
-    appointments_->setAccessibleName("Appointments of the chosen task");
+    appointments_->setAccessibleName(qtr("Appointments of the chosen task"));
     apptLabel->setBuddy(appointments_);
     column->addWidget(apptLabel);
     column->addWidget(appointments_, 1);
@@ -181,7 +201,7 @@ QWidget* HostWindow::buildTaskPage() {
 QWidget* HostWindow::buildCatalogPage() {
     catalog_ = new QListWidget(this);
     catalog_->setObjectName("lstCatalog");
-    catalog_->setAccessibleName("Task Catalog");
+    catalog_->setAccessibleName(qtr("Task Catalog"));
     connect(catalog_, &QListWidget::currentRowChanged, this,
             [this](int row) { fromCatalog_->setEnabled(row >= 0); });
     // Enter or a double click makes a task of the item.
@@ -190,11 +210,11 @@ QWidget* HostWindow::buildCatalogPage() {
 }
 
 void HostWindow::buildLog() {
-    auto* dock = new QDockWidget("Component Events", this);
+    auto* dock = new QDockWidget(qtr("Component Events"), this);
     dock->setObjectName("eventDock");
     log_ = new QPlainTextEdit(dock);
     log_->setObjectName("txtLog");
-    log_->setAccessibleName("Component Events");
+    log_->setAccessibleName(qtr("Component Events"));
     log_->setReadOnly(true);
     log_->setMaximumBlockCount(2000);
     dock->setWidget(log_);
@@ -209,7 +229,7 @@ void HostWindow::refreshProjects() {
     const QString chosen = project_->currentData().toString();
     QSignalBlocker block(project_);
     project_->clear();
-    project_->addItem("(All projects)", QString());
+    project_->addItem(qtr("(All projects)"), QString());
     for (const auto& p : store_.projects())
         project_->addItem(QString::fromStdString(p.name), QString::fromStdString(p.key));
     project_->setCurrentIndex(std::max(0, project_->findData(chosen)));
@@ -233,7 +253,7 @@ void HostWindow::refresh() {
         }
         fromCatalog_->setEnabled(catalog_->currentItem() != nullptr);
     } catch (const std::exception& e) {
-        log(QStringLiteral("Could not read the store: %1").arg(e.what()));
+        log(qtr("Could not read the store: %1").arg(e.what()));
     }
 }
 
@@ -294,20 +314,20 @@ void HostWindow::saveToCatalog() {
 void HostWindow::deleteTask() {
     const std::string key = selectedTask();
     if (key.empty()) return;
-    const auto answer = QMessageBox::question(this, windowTitle(),
-                                              "Delete the selected task with its appointments and keyword links?");
+    const auto answer = QMessageBox::question(
+        this, windowTitle(), qtr("Delete the selected task with its appointments and keyword links?"));
     if (answer != QMessageBox::Yes) return;
     try {
         store_.deleteTask(key);
-        log(QStringLiteral("Deleted task %1").arg(QString::fromStdString(key)));
+        log(qtr("Deleted task %1").arg(QString::fromStdString(key)));
     } catch (const std::exception& e) {
-        log(QStringLiteral("Could not remove the task: %1").arg(e.what()));
+        log(qtr("Could not remove the task: %1").arg(e.what()));
     }
     refresh();
 }
 
 void HostWindow::chooseFolder() {
-    const QString dir = QFileDialog::getExistingDirectory(this, QStringLiteral("Folder of the Quorvel store"),
+    const QString dir = QFileDialog::getExistingDirectory(this, qtr("Folder of the Quorvel store"),
                                                           QString::fromStdString(store_.folder()));
     if (!dir.isEmpty()) session_.useFolder(dir.toStdString());
 }

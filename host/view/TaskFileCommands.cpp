@@ -4,6 +4,7 @@
 
 #include "installer/StoreInstaller.h"
 #include "interop/Interop.h"
+#include "kit/QtText.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ConsoleReporter.h"
 #include "toolkit/Ports.h"
@@ -24,7 +25,11 @@ int runTaskFileOptions(const std::string& home, const TaskFileOptions& o) {
     try {
         installApplicationFolder(home);
     } catch (const std::exception& e) {
-        std::cerr << "quorvel: could not install the store in " << home << ": " << e.what() << "\n";
+        std::cerr << "quorvel: "
+                  << qtr("could not install the store in %1: %2")
+                         .arg(QString::fromStdString(home), e.what())
+                         .toStdString()
+                  << "\n";
         return 1;
     }
     ConsoleReporter reporter;

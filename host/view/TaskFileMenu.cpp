@@ -6,6 +6,7 @@
 #include <QMessageBox>
 
 #include "interop/Interop.h"
+#include "kit/QtText.h"
 #include "session/globals/SessionGlobals.h"
 #include "view/HostStore.h"
 #include "view/HostWindow.h"
@@ -32,31 +33,36 @@ TaskFileMenu::TaskFileMenu(HostWindow& window, HostStore& store)
 
 void TaskFileMenu::addTo(QMenu* menu) {
     auto add = [&](const char* name, const char* text, QKeySequence keys, void (TaskFileMenu::*slot)()) {
-        QAction* a = menu->addAction(QString::fromUtf8(text), this, slot);
+        QAction* a = menu->addAction(qtr(text), this, slot);
         a->setObjectName(name);
         if (!keys.isEmpty()) a->setShortcut(keys);
         return a;
     };
-    add("actExportTasks", "&Export Tasks...", QKeySequence(Qt::CTRL | Qt::Key_E), &TaskFileMenu::exportTasks);
-    add("actExportTask", "Export &Task...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E), &TaskFileMenu::exportTask);
-    add("actImportTasks", "&Import Tasks...", QKeySequence(Qt::CTRL | Qt::Key_I), &TaskFileMenu::importTasks);
-    add("actExportSpreadsheet", "Export to &Spreadsheet...", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_X),
-        &TaskFileMenu::exportSpreadsheet);
+    add("actExportTasks", QV_N("&Export Tasks..."), QKeySequence(Qt::CTRL | Qt::Key_E),
+        &TaskFileMenu::exportTasks);
+    add("actExportTask", QV_N("Export &Task..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E),
+        &TaskFileMenu::exportTask);
+    add("actImportTasks", QV_N("&Import Tasks..."), QKeySequence(Qt::CTRL | Qt::Key_I),
+        &TaskFileMenu::importTasks);
+    add("actExportSpreadsheet", QV_N("Export to &Spreadsheet..."),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_X), &TaskFileMenu::exportSpreadsheet);
 }
 
 QString TaskFileMenu::askFile(FileKind kind) const {
     const QString folder = QString::fromStdString(store_.folder());
     switch (kind) {
     case FileKind::CalendarToOpen:
-        return QFileDialog::getOpenFileName(&window_, "Import Tasks", folder, "Calendar files (*.ics);;All files (*)");
+        return QFileDialog::getOpenFileName(&window_, qtr("Import Tasks"), folder,
+                                            qtr("Calendar files (*.ics)") + ";;" + qtr("All files (*)"));
     case FileKind::CalendarToSave:
-        return withSuffix(QFileDialog::getSaveFileName(&window_, "Export Tasks", folder + "/tasks.ics",
-                                                       "Calendar files (*.ics)"),
+        return withSuffix(QFileDialog::getSaveFileName(&window_, qtr("Export Tasks"), folder + "/tasks.ics",
+                                                       qtr("Calendar files (*.ics)")),
                           ".ics");
     case FileKind::SpreadsheetToSave:
-        return withSuffix(QFileDialog::getSaveFileName(&window_, "Export to Spreadsheet", folder + "/tasks.csv",
-                                                       "Spreadsheet files (*.csv)"),
-                          ".csv");
+        return withSuffix(
+            QFileDialog::getSaveFileName(&window_, qtr("Export to Spreadsheet"), folder + "/tasks.csv",
+                                         qtr("Spreadsheet files (*.csv)")),
+            ".csv");
     }
     return {};
 }
@@ -89,7 +95,7 @@ void TaskFileMenu::exportTasks() {
 
 void TaskFileMenu::exportTask() {
     const std::string task = window_.selectedTask();
-    if (task.empty()) return tell(false, "Choose a task in the list first.");
+    if (task.empty()) return tell(false, qtr("Choose a task in the list first."));
     withFile(FileKind::CalendarToSave,
              [&](const std::string& path) { return Interop::exportCalendar(path, ExportScope::task(task)); });
 }

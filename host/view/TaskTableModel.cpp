@@ -2,9 +2,19 @@
 
 #include <QDateTime>
 
+#include "kit/QtText.h"
+
 namespace qv {
 
 namespace {
+// The columns' headings, and what an empty cell of each says.
+const char* const kHeadings[] = {QV_N("Description"),    QV_N("Project"),     QV_N("Status"),
+                                 QV_N("Deadline"),       QV_N("Time Needed"), QV_N("Time Spent"),
+                                 QV_N("Possible Points")};
+const char* const kNothing[] = {QV_N("no description"),    QV_N("no project"),     QV_N("no status"),
+                                QV_N("no deadline"),       QV_N("no time needed"), QV_N("no time spent"),
+                                QV_N("no possible points")};
+
 // Hours and minutes, as the host's list writes a duration.
 QString minutesText(int32_t minutes) {
     if (minutes <= 0) return {};
@@ -62,7 +72,7 @@ QVariant TaskTableModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole) return display(*r, index.column());
     // An empty cell still says what it lacks ("no deadline").
     if (role == Qt::AccessibleTextRole && display(*r, index.column()).toString().isEmpty())
-        return QStringLiteral("no ") + headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString().toLower();
+        return qtr(kNothing[index.column()]);
     if (role == Qt::UserRole) return QString::fromStdString(r->guid);
     if (role == Qt::TextAlignmentRole && index.column() >= TimeNeeded)
         return QVariant(Qt::AlignRight | Qt::AlignVCenter);
@@ -71,9 +81,7 @@ QVariant TaskTableModel::data(const QModelIndex& index, int role) const {
 
 QVariant TaskTableModel::headerData(int section, Qt::Orientation o, int role) const {
     if (o != Qt::Horizontal || role != Qt::DisplayRole) return {};
-    static const char* const names[] = {"Description", "Project",     "Status",         "Deadline",
-                                        "Time Needed", "Time Spent", "Possible Points"};
-    return section >= 0 && section < ColumnCount ? QString(names[section]) : QVariant();
+    return section >= 0 && section < ColumnCount ? qtr(kHeadings[section]) : QVariant();
 }
 
 }  // namespace qv

@@ -3,6 +3,7 @@
 #include <QRegularExpression>
 #include <QWidget>
 
+#include "kit/QtText.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
 
@@ -50,10 +51,10 @@ QString AccessibleText::nameOf(const Tool& t) {
 }
 
 QString AccessibleText::stateOf(const std::string& image) {
-    if (image == "GOOD") return QStringLiteral("ready");
-    if (image == "BAD") return QStringLiteral("not ready");
-    if (image == "GRAY") return QStringLiteral("stopped");
-    if (image == "INUSE") return QStringLiteral("running");
+    if (image == "GOOD") return qtr("ready");
+    if (image == "BAD") return qtr("not ready");
+    if (image == "GRAY") return qtr("stopped");
+    if (image == "INUSE") return qtr("running");
     return {};
 }
 

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "kit/QtText.h"
 #include "toolkit/Grid.h"
 
 namespace qv {
@@ -81,7 +82,7 @@ QString GridModel::spokenText(int row, int column) const {
     if (col.style == Grid::CellStyle::CheckBox) return caption;
     if (col.style == Grid::CellStyle::Button && !col.tip.empty()) return QString::fromStdString(col.tip);
     const QString shown = QString::fromStdString(grid_.displayText(row, column));
-    return shown.isEmpty() ? caption + ": none" : shown;
+    return shown.isEmpty() ? qtr("%1: none").arg(caption) : shown;
 }
 
 bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {

@@ -9,6 +9,7 @@
 #include <QTextBlock>
 
 #include "kit/EnchantChecker.h"
+#include "kit/QtText.h"
 #include "kit/SpellHighlighter.h"
 #include "toolkit/Ports.h"
 #include "toolkit/SpellChecker.h"
@@ -94,11 +95,11 @@ void TextEditorView::addSpelling(QMenu& menu, const QPoint& at) {
         menu.insertAction(first, a);
     }
     if (offers.empty()) {
-        auto* none = new QAction(tr("(No Suggestions)"), &menu);
+        auto* none = new QAction(qtr("(No Suggestions)"), &menu);
         none->setEnabled(false);
         menu.insertAction(first, none);
     }
-    auto* add = new QAction(tr("Add to Dictionary"), &menu);
+    auto* add = new QAction(qtr("Add to Dictionary"), &menu);
     add->setObjectName(QStringLiteral("addToDictionary"));
     connect(add, &QAction::triggered, this, [this, word] {
         highlighter_->checker().addToPersonal(word.toStdString());

@@ -6,6 +6,7 @@
 #include <QPrinterInfo>
 #include <QTimer>
 
+#include "kit/QtText.h"
 #include "print/ReportRenderer.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
@@ -43,8 +44,8 @@ void QtPrintSurface::toPdf(const PrintJob& job, bool tell) {
     lastPdf_ = pdf;
     lastPages_ = report.pageCount();
     if (tell)
-        ui().msgBox("No printer is installed, so the report was saved as a PDF file:\n" + pdf, vbInformation,
-                    kProgramTitle);
+        ui().msgBox(tr("No printer is installed, so the report was saved as a PDF file:") + "\n" + pdf,
+                    vbInformation, kProgramTitle);
 }
 
 void QtPrintSurface::preview(const PrintJob& job) {
@@ -54,7 +55,7 @@ void QtPrintSurface::preview(const PrintJob& job) {
     report.applyMargins(printer);
     QPrintPreviewDialog dialog(&printer, QApplication::activeModalWidget());
     dialog.setObjectName("printPreview");
-    dialog.setWindowTitle(QString::fromStdString(std::string(kProgramTitle) + " - Print Preview"));
+    dialog.setWindowTitle(qtr("%1 - Print Preview").arg(kProgramTitle));
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&report, this](QPrinter* p) {
         report.render(*p);
         lastPages_ = report.pageCount();

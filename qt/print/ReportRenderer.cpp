@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <QUrl>
 
+#include "kit/QtText.h"
 #include "print/PageCuts.h"
 #include "toolkit/Failure.h"
 
@@ -28,7 +29,9 @@ constexpr int kLinesOfFooter = 3;  // room kept for the usual footer
 
 ReportRenderer::ReportRenderer(const PrintJob& job) : job_(job), doc_(std::make_unique<QTextDocument>()) {
     QFile file(QString::fromStdString(job.file));
-    if (!file.open(QIODevice::ReadOnly)) throw Failure(err::FileNotFound, "File not found: " + job.file);
+    if (!file.open(QIODevice::ReadOnly))
+        throw Failure(err::FileNotFound,
+                      qtr("File not found: %1").arg(QString::fromStdString(job.file)).toStdString());
     previousHandler = qInstallMessageHandler(quietColours);
     // Style sheets and pictures named relative to the page (help pages).
     doc_->setBaseUrl(QUrl::fromLocalFile(QString::fromStdString(job.file)));

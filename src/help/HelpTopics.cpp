@@ -1,5 +1,7 @@
 #include "help/HelpTopics.h"
 
+#include "toolkit/Translate.h"
+
 #include <algorithm>
 #include <array>
 
@@ -17,32 +19,32 @@ struct Row {
 // on the help page, and topic 10 keeps the Task Catalog page for printing
 // (below): both settled that way.
 constexpr std::array<Row, 26> kRows{{
-    {0, 7, "POP-MetricsQV.htm", "Quorvel: Quorvel Metrics"},
-    {8, 8, "POP-KEYWORDS.htm", "Quorvel: Keywords"},
-    {9, 9, "POP-TASKCAT.htm", "Quorvel: Task Catalog"},
-    {10, 10, "POP-QVIMPORT.htm", "Quorvel: Import From QV-XL"},
-    {23, 23, "POP-XLExport.htm", "Quorvel: Export to Excel"},
-    {50, 50, "AutoSchedule.htm", "Quorvel: Automatic Scheduling"},
-    {51, 51, "ManualSchedule.htm", "Quorvel: Manual Scheduling"},
-    {70, 70, "TAB-CHECKLISTS.htm", "Quorvel: Checklists"},
-    {71, 71, "CHECKLISTS-IMPORT.htm", "Quorvel: Checklists"},
-    {72, 72, "CHECKLISTS-EXPORT.htm", "Quorvel: Checklists"},
-    {99, 99, "POP-HELP.htm", "Quorvel: Task Catalog"},
-    {100, 100, "POP-UTILITIES.htm", "Quorvel: Utilities"},
-    {200, 200, "POP-OUTLOOKIMPORT.htm", "Quorvel: Outlook Task Import"},
-    {250, 250, "POP-OUTLOOKINTEGRATE.htm", "Quorvel: Outlook Task Import"},
-    {300, 300, "POP-PRINTDIALOG.htm", "Quorvel: Print and Print Preview"},
-    {400, 400, "POP-ARRANGER.htm", "Quorvel: Data Arrangement"},
-    {500, 500, "POP-SETTINGS.htm", "Quorvel: Settings"},
-    {502, 502, "POP-DATESETTINGS.htm", "Quorvel: Settings"},
-    {600, 600, "POP-TASKDIALOG.htm", "Quorvel: Creating New Tasks"},
-    {601, 601, "POP-EXISTINGTASKDIALOG.htm", "Quorvel: Working With Existing Tasks"},
-    {700, 700, "POP-TASDIALOG.htm", "Quorvel: Working with Task Appointments"},
-    {800, 800, "POP-ADDPROJECT.htm", "Quorvel: Adding a Project"},
-    {900, 900, "SYSTRAY.htm", "Quorvel: The System Tray Menu"},
-    {5000, 5000, "helpindex.htm", "Quorvel: Help Index"},
-    {6000, 6000, "strategies.htm", "Quorvel Strategies"},
-    {7000, 7000, "QV-TOUR1.htm", "Quorvel Getting Started Tour"},
+    {0, 7, "POP-MetricsQV.htm", QV_N("Quorvel: Quorvel Metrics")},
+    {8, 8, "POP-KEYWORDS.htm", QV_N("Quorvel: Keywords")},
+    {9, 9, "POP-TASKCAT.htm", QV_N("Quorvel: Task Catalog")},
+    {10, 10, "POP-QVIMPORT.htm", QV_N("Quorvel: Import From QV-XL")},
+    {23, 23, "POP-XLExport.htm", QV_N("Quorvel: Export to Excel")},
+    {50, 50, "AutoSchedule.htm", QV_N("Quorvel: Automatic Scheduling")},
+    {51, 51, "ManualSchedule.htm", QV_N("Quorvel: Manual Scheduling")},
+    {70, 70, "TAB-CHECKLISTS.htm", QV_N("Quorvel: Checklists")},
+    {71, 71, "CHECKLISTS-IMPORT.htm", QV_N("Quorvel: Checklists")},
+    {72, 72, "CHECKLISTS-EXPORT.htm", QV_N("Quorvel: Checklists")},
+    {99, 99, "POP-HELP.htm", QV_N("Quorvel: Task Catalog")},
+    {100, 100, "POP-UTILITIES.htm", QV_N("Quorvel: Utilities")},
+    {200, 200, "POP-OUTLOOKIMPORT.htm", QV_N("Quorvel: Outlook Task Import")},
+    {250, 250, "POP-OUTLOOKINTEGRATE.htm", QV_N("Quorvel: Outlook Task Import")},
+    {300, 300, "POP-PRINTDIALOG.htm", QV_N("Quorvel: Print and Print Preview")},
+    {400, 400, "POP-ARRANGER.htm", QV_N("Quorvel: Data Arrangement")},
+    {500, 500, "POP-SETTINGS.htm", QV_N("Quorvel: Settings")},
+    {502, 502, "POP-DATESETTINGS.htm", QV_N("Quorvel: Settings")},
+    {600, 600, "POP-TASKDIALOG.htm", QV_N("Quorvel: Creating New Tasks")},
+    {601, 601, "POP-EXISTINGTASKDIALOG.htm", QV_N("Quorvel: Working With Existing Tasks")},
+    {700, 700, "POP-TASDIALOG.htm", QV_N("Quorvel: Working with Task Appointments")},
+    {800, 800, "POP-ADDPROJECT.htm", QV_N("Quorvel: Adding a Project")},
+    {900, 900, "SYSTRAY.htm", QV_N("Quorvel: The System Tray Menu")},
+    {5000, 5000, "helpindex.htm", QV_N("Quorvel: Help Index")},
+    {6000, 6000, "strategies.htm", QV_N("Quorvel Strategies")},
+    {7000, 7000, "QV-TOUR1.htm", QV_N("Quorvel Getting Started Tour")},
 }};
 
 constexpr int32_t kImportTopic = 10;
@@ -55,7 +57,7 @@ std::optional<HelpTopic> HelpTopics::find(int32_t topic) {
     if (it == kRows.end()) return std::nullopt;
     const std::string page = std::string(kHelpFolder) + it->page;
     const std::string kept = topic == kImportTopic ? std::string(kHelpFolder) + kImportKeptPage : page;
-    return HelpTopic{page, kept, it->title};
+    return HelpTopic{page, kept, tr(it->title)};
 }
 
 const std::vector<std::string>& HelpTopics::pageFiles() {

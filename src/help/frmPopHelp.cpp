@@ -7,6 +7,7 @@
 #include "store/ErrorPath.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CStringBag.h"
 #include "values/types/Convert.h"
@@ -18,8 +19,8 @@ namespace qv {
 namespace {
 
 constexpr const char* kModule = "frmPopHelp";
-constexpr const char* kPrintQuestion = "Print this help topic? It may take a moment or two to prepare.";
-constexpr const char* kPreviewQuestion = "Print Preview this help topic? It may take a moment or two to prepare.";
+constexpr const char* kPrintQuestion = QV_N("Print this help topic? It may take a moment or two to prepare.");
+constexpr const char* kPreviewQuestion = QV_N("Print Preview this help topic? It may take a moment or two to prepare.");
 constexpr const char* kTitlePrefix = "Quorvel -";
 // Twips per unit of the margins: inches for US measurement, else centimetres.
 constexpr float kTwipsPerInch = 1440.0f;
@@ -55,15 +56,15 @@ frmPopHelp::frmPopHelp(HelpPrinter* printer, TourPreference* tour)
     addControl("smtAction", smtAction);
     browsePWindow.setPagePicker([this](const std::string& path) { return languages_.pageFor(helpFolder(), path); });
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
-    setCaption("Quorvel Help");
-    smtAction.add(ttButton, "BACK", "&Back").setTip("Go back to the page before");
-    smtAction.add(ttButton, "PRINT", "&Print").setTip("Print this help topic");
-    smtAction.add(ttButton, "PRINTPREVIEW", "Print Pre&view").setTip("Preview this help topic as it prints");
+    setCaption(tr("Quorvel Help"));
+    smtAction.add(ttButton, "BACK", tr("&Back")).setTip(tr("Go back to the page before"));
+    smtAction.add(ttButton, "PRINT", tr("&Print")).setTip(tr("Print this help topic"));
+    smtAction.add(ttButton, "PRINTPREVIEW", tr("Print Pre&view")).setTip(tr("Preview this help topic as it prints"));
     smtAction.add(ttSeparator, "S1").setVisible(false);
-    Tool& noShow = smtAction.add(ttCheck, "NOSHOW", "Show Tour when Application starts");
-    noShow.setTip("Show/don't the Tour when application opens");
+    Tool& noShow = smtAction.add(ttCheck, "NOSHOW", tr("Show Tour when Application starts"));
+    noShow.setTip(tr("Show/don't the Tour when application opens"));
     noShow.setVisible(false);
-    smtAction.add(ttButton, "CLOSE", "&Close").setTip("Close this help window");
+    smtAction.add(ttButton, "CLOSE", tr("&Close")).setTip(tr("Close this help window"));
 }
 
 bool frmPopHelp::setHelpPrinterSettings(const std::string& settings) {
@@ -122,7 +123,7 @@ void frmPopHelp::closeNow() {
 }
 
 void frmPopHelp::printTopic(bool preview) {
-    const int32_t answer = ui().msgBox(preview ? kPreviewQuestion : kPrintQuestion, vbYesNo + vbQuestion, kProgramTitle);
+    const int32_t answer = ui().msgBox(tr(preview ? kPreviewQuestion : kPrintQuestion), vbYesNo + vbQuestion, kProgramTitle);
     if (answer != vbYes || !printer_) return;
     const HelpPrintJob job = MakeHelpHTML();
     if (job.page.empty()) return;

@@ -12,6 +12,8 @@
 #include "interop/IcsSource.h"
 #include "interop/InteropError.h"
 #include "interop/NameRules.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "values/types/TextChars.h"
 
 namespace qv {
@@ -66,7 +68,7 @@ public:
         for (const auto& entry : specs) {
             if (!entry.property || name != entry.property) continue;
             auto v = columns::fromText(entry.kind, xValue(p));
-            if (!v) fail(p, name + " \"" + xValue(p) + "\" can't be read");
+            if (!v) fail(p, fill(tr("%1 \"%2\" can't be read"), {name, xValue(p)}));
             row[entry.column] = std::move(*v);
             return true;
         }
@@ -133,7 +135,7 @@ private:
 
     std::optional<double> timeOf(icalcomponent* c, icalproperty* p) const {
         auto t = icaltime::localOf(p, c);
-        if (!t) ExactReader(source_, c).fail(p, std::string(icalproperty_get_property_name(p)) + " is not a possible date and time");
+        if (!t) ExactReader(source_, c).fail(p, fill(tr("%1 is not a possible date and time"), {icalproperty_get_property_name(p)}));
         return t;
     }
 
@@ -154,7 +156,7 @@ private:
         const char* uid = icalcomponent_get_uid(c);
         const char* summary = icalcomponent_get_summary(c);
         if (!uid || !*uid)
-            fail(c, std::string("the to-do \"") + (summary ? summary : "") + "\" has no UID");
+            fail(c, fill(tr("the to-do \"%1\" has no UID"), {summary ? summary : ""}));
         row["tskGUIDID"] = Value(storeKeyOf(uid));
         ExactReader exact(source_, c);
         t.foreign = true;
@@ -167,7 +169,7 @@ private:
             else exact.take(p, columns::tasks(), row);
         }
         if (summary) row["tskDesc"] = Value(std::string(summary));
-        else if (!row.contains("tskDesc")) fail(c, std::string("the to-do \"") + uid + "\" has no SUMMARY");
+        else if (!row.contains("tskDesc")) fail(c, fill(tr("the to-do \"%1\" has no SUMMARY"), {uid}));
         if (const char* notes = icalcomponent_get_description(c)) row["tskNotes"] = Value(std::string(notes));
         takeTime(c, ICAL_DUE_PROPERTY, row, "tskDeadline");
         takeTime(c, ICAL_COMPLETED_PROPERTY, row, "tskDoneDate");

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "interop/InteropError.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -92,14 +94,14 @@ IcsSource::IcsSource(std::string path) : path_(std::move(path)) {
     std::ifstream in(path_, std::ios::binary);
     if (!in) throw InteropError(path_ + " can't be read: no such file, or no permission to read it");
     text_.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-    if (int bad = firstBadUtf8Line(text_)) throw InteropError::at(path_, bad, "the text is not UTF-8");
+    if (int bad = firstBadUtf8Line(text_)) throw InteropError::at(path_, bad, tr("the text is not UTF-8"));
     // The whole text in one go; the lines are followed one by one only to
     // name the line of a fault.
     root_.reset(icalparser_parse_string(text_.c_str()));
     if (!root_ || icalcomponent_isa(root_.get()) != ICAL_VCALENDAR_COMPONENT || hasError(root_.get())) {
         root_.reset();
         mapLines();  // throws, naming the line
-        throw InteropError::at(path_, 1, "the file can't be read as a calendar");
+        throw InteropError::at(path_, 1, tr("the file can't be read as a calendar"));
     }
     int ordinal = 0;
     numberComponents(root_.get(), ordinal);
@@ -131,7 +133,7 @@ void IcsSource::mapLines() const {
         if (logical.empty() || logical == "\r" || logical == "\n") continue;
         const std::string name = nameOf(logical);
         if (componentLines_.empty() && name != "BEGIN")
-            throw InteropError::at(path_, line, "not an iCalendar file (it must begin with BEGIN:VCALENDAR)");
+            throw InteropError::at(path_, line, tr("not an iCalendar file (it must begin with BEGIN:VCALENDAR)"));
         if (name == "BEGIN") {
             open.push_back(static_cast<int>(componentLines_.size()));
             componentLines_.push_back(line);
@@ -141,12 +143,12 @@ void IcsSource::mapLines() const {
             propertyLines_.push_back({open.back(), line, name});
         }
         if (icalparser_get_state(parser.get()) == ICALPARSER_ERROR)
-            throw InteropError::at(path_, line, "this line can't be read: " + shown(logical));
+            throw InteropError::at(path_, line, fill(tr("this line can't be read: %1"), {shown(logical)}));
     }
     if (!open.empty())
-        throw InteropError::at(path_, componentLines_[open.back()], "this BEGIN has no END");
+        throw InteropError::at(path_, componentLines_[open.back()], tr("this BEGIN has no END"));
     if (!root || icalcomponent_isa(root.get()) != ICAL_VCALENDAR_COMPONENT)
-        throw InteropError::at(path_, 1, "not an iCalendar file (it must begin with BEGIN:VCALENDAR)");
+        throw InteropError::at(path_, 1, tr("not an iCalendar file (it must begin with BEGIN:VCALENDAR)"));
 }
 
 void IcsSource::numberComponents(icalcomponent* c, int& ordinal) {

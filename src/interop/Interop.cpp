@@ -13,6 +13,8 @@
 #include "store/ErrorPath.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "values/types/DateSerial.h"
 
 namespace qv {
@@ -30,8 +32,13 @@ double now() {
                                  local.tm_sec);
 }
 
-std::string plural(int n, const char* one, const char* many) {
-    return std::to_string(n) + " " + (n == 1 ? one : many);
+// A count in its form for n ("%1 task", "%1 tasks").
+std::string counted(const std::string& form, int n) {
+    return fill(form, {std::to_string(n)});
+}
+
+unsigned long forms(int n) {
+    return static_cast<unsigned long>(n < 0 ? 0 : n);
 }
 
 // Runs body under the trap; a file fault becomes the result's message.
@@ -46,7 +53,7 @@ InteropResult guarded(const char* procedure, F&& body) {
             result.message = e.what();
         }
     });
-    if (!ran) result.message = "The store failed; nothing was changed.";
+    if (!ran) result.message = tr("The store failed; nothing was changed.");
     return result;
 }
 
@@ -58,14 +65,20 @@ std::string fileNameOf(std::string key) {
 }
 
 std::string importSummary(const std::string& path, const ImportCounts& c) {
-    std::string text = "Imported " + path + ": " + plural(c.tasksAdded, "task", "tasks") + " added, " +
-                       plural(c.tasksChanged, "task", "tasks") + " updated, " +
-                       plural(c.appointmentsAdded, "appointment", "appointments") + " added, " +
-                       plural(c.appointmentsChanged, "appointment", "appointments") + " updated, " +
-                       plural(c.projectsAdded, "project", "projects") + " and " +
-                       plural(c.keywordsAdded, "keyword", "keywords") + " added.";
+    // TRANSLATORS: %1 the file; %2 to %7 counts ("3 tasks", "1 appointment").
+    std::string text = fill(tr("Imported %1: %2 added, %3 updated, %4 added, %5 updated, %6 and %7 added."),
+                            {path, counted(trn("%1 task", "%1 tasks", forms(c.tasksAdded)), c.tasksAdded),
+                             counted(trn("%1 task", "%1 tasks", forms(c.tasksChanged)), c.tasksChanged),
+                             counted(trn("%1 appointment", "%1 appointments", forms(c.appointmentsAdded)),
+                                     c.appointmentsAdded),
+                             counted(trn("%1 appointment", "%1 appointments", forms(c.appointmentsChanged)),
+                                     c.appointmentsChanged),
+                             counted(trn("%1 project", "%1 projects", forms(c.projectsAdded)), c.projectsAdded),
+                             counted(trn("%1 keyword", "%1 keywords", forms(c.keywordsAdded)), c.keywordsAdded)});
     if (c.eventsLeftOut)
-        text += " " + plural(c.eventsLeftOut, "event", "events") + " related to no task left out.";
+        text += " " + counted(trn("%1 event related to no task left out.", "%1 events related to no task left out.",
+                                  forms(c.eventsLeftOut)),
+                              c.eventsLeftOut);
     return text;
 }
 
@@ -82,9 +95,10 @@ InteropResult Interop::exportCalendar(const std::string& path, const ExportScope
             IcsWriter::save(IcsWriter::calendar(selection).get(), path);
         }
         r.tasks = static_cast<int>(selection.tasks.size());
-        r.message = "Exported " + plural(r.tasks, "task", "tasks") + " and " +
-                    plural(static_cast<int>(selection.appointments.size()), "appointment", "appointments") + " to " +
-                    path + ".";
+        const int appointments = static_cast<int>(selection.appointments.size());
+        r.message = fill(tr("Exported %1 and %2 to %3."),
+                         {counted(trn("%1 task", "%1 tasks", forms(r.tasks)), r.tasks),
+                          counted(trn("%1 appointment", "%1 appointments", forms(appointments)), appointments), path});
     });
 }
 
@@ -100,7 +114,7 @@ InteropResult Interop::importCalendar(const std::string& path) {
 InteropResult Interop::exportSpreadsheet(const std::string& path) {
     return guarded("exportSpreadsheet", [&](InteropResult& r) {
         IcsWriter::saveText(CsvWriter::taskList(r.tasks), path);
-        r.message = "Exported " + plural(r.tasks, "task", "tasks") + " to " + path + ".";
+        r.message = fill(tr("Exported %1 to %2."), {counted(trn("%1 task", "%1 tasks", forms(r.tasks)), r.tasks), path});
     });
 }
 

@@ -5,6 +5,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
+
 namespace qv {
 
 class InteropError : public std::runtime_error {
@@ -13,7 +16,7 @@ public:
 
     // "FILE, line N: what"
     static InteropError at(const std::string& file, int line, const std::string& what) {
-        return InteropError(file + ", line " + std::to_string(line) + ": " + what);
+        return InteropError(fill(tr("%1, line %2: %3"), {file, std::to_string(line), what}));
     }
 };
 

@@ -1,5 +1,7 @@
 #include "interop/NameRules.h"
 
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "values/types/TextCase.h"
 #include "values/types/TextChars.h"
 
@@ -16,15 +18,15 @@ std::string NameRules::trimmed(const std::string& text) {
 }
 
 std::optional<std::string> NameRules::projectRefusal(const std::string& name) {
-    if (name.empty()) return "the project has no name: Enter a name for this Project.";
+    if (name.empty()) return tr("the project has no name: Enter a name for this Project.");
     if (charCount(name) > kLongestProjectName)
-        return "the project \"" + name + "\": The new Project name is too long.";
+        return fill(tr("the project \"%1\": The new Project name is too long."), {name});
     return std::nullopt;
 }
 
 std::optional<std::string> NameRules::keywordRefusal(const std::string& subject, const std::string& keyword) {
-    if (keyword.empty()) return "a keyword has no text: Enter a new Keyword.";
-    if (subject.empty()) return "the keyword \"" + keyword + "\" has no category: Select or enter a new Keyword.";
+    if (keyword.empty()) return tr("a keyword has no text: Enter a new Keyword.");
+    if (subject.empty()) return fill(tr("the keyword \"%1\" has no category: Select or enter a new Keyword."), {keyword});
     return std::nullopt;
 }
 

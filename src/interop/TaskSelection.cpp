@@ -6,6 +6,8 @@
 
 #include "interop/InteropError.h"
 #include "interop/StoreTables.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -66,11 +68,11 @@ TaskSelection TaskSelection::read(const ExportScope& scope) {
         if (inScope(scope, task)) s.tasks.push_back(std::move(task));
     s.projects = TableSet(StoreTable::Projects).rows(columns::projects());
     if (scope.kind == ExportScope::Kind::Task && s.tasks.empty())
-        throw InteropError("There is no task with the key " + scope.key + " to export.");
+        throw InteropError(fill(tr("There is no task with the key %1 to export."), {scope.key}));
     if (scope.kind == ExportScope::Kind::Project &&
         std::none_of(s.projects.begin(), s.projects.end(),
                      [&](const Row& p) { return textOf(p, "prjGUIDID") == scope.key; }))
-        throw InteropError("There is no project with the key " + scope.key + " to export.");
+        throw InteropError(fill(tr("There is no project with the key %1 to export."), {scope.key}));
 
     Keys taskKeys;
     for (const auto& t : s.tasks) taskKeys.insert(textOf(t, "tskGUIDID"));

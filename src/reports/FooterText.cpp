@@ -1,6 +1,8 @@
 #include "reports/FooterText.h"
 
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "values/types/DateTimeFormatter.h"
 
 namespace qv {
@@ -28,18 +30,18 @@ std::string dateText(const std::string& tag, double now) {
 
 std::vector<FooterText::Pick> FooterText::picks(double now) {
     return {{kProgramTitle, kTitleTag},
-            {"--Custom--", kCustomTag},
-            {"--Leave Blank--", kBlankTag},
-            {"Short date (" + dateText(kShortDate, now) + ")", kShortDate},
-            {"Long date (" + dateText(kLongDate, now) + ")", kLongDate},
-            {"Date and time (" + dateText(kDateTime, now) + ")", kDateTime},
-            {"Long date and time (" + dateText(kLongDateTime, now) + ")", kLongDateTime},
-            {"Page Number", kPageNumberTag}};
+            {tr("--Custom--"), kCustomTag},
+            {tr("--Leave Blank--"), kBlankTag},
+            {fill(tr("Short date (%1)"), {dateText(kShortDate, now)}), kShortDate},
+            {fill(tr("Long date (%1)"), {dateText(kLongDate, now)}), kLongDate},
+            {fill(tr("Date and time (%1)"), {dateText(kDateTime, now)}), kDateTime},
+            {fill(tr("Long date and time (%1)"), {dateText(kLongDateTime, now)}), kLongDateTime},
+            {tr("Page Number"), kPageNumberTag}};
 }
 
 std::optional<std::string> FooterText::shownFor(const std::string& stored, double now) {
     if (stored == kTitleTag) return std::string(kProgramTitle);
-    if (stored == kPageNumberTag) return std::string("Page Number");
+    if (stored == kPageNumberTag) return std::string(tr("Page Number"));
     if (!isDateTag(stored)) return std::nullopt;
     for (const Pick& p : picks(now))
         if (p.tag == stored) return p.caption;

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <string>
 
+#include "toolkit/Translate.h"
+
 namespace qv {
 
 class PrintSettings {
@@ -17,7 +19,7 @@ public:
     // The dialog whose string also keeps "PSCHEDULE".
     static constexpr int32_t kExistingTaskDialog = 1;
     // The one printer pick where none is installed.
-    static constexpr const char* kNoPrinter = "(No Printer Installed)";
+    static constexpr const char* kNoPrinter = QV_N("(No Printer Installed)");
 
     // A boolean as the string keeps it: "True" or "False".
     [[nodiscard]] static std::string boolText(bool value);

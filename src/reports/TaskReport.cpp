@@ -14,6 +14,7 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/TextEditor.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CStringBag.h"
 #include "values/types/Convert.h"
@@ -39,7 +40,7 @@ std::string currentTitle(const std::string& footer) {
 // the section left out.
 std::string editorSection(bool asked, const TextEditor& editor, const char* empty) {
     if (!asked) return kNone;
-    return editor.text().empty() ? std::string(empty) : editor.richText();
+    return editor.text().empty() ? tr(empty) : editor.richText();
 }
 
 std::string footerLine(const std::string& left, const std::string& right) {
@@ -49,14 +50,14 @@ std::string footerLine(const std::string& left, const std::string& right) {
 }  // namespace
 
 const TaskReport::Kind TaskReport::kNewTask{
-    "NewTask.htm", "Print this Task? It may take a moment or two to prepare.",
-    "Print Preview this Task? It may take a moment or two to prepare."};
+    "NewTask.htm", QV_N("Print this Task? It may take a moment or two to prepare."),
+    QV_N("Print Preview this Task? It may take a moment or two to prepare.")};
 const TaskReport::Kind TaskReport::kExistingTask{
-    "ExistingTask.htm", "Print this Task? It may take a moment or two to prepare.",
-    "Print Preview this Task? It may take a moment or two to prepare.", true};
+    "ExistingTask.htm", QV_N("Print this Task? It may take a moment or two to prepare."),
+    QV_N("Print Preview this Task? It may take a moment or two to prepare."), true};
 const TaskReport::Kind TaskReport::kTaskAppointment{
-    "TaskAppointment.htm", "Print this Task Appointment? It may take a moment or two to prepare.",
-    "Print Preview this Task Appointment? It may take a moment or two to prepare."};
+    "TaskAppointment.htm", QV_N("Print this Task Appointment? It may take a moment or two to prepare."),
+    QV_N("Print Preview this Task Appointment? It may take a moment or two to prepare.")};
 
 int32_t TaskReport::twips(float margin) {
     const int32_t factor = getLocalMeasurement() == 1 ? kTwipsPerInch : kTwipsPerCentimeter;
@@ -113,8 +114,8 @@ std::string TaskReport::buildHTML() {
     html.setReportTitle(heading);
     html.setGridDetailbackColor("#FFFFFF");
     if (task) {
-        html.setReportSubTitle(1, "Task Information:");
-        html.setColumnHeadings1("What,Value");
+        html.setReportSubTitle(1, tr("Task Information:"));
+        html.setColumnHeadings1(tr("What,Value"));
         html.setColumnWidth1("40%,60%");
         html.setColumnAlignment1("right,left");
         html.setBorder("1");
@@ -124,15 +125,15 @@ std::string TaskReport::buildHTML() {
     } else {
         html.settheTask(kNone);
     }
-    if (checklist) html.setReportSubTitle(2, "Checklist:");
-    html.setChecklist(editorSection(checklist, source_.checklistEditor(), "No Checklist."));
-    if (notes) html.setReportSubTitle(3, "Notes:");
-    html.setNotes(editorSection(notes, source_.notesEditor(), "No Notes."));
+    if (checklist) html.setReportSubTitle(2, tr("Checklist:"));
+    html.setChecklist(editorSection(checklist, source_.checklistEditor(), QV_N("No Checklist.")));
+    if (notes) html.setReportSubTitle(3, tr("Notes:"));
+    html.setNotes(editorSection(notes, source_.notesEditor(), QV_N("No Notes.")));
     if (!source_.hasSchedule()) {
         html.settheSchedule("Skip");
     } else if (schedule) {
-        html.setReportSubTitle(4, "Schedule:");
-        html.setColumnHeadings2("Start,End,Duration,Done?,Time Spent");
+        html.setReportSubTitle(4, tr("Schedule:"));
+        html.setColumnHeadings2(tr("Start,End,Duration,Done?,Time Spent"));
         html.setColumnWidth2("30%,30%,20%,20%,20%");
         html.setColumnAlignment2("center,center,center,center,center");
         html.setBorder("1");
@@ -160,7 +161,7 @@ void TaskReport::DoPrintPreview() {
 }
 
 void TaskReport::run(bool preview) {
-    if (ui().msgBox(preview ? kind_.previewQuestion : kind_.printQuestion, vbYesNo, kProgramTitle) != vbYes)
+    if (ui().msgBox(tr(preview ? kind_.previewQuestion : kind_.printQuestion), vbYesNo, kProgramTitle) != vbYes)
         return;
     ui().setWaitCursor(true);
     EventPause::now();

@@ -9,6 +9,7 @@
 #include "toolkit/Grid.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
+#include "toolkit/Translate.h"
 #include "values/types/Convert.h"
 #include "values/settings/TimeValues.h"
 
@@ -16,7 +17,7 @@ namespace qv {
 
 namespace {
 
-const char* const kNoDeadline = "No Deadline";
+const char* const kNoDeadline = QV_N("No Deadline");
 
 using Pairs = std::vector<std::pair<std::string, std::string>>;
 
@@ -49,32 +50,32 @@ std::string timeWorked(const std::string& cell) {
 ReportRows TaskReportRows::existingTask(const TextEditor& spellTask, const Sheet& smtABOUT,
                                         const DateBox& ctDeadline, const Sheet& smtReady) {
     const bool dated = ctDeadline.hasDate();
-    Pairs pairs{{"Task Description:", spellTask.text()}};
+    Pairs pairs{{tr("Task Description:"), spellTask.text()}};
     addAt(pairs, smtABOUT, 1);
     addAt(pairs, smtABOUT, 2);
     // The day number itself, in digits, not a formatted date.
-    pairs.emplace_back("Deadline Date:",
-                       dated ? std::to_string(static_cast<int64_t>(ctDeadline.value())) : kNoDeadline);
-    pairs.emplace_back("Deadline Time:", dated ? smtABOUT.at(6).text() : kNoDeadline);
+    pairs.emplace_back(tr("Deadline Date:"),
+                       dated ? std::to_string(static_cast<int64_t>(ctDeadline.value())) : tr(kNoDeadline));
+    pairs.emplace_back(tr("Deadline Time:"), dated ? smtABOUT.at(6).text() : tr(kNoDeadline));
     // The rows from "Project:" to "Time Spent:", taken by key: the sheet has
     // no tool between the deadline's time and the project.
     for (const char* key : {"PROJECT", "IMP", "DIFF", "NEEDED", "SCHEDULED", "SPENT"}) {
         const Tool& t = smtABOUT.tool(key);
         pairs.emplace_back(t.caption(), t.text());
     }
-    pairs.emplace_back("Possible Points:", points(smtReady));
+    pairs.emplace_back(tr("Possible Points:"), points(smtReady));
     return table(pairs);
 }
 
 ReportRows TaskReportRows::appointment(const TextEditor& spellTask, const Sheet& smtABOUT,
                                        const Sheet& smtReady) {
-    Pairs pairs{{"Task Description:", spellTask.text()}};
+    Pairs pairs{{tr("Task Description:"), spellTask.text()}};
     addAt(pairs, smtABOUT, 1);
     addAt(pairs, smtABOUT, 2);
     const std::string deadline = smtABOUT.tool("DEADLINE").text();
-    pairs.emplace_back("Deadline:", deadline.empty() ? std::string(kNoDeadline) : deadline);
+    pairs.emplace_back(tr("Deadline:"), deadline.empty() ? tr(kNoDeadline) : deadline);
     for (int32_t position = 8; position <= 10; ++position) addAt(pairs, smtABOUT, position);
-    pairs.emplace_back("Possible Points:", points(smtReady));
+    pairs.emplace_back(tr("Possible Points:"), points(smtReady));
     return table(pairs);
 }
 

@@ -5,6 +5,7 @@
 #include "store/ErrorPath.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
@@ -16,8 +17,8 @@ const char* const kCRLF = "\r\n";
 const char* const kNone = "--NONE--";
 const char* const kNoSchedule = "No Schedule.";
 const char* const kSkip = "Skip";
-const char* const kNoHeadings = "Column Header details not mentioned!";
-const char* const kMessageTitle = "HTML Report";
+const char* const kNoHeadings = QV_N("Column Header details not mentioned!");
+const char* const kMessageTitle = QV_N("HTML Report");
 
 // An empty text gives no parts, as the platform's split does.
 std::vector<std::string> splitCommas(const std::string& text) {
@@ -104,7 +105,7 @@ std::string clsHTMLMake::buildSection(int n, const std::string& stored) const {
 
 bool clsHTMLMake::headingsMissing(const std::string& tested) const {
     if (!tested.empty()) return false;
-    if (Ui* u = ports().ui) u->msgBox(kNoHeadings, vbInformation, kMessageTitle);
+    if (Ui* u = ports().ui) u->msgBox(tr(kNoHeadings), vbInformation, tr(kMessageTitle));
     return true;
 }
 
@@ -133,7 +134,7 @@ std::string clsHTMLMake::theSchedule() {
 }
 
 std::string clsHTMLMake::buildSchedule() {
-    if (schedule_ == kNoSchedule || schedule_ == kNone) return ReportSubTitle(4) + kNoSchedule;
+    if (schedule_ == kNoSchedule || schedule_ == kNone) return ReportSubTitle(4) + tr(kNoSchedule);
     if (schedule_ == kSkip) return {};
     if (headingsMissing(headings1_)) return {};
     const Columns cols = columns(headings2_, width2_, align2_);

@@ -12,6 +12,7 @@
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
 #include "toolkit/PrinterList.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CStringBag.h"
 #include "values/types/Convert.h"
@@ -85,16 +86,16 @@ void frmPageSetup::Form_Load() {
 void frmPageSetup::SetupDefaultPrint() {
     trap(kModule, "SetupDefaultPrint", [&] {
         GetTHEDefaultPrinter();
-        c_.tool("PAPER").setText("Landscape");
+        c_.tool("PAPER").setText(tr("Landscape"));
         c_.tool("COPIES").setText("1");
         c_.tool("PAGESWIDE").setText("1");
-        c_.tool("PRINTCOLOR").setText("Yes");
+        c_.tool("PRINTCOLOR").setText(tr("Yes"));
         const int32_t measure = getLocalMeasurement();
         if (measure != 0 && measure != 1) return;
         for (const char* key : {"TOP", "BOTTOM", "LEFT", "RIGHT"}) {
             Tool& t = c_.tool(key);
             t.setText(measure == 0 ? "2.54" : "1.00");
-            t.setTip(measure == 0 ? "centimeters" : "inches");
+            t.setTip(measure == 0 ? tr("centimeters") : tr("inches"));
         }
     });
 }
@@ -104,7 +105,7 @@ void frmPageSetup::GetTHEDefaultPrinter() {
         std::string profile = defaultDeviceProfile().substr(0, 254);
         if (auto nul = profile.find('\0'); nul != std::string::npos) profile.resize(nul);
         printerList_ = splitAt(profile, ',');
-        c_.tool("PRINTER").setText(printerList_.at(0));
+        c_.tool("PRINTER").setText(PageSetupControls::shownWord("PRINTER", printerList_.at(0)));
     });
 }
 
@@ -114,7 +115,7 @@ void frmPageSetup::PopulateListControlWithPrinters() {
         const std::vector<std::string> names =
             ports().printers ? ports().printers->deviceNames() : std::vector<std::string>{};
         if (names.empty()) {
-            list.addItem(ttOption, "PRN-0", PrintSettings::kNoPrinter);
+            list.addItem(ttOption, "PRN-0", PageSetupControls::shownWord("PRINTER", PrintSettings::kNoPrinter));
             return;
         }
         for (std::size_t i = 0; i < names.size(); ++i) {
@@ -157,7 +158,7 @@ void frmPageSetup::PageSetup() {
         bag.setContents(g().TaskPrintDialog);
         for (const char* key :
              {"PRINTER", "PAPER", "COPIES", "PAGESWIDE", "PRINTCOLOR", "TOP", "BOTTOM", "RIGHT", "LEFT"})
-            c_.tool(key).setText(bag.ReadItem(key));
+            c_.tool(key).setText(PageSetupControls::shownWord(key, bag.ReadItem(key)));
         c_.tool("HCOLOR").setText(std::to_string(toLong(bag.ReadItem("HCOLOR"))));
         for (const char* key : {"HFONT", "HSIZE", "HEADING"}) c_.tool(key).setText(bag.ReadItem(key));
         c_.tool("FCOLOR").setText(std::to_string(toLong(bag.ReadItem("FCOLOR"))));
@@ -185,7 +186,7 @@ void frmPageSetup::fillFooterTool(const char* key, const std::string& stored) {
 void frmPageSetup::smtPrinting_Change(Tool& tool, const std::string& property) {
     if (property != "Value") return;
     const std::string& key = tool.key();
-    if (key == "PAPER") return showPaper(TextCase::upper(tool.text()));
+    if (key == "PAPER") return showPaper(TextCase::upper(PageSetupControls::storedWord(key, tool.text())));
     if (key != "FLEFT" && key != "FRIGHT") return;
     const Tool* pick = GetItemSelected(tool);
     if (!pick) {
@@ -201,10 +202,10 @@ void frmPageSetup::smtPrinting_Change(Tool& tool, const std::string& property) {
 void frmPageSetup::showPaper(const std::string& paper) {
     if (paper == "LANDSCAPE") {
         c_.Image1.setCaption("LANDSCAPE");
-        c_.lblPrint.setCaption("Landscape");
+        c_.lblPrint.setCaption(tr("Landscape"));
     } else if (paper == "PORTRAIT") {
         c_.Image1.setCaption("PORTRAIT");
-        c_.lblPrint.setCaption("Portrait");
+        c_.lblPrint.setCaption(tr("Portrait"));
     }
 }
 
@@ -218,7 +219,7 @@ void frmPageSetup::smtPrinting_Click(int index, Tool& tool) {
     else
         start = roundLong(tryToDouble(text).value_or(0.0));
     CColorDialog chooser;
-    chooser.Init(0, "Select Color:", 0, start);
+    chooser.Init(0, tr("Select Color:"), 0, start);
     if (chooser.Show()) tool.setText(std::to_string(chooser.SelectedColor()));
 }
 
@@ -243,7 +244,7 @@ void frmPageSetup::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
 }
 
 bool frmPageSetup::fail(const char* message) {
-    ui().msgBox(message, vbInformation, kProgramTitle);
+    ui().msgBox(tr(message), vbInformation, kProgramTitle);
     return false;
 }
 
@@ -251,42 +252,42 @@ bool frmPageSetup::ValidatePrintInfo(int32_t stage) {
     return trap(kModule, "ValidatePrintInfo", [&] {
         if (stage == 1 && !checkFirstStage()) return false;
         if (!checkMargins()) return false;
-        if (c_.tool("PRINTER").text().empty()) return fail("Select a Printer.");
+        if (c_.tool("PRINTER").text().empty()) return fail(QV_N("Select a Printer."));
         if (c_.tool("HFONT").text().empty())
-            return fail("Select a Heading font (even if you do not plan to print a heading).");
+            return fail(QV_N("Select a Heading font (even if you do not plan to print a heading)."));
         if (c_.tool("FFONT").text().empty())
-            return fail("Select a Footer font (even if you do not plan to print a footer).");
+            return fail(QV_N("Select a Footer font (even if you do not plan to print a footer)."));
         if (c_.tool("HSIZE").text().empty())
-            return fail("Select a Heading size (even if you do not plan to print a heading).");
+            return fail(QV_N("Select a Heading size (even if you do not plan to print a heading)."));
         // The footer's size is never looked at: this check reads the font again.
         if (c_.tool("FFONT").text().empty())
-            return fail("Select a Footer size (even if you do not plan to print a footer).");
+            return fail(QV_N("Select a Footer size (even if you do not plan to print a footer)."));
         return true;
     });
 }
 
 bool frmPageSetup::checkFirstStage() const {
-    const std::string wide = c_.tool("PAGESWIDE").text();
+    const std::string wide = PageSetupControls::storedWord("PAGESWIDE", c_.tool("PAGESWIDE").text());
     if (wide != "1" && wide != "2" && wide != "3" && wide != "4" && wide != "Automatic")
-        return fail("Pages Wide should be set to 1,2,3,4 or Automatic.");
-    const std::string color = c_.tool("PRINTCOLOR").text();
-    if (color != "Yes" && color != "No") return fail("Print in color should be Yes or No.");
-    const std::string paper = c_.tool("PAPER").text();
+        return fail(QV_N("Pages Wide should be set to 1,2,3,4 or Automatic."));
+    const std::string color = PageSetupControls::storedWord("PRINTCOLOR", c_.tool("PRINTCOLOR").text());
+    if (color != "Yes" && color != "No") return fail(QV_N("Print in color should be Yes or No."));
+    const std::string paper = PageSetupControls::storedWord("PAPER", c_.tool("PAPER").text());
     if (paper != "Portrait" && paper != "Landscape")
-        return fail("Print orientations should be Portrait or Landscape.");
+        return fail(QV_N("Print orientations should be Portrait or Landscape."));
     const auto copies = tryToDouble(c_.tool("COPIES").text());
     if (c_.tool("COPIES").text().empty() || !copies || *copies != std::floor(*copies) || *copies < 1)
-        return fail("Copies to print should be a positive integer.");
+        return fail(QV_N("Copies to print should be a positive integer."));
     return true;
 }
 
 // A margin of 0 passes, though the message says positive.
 bool frmPageSetup::checkMargins() const {
     const std::pair<const char*, const char*> margins[] = {
-        {"TOP", "Top margin should be a positive number."},
-        {"BOTTOM", "Bottom margin should be a positive number."},
-        {"LEFT", "Left margin should be a positive number."},
-        {"RIGHT", "Right margin should be a positive number."}};
+        {"TOP", QV_N("Top margin should be a positive number.")},
+        {"BOTTOM", QV_N("Bottom margin should be a positive number.")},
+        {"LEFT", QV_N("Left margin should be a positive number.")},
+        {"RIGHT", QV_N("Right margin should be a positive number.")}};
     for (const auto& [key, message] : margins) {
         const std::string& text = c_.tool(key).text();
         if (!isNumeric(text) || *tryToDouble(text) < 0) return fail(message);
@@ -298,7 +299,8 @@ bool frmPageSetup::checkMargins() const {
 void frmPageSetup::SavePageSetup() {
     trap(kModule, "SavePageSetup", [&] {
         CStringBag bag;
-        for (const char* key : PrintSettings::kToolKeys) bag.WriteItem(key, c_.tool(key).text());
+        for (const char* key : PrintSettings::kToolKeys)
+            bag.WriteItem(key, PageSetupControls::storedWord(key, c_.tool(key).text()));
         bag.WriteItem("FLEFT", footerValue("FLEFT"));
         bag.WriteItem("FRIGHT", footerValue("FRIGHT"));
         for (const char* key : {"PTASK", "PCHECKLIST", "PNOTES"})

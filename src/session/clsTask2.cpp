@@ -8,6 +8,7 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Reporter.h"
+#include "toolkit/Translate.h"
 #include "values/settings/Settings.h"
 
 namespace qv {
@@ -90,13 +91,13 @@ void clsTask2::openNewTask(int32_t Mode, const std::string& taskGUID, const std:
         s.CurrentTaskGUID = taskGUID;
         s.SettingUp = true;
         s.EditingExisting = false;
-        setCaption(*frm_, " - New Task");
+        setCaption(*frm_, QV_N(" - New Task"));
     } else {
         s.SettingUp = true;
         s.TaskCatGUID = taskGUID;
         s.CurrentTaskGUID.clear();
         s.EditingExisting = true;
-        setCaption(*frm_, " - Create Task from Task Catalog Item");
+        setCaption(*frm_, QV_N(" - Create Task from Task Catalog Item"));
     }
     LoadSettings();
     if (errorPathTaken()) {  // the error path closed the dialog
@@ -130,7 +131,7 @@ void clsTask2::openExistingTask(int32_t Mode, const std::string& taskGUID) {
         s.CurrentTaskGUID = taskGUID;
         s.SettingUp = true;
         s.EditingExisting = true;
-        setCaption(*form, " - Edit Task");
+        setCaption(*form, QV_N(" - Edit Task"));
         LoadSettings();
         s.SettingUp = false;
         if (errorPathTaken()) return;
@@ -140,7 +141,7 @@ void clsTask2::openExistingTask(int32_t Mode, const std::string& taskGUID) {
         s.SettingUp = true;
         s.CurrentTaskGUID = taskGUID;
         s.EditingExisting = true;
-        setCaption(*form, " - Create Task Catalog Item");
+        setCaption(*form, QV_N(" - Create Task Catalog Item"));
         LoadSettings();
         if (!errorPathTaken()) form->SetupDetails();
         s.SettingUp = false;
@@ -158,13 +159,13 @@ void clsTask2::openAppointment(const std::string& taskGUID, const std::string& T
     s.CurrentTaskGUID = taskGUID;
     s.CurrentTAGUID = TAGUID;
     LoadSettings();
-    setCaption(*form, " - Task Appointment");
+    setCaption(*form, QV_N(" - Task Appointment"));
     if (!errorPathTaken()) form->SetupDetails();
     s.SettingUp = false;
     showModal(*form);
 }
 
-void clsTask2::setCaption(Form& form, const char* text) { form.setCaption(std::string(kProgramTitle) + text); }
+void clsTask2::setCaption(Form& form, const char* text) { form.setCaption(std::string(kProgramTitle) + tr(text)); }
 
 void clsTask2::showModal(Form& form) {
     // A dialog whose setup failed went down the error path, which unloaded it.

@@ -15,6 +15,8 @@
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
 #include "toolkit/Ports.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
@@ -59,8 +61,8 @@ std::string readWholeFile(const std::string& path) {
 // A write that found no room says so; anything else is an access error.
 [[noreturn]] void writeError(const std::string& path, int error) {
     if (error == ENOSPC || error == EDQUOT)
-        throw Failure(kDiskFull, "The Quorvel settings file \"" + cutForMessage(path) +
-                                     "\" can't be written: the disk is full.");
+        throw Failure(kDiskFull, fill(tr("The Quorvel settings file \"%1\" can't be written: the disk is full."),
+                                      {cutForMessage(path)}));
     accessError(path);
 }
 
@@ -141,16 +143,19 @@ std::string dbLocFrom(const std::string& text) {
 }
 
 std::string lostStoreMessage(const std::string& path) {
-    return std::string("The Quorvel data file, \"") + cutForMessage(path) + "\", could not be found." + kCrLf +
-           "Without this file, Quorvel cannot work." + kCrLf + kCrLf + "Quorvel will now check in " +
-           cutForMessage(g().AppPath) + " in hopes of locating the originally installed datafile (QuorvelData.mdb).";
+    return fill(tr("The Quorvel data file, \"%1\", could not be found."), {cutForMessage(path)}) + kCrLf +
+           tr("Without this file, Quorvel cannot work.") + kCrLf + kCrLf +
+           fill(tr("Quorvel will now check in %1 in hopes of locating the originally installed datafile "
+                   "(QuorvelData.mdb)."),
+                {cutForMessage(g().AppPath)});
 }
 
 std::string settingsFileMessage() {
-    return std::string("The Quorvel settings file, \"QuorvelSettings.txt\", could not be found in (\"") +
-           cutForMessage(g().AppPath) + "\" )." + kCrLf +
-           "Without this file, Quorvel cannot determine where its database resides. Please find "
-           "this file and put it back!";
+    return fill(tr("The Quorvel settings file, \"QuorvelSettings.txt\", could not be found in (\"%1\" )."),
+                {cutForMessage(g().AppPath)}) +
+           kCrLf +
+           tr("Without this file, Quorvel cannot determine where its database resides. Please find "
+              "this file and put it back!");
 }
 
 void pointAtDefaultStore() {

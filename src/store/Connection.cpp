@@ -11,6 +11,8 @@
 
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -18,7 +20,7 @@ namespace {
 
 constexpr int kBusyTimeoutMs = 5000;
 constexpr size_t kMaxCachedStatements = 128;
-constexpr std::string_view kNotAStore = "is not a Quorvel data file";
+constexpr const char* kNotAStore = QV_N("is not a Quorvel data file");
 
 std::map<std::string, std::shared_ptr<Connection>>& registry() {
     static std::map<std::string, std::shared_ptr<Connection>> connections;
@@ -130,7 +132,8 @@ int runPragma(sqlite3* db, const char* sql) {
 }  // namespace
 
 std::string storeProblem(const std::string& path, std::string_view what) {
-    return "The Quorvel data file " + quotedPath(path) + " " + std::string(what);
+    // TRANSLATORS: %1 the file's path; %2 what is wrong with it ("is read-only").
+    return fill(tr("The Quorvel data file %1 %2"), {quotedPath(path), what});
 }
 
 std::string describeFault(const std::string& path, int code, const std::string& engineMessage) {
@@ -139,28 +142,28 @@ std::string describeFault(const std::string& path, int code, const std::string& 
     switch (code & 0xff) {
         case SQLITE_BUSY:
         case SQLITE_LOCKED:
-            return storeProblem(path, "is busy: another program has kept it locked for more than " +
-                                          std::to_string(kBusyTimeoutMs / 1000) + " seconds");
+            return storeProblem(path, fill(tr("is busy: another program has kept it locked for more than %1 seconds"),
+                                           {std::to_string(kBusyTimeoutMs / 1000)}));
         case SQLITE_NOTADB:
-            return storeProblem(path, kNotAStore);
+            return storeProblem(path, tr(kNotAStore));
         case SQLITE_CORRUPT:
-            return storeProblem(path, "is damaged (" + engineMessage + ")");
+            return storeProblem(path, fill(tr("is damaged (%1)"), {engineMessage}));
         case SQLITE_READONLY:
-            return storeProblem(path, "is read-only");
+            return storeProblem(path, tr("is read-only"));
         case SQLITE_FULL:
-            return storeProblem(path, "can't grow: the disk is full");
+            return storeProblem(path, tr("can't grow: the disk is full"));
         case SQLITE_IOERR:
-            if (diskFull(path)) return storeProblem(path, "can't grow: the disk is full");
+            if (diskFull(path)) return storeProblem(path, tr("can't grow: the disk is full"));
             break;
         case SQLITE_CANTOPEN:
-            return storeProblem(path, "can't be opened (" + engineMessage + ")");
+            return storeProblem(path, fill(tr("can't be opened (%1)"), {engineMessage}));
         default:
             break;
     }
     if (engineMessage.starts_with(kNoTable))
-        return storeProblem(path, "is missing the table " + engineMessage.substr(kNoTable.size()));
+        return storeProblem(path, fill(tr("is missing the table %1"), {engineMessage.substr(kNoTable.size())}));
     if (engineMessage.starts_with(kNoColumn))
-        return storeProblem(path, "is missing the column " + engineMessage.substr(kNoColumn.size()));
+        return storeProblem(path, fill(tr("is missing the column %1"), {engineMessage.substr(kNoColumn.size())}));
     return {};
 }
 
@@ -203,18 +206,18 @@ std::shared_ptr<Connection> Connection::forPath(const std::string& path) {
     if (!facts.exists) {
         if (found != reg.end()) reg.erase(found);
         throw Failure(err::StoreFailure,
-                      storeProblem(path, facts.error == ENOENT ? "is missing"
-                                                               : std::string("can't be reached: ") +
-                                                                     std::strerror(facts.error)) +
+                      storeProblem(path, facts.error == ENOENT
+                                               ? tr("is missing")
+                                               : fill(tr("can't be reached: %1"), {std::strerror(facts.error)})) +
                           ".",
                       "Store");
     }
-    if (!facts.isFile) throw Failure(err::StoreFailure, storeProblem(path, "is not a file") + ".", "Store");
+    if (!facts.isFile) throw Failure(err::StoreFailure, storeProblem(path, tr("is not a file")) + ".", "Store");
     // An empty file is not a store, and must not silently become one.
-    if (facts.size == 0) throw Failure(err::StoreFailure, storeProblem(path, kNotAStore) + ".", "Store");
+    if (facts.size == 0) throw Failure(err::StoreFailure, storeProblem(path, tr(kNotAStore)) + ".", "Store");
     if (!facts.folderWritable)
         throw Failure(err::StoreFailure,
-                      storeProblem(path, "is read-only: its folder can't be written") + ".", "Store");
+                      storeProblem(path, tr("is read-only: its folder can't be written")) + ".", "Store");
     if (found != reg.end()) {
         const Connection& c = *found->second;
         // The same file as before, with the same permission: reuse.

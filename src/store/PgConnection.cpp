@@ -6,6 +6,7 @@
 #include "store/JetDialect.h"
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
+#include "toolkit/TextFill.h"
 #include "toolkit/Translate.h"
 #include "values/types/DateSerial.h"
 #include "values/types/Digits.h"
@@ -161,8 +162,9 @@ std::string serverName(const std::string& uri) {
         if (std::strcmp(o->keyword, "dbname") == 0) db = o->val;
     }
     PQconninfoFree(options);
-    std::string name = db.empty() ? std::string("the default database") : db;
-    name += " on " + (host.empty() ? std::string("the local server") : host);
+    // TRANSLATORS: %1 a database, %2 a server ("the default database on the local server").
+    std::string name = qv::fill(tr("%1 on %2"), {db.empty() ? tr("the default database") : db,
+                                              host.empty() ? tr("the local server") : host});
     if (!port.empty()) name += ":" + port;
     return name;
 }
@@ -185,8 +187,8 @@ std::shared_ptr<PgConnection> PgConnection::forUri(const std::string& uri) {
         const std::string why = conn ? firstLine(PQerrorMessage(conn)) : std::string("out of memory");
         if (conn) PQfinish(conn);
         throw Failure(err::StoreFailure,
-                      "The Quorvel data server \"" + cutForMessage(serverName(uri)) +
-                          "\" can't be reached: " + cutForMessage(why) + ".",
+                      qv::fill(tr("The Quorvel data server \"%1\" can't be reached: %2."),
+                           {cutForMessage(serverName(uri)), cutForMessage(why)}),
                       "Store");
     }
     std::shared_ptr<PgConnection> c(new PgConnection(uri, conn));
@@ -219,8 +221,8 @@ bool PgConnection::connectionLost(const std::string& code, const std::string& en
 int64_t PgConnection::numberFrom(const char* text, std::string_view context) const {
     if (const auto n = wholeNumber(text ? text : "")) return *n;
     throw Failure(err::StoreFailure,
-                  tr("The Quorvel data server sent something other than a number") + " (\"" +
-                      cutForMessage(text ? text : "") + "\", " + cutForMessage(context) + ").",
+                  qv::fill(tr("The Quorvel data server sent \"%1\" where a number belongs (%2)."),
+                           {cutForMessage(text ? text : ""), cutForMessage(context)}),
                   "Store");
 }
 
@@ -228,22 +230,25 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
     const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
     const std::string code = state ? state : "";
     const std::string engine = firstLine(result ? PQresultErrorMessage(result) : PQerrorMessage(conn_));
-    const std::string store = "The Quorvel data store \"" + name_ + "\" ";
+    // TRANSLATORS: %1 the store's name, %2 what is wrong with it ("is read-only (...)").
+    const auto store = [&](const std::string& what) {
+        return qv::fill(tr("The Quorvel data store \"%1\" %2"), {name_, what});
+    };
     std::string clear;
     if (connectionLost(code, engine)) {
         registry().erase(uri_);
-        clear = "The Quorvel data server \"" + cutForMessage(name_) + "\" can't be reached: " +
-                cutForMessage(engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine);
+        clear = qv::fill(tr("The Quorvel data server \"%1\" can't be reached: %2"),
+                     {cutForMessage(name_), cutForMessage(engine.empty() ? firstLine(PQerrorMessage(conn_)) : engine)});
     } else if (code == "55P03") {
-        clear = store + "is busy: another program has kept it locked for more than 5 seconds";
+        clear = store(qv::fill(tr("is busy: another program has kept it locked for more than %1 seconds"), {"5"}));
     } else if (code == "40P01" || code == "40001") {
-        clear = store + "refused a save that met another user's (" + engine + ")";
+        clear = store(qv::fill(tr("refused a save that met another user's (%1)"), {engine}));
     } else if (code == "42P01") {
-        clear = store + "is missing a table (" + engine + ")";
+        clear = store(qv::fill(tr("is missing a table (%1)"), {engine}));
     } else if (code == "42703") {
-        clear = store + "is missing a column (" + engine + ")";
+        clear = store(qv::fill(tr("is missing a column (%1)"), {engine}));
     } else if (code == "25006" || code == "42501") {
-        clear = store + "is read-only (" + engine + ")";
+        clear = store(qv::fill(tr("is read-only (%1)"), {engine}));
     }
     if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
     throw Failure(err::StoreFailure, cutForMessage(engine) + " (" + cutForMessage(context) + ")", "Store");
@@ -333,8 +338,8 @@ PgConnection::Result PgConnection::run(const std::string& sql, const std::vector
         // The server holds no NUL in a text; cut short there, a value would name another row.
         if (texts[i].find('\0') != std::string::npos)
             throw Failure(err::StoreFailure,
-                          "The Quorvel data server \"" + cutForMessage(name_) +
-                              "\" can't hold a text with a NUL character (" + cutForMessage(context) + ").",
+                          qv::fill(tr("The Quorvel data server \"%1\" can't hold a text with a NUL character (%2)."),
+                               {cutForMessage(name_), cutForMessage(context)}),
                           "Store");
         values[i] = texts[i].c_str();
     }

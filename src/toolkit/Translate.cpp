@@ -3,9 +3,11 @@
 #include <dlfcn.h>
 #include <libintl.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <filesystem>
 #include <mutex>
+#include <string_view>
 
 namespace fs = std::filesystem;
 
@@ -40,15 +42,26 @@ void bindOnce() {
     });
 }
 
+// The C and POSIX locales keep the English texts whatever LANGUAGE asks
+// for: the C library's C.UTF-8 would otherwise follow it.
+bool englishLocale() {
+    const char* name = std::setlocale(LC_MESSAGES, nullptr);
+    if (!name) return true;
+    const std::string_view s(name);
+    return s == "C" || s == "POSIX" || s.starts_with("C.");
+}
+
 }  // namespace
 
 std::string tr(const char* english) {
     if (!english || !*english) return {};
+    if (englishLocale()) return english;
     bindOnce();
     return dgettext(kTextDomain, english);
 }
 
 std::string trn(const char* one, const char* many, unsigned long n) {
+    if (englishLocale()) return n == 1 ? one : many;
     bindOnce();
     return dngettext(kTextDomain, one, many, n);
 }

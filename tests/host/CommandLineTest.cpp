@@ -5,6 +5,7 @@
 #if defined(QV_HOST_VIEW) && defined(QV_HOST_EXE)
 
 #include <gtest/gtest.h>
+#include <locale.h>
 #include <sqlite3.h>
 #include <stdlib.h>
 #include <sys/wait.h>
@@ -99,12 +100,15 @@ protected:
         fs::remove_all(root_, ec);
     }
 
-    // The program with no display, its HOME inside the test's folder.
-    Outcome run(const std::string& args) const {
+    // The program with no display, its HOME inside the test's folder; with
+    // locale variables ("LANG=de_DE.UTF-8"), under those alone.
+    Outcome run(const std::string& args, const std::string& localeVars = {}) const {
         const fs::path out = root_ / "out.txt", err = root_ / "err.txt";
-        const std::string cmd = "cd '" + root_.string() + "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QUORVEL_HOME" +
-                                " -u XDG_DATA_HOME HOME='" + (root_ / "home").string() + "' '" QV_HOST_EXE "' " +
-                                args + " >'" + out.string() + "' 2>'" + err.string() + "'";
+        const std::string locale = localeVars.empty() ? "" : " -u LC_ALL -u LC_MESSAGES -u LANGUAGE " + localeVars;
+        const std::string cmd =
+            "cd '" + root_.string() + "' && env -u DISPLAY -u WAYLAND_DISPLAY -u QUORVEL_HOME" +
+            " -u XDG_DATA_HOME" + locale + " HOME='" + (root_ / "home").string() + "' '" QV_HOST_EXE "' " +
+            args + " >'" + out.string() + "' 2>'" + err.string() + "'";
         const int raw = std::system(cmd.c_str());
         Outcome r{WIFEXITED(raw) ? WEXITSTATUS(raw) : -1, slurp(out), slurp(err)};
         fs::remove(out);
@@ -158,6 +162,45 @@ TEST_F(CommandLine, AnswersEveryCaseAndLeavesTheUsersStoreAsItWas) {
         EXPECT_EQ(dumpStore(user_ / "QuorvelData.mdb"), before);
         EXPECT_EQ(listing(root_), files) << "written by quorvel " << args;
     }
+}
+
+// The program speaks the language of its environment: its own texts from
+// the quorvel catalogue, Qt's (the help's headings) from Qt's; in C, English.
+struct LanguageCase {
+    const char* locale;  // the locale variables
+    const char* args;
+    const char* out;  // standard output holds this ("" for empty)
+    const char* err;  // standard error holds this ("" for empty)
+};
+
+const LanguageCase kLanguages[] = {
+    {"LANG=de_DE.UTF-8", "--help", "Diese Hilfe zeigen und beenden.", ""},
+    {"LANG=de_DE.UTF-8", "--help", "Optionen:", ""},
+    {"LANG=de_DE.UTF-8", "--home USER leftover", "", "unerwartetes Argument 'leftover'"},
+    {"LANG=de_DE.UTF-8", "--bogus", "", "Unbekannte Option 'bogus'"},
+    {"LANG=de_DE.UTF-8", "--home USER", "", "Ihr Datenbestand: "},
+    {"LANG=de_DE.UTF-8", "--home USER --install-store", "Der Datenbestand besteht bereits in", ""},
+    {"LANG=C", "--help", "Show this help and exit.", ""},
+    {"LANG=C", "--help", "Options:", ""},
+    {"LANG=C", "--home USER leftover", "", "unexpected argument 'leftover'"},
+    {"LANG=C.UTF-8", "--home USER --install-store", "The store stands already in", ""},
+    // The C locales ignore LANGUAGE, Qt's texts as much as the program's.
+    {"LANG=C.UTF-8 LANGUAGE=de", "--help", "Options:", ""},
+    {"LANG=C.UTF-8 LANGUAGE=de", "--bogus", "", "Unknown option 'bogus'"},
+};
+
+TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
+    const bool german = newlocale(LC_ALL_MASK, "de_DE.UTF-8", nullptr) != nullptr;
+    for (const LanguageCase& c : kLanguages) {
+        if (!german && std::string(c.locale).find("de_DE") != std::string::npos) continue;
+        std::string args = c.args;
+        if (auto at = args.find("USER"); at != std::string::npos) args.replace(at, 4, user_.string());
+        SCOPED_TRACE(std::string(c.locale) + " " + args);
+        const Outcome r = run(args, c.locale);
+        if (*c.out) EXPECT_NE(r.out.find(c.out), std::string::npos) << r.out;
+        if (*c.err) EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
+    }
+    if (!german) GTEST_SKIP() << "no de_DE.UTF-8 locale on this machine";
 }
 
 // A relative --home is made absolute: the settings file names the store by

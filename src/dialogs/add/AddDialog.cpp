@@ -4,6 +4,7 @@
 #include "store/ErrorPath.h"
 #include "toolkit/HelpViewer.h"
 #include "toolkit/Ports.h"
+#include "toolkit/TextFill.h"
 #include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/TextCase.h"
@@ -11,7 +12,7 @@
 namespace qv {
 
 AddDialog::AddDialog(std::string name, Shape shape) : Form(std::move(name)), shape_(shape) {
-    setCaption(std::string(kProgramTitle) + " - " + tr(shape_.title));
+    setCaption(std::string(kProgramTitle) + tr(shape_.title));
     addControl("smtAction", smtAction);
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
 }
@@ -45,7 +46,7 @@ void AddDialog::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
 
 void AddDialog::addNew(AddTrigger how) {
     if (!validateNew() || !createNew()) return;
-    info(std::string(shape_.noun) + " \"" + addedName() + "\" created.");
+    info(fill(tr(shape_.created), {addedName()}));
     afterAdd(how);
 }
 

@@ -31,8 +31,8 @@ protected:
         const char* addKey;    // the tool that adds
         const char* closeKey;  // the tool that closes
         int32_t helpTopic;
-        const char* noun;   // "Project", "Keyword": the "created." box
-        const char* title;  // the window's name after the program's (QV_N)
+        const char* created;  // the "created." box, %1 the name (translated when shown)
+        const char* title;    // after the program's title: " - Add Project" (translated when shown)
     };
 
     AddDialog(std::string name, Shape shape);

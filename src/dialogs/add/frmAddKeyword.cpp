@@ -13,12 +13,13 @@ namespace {
 constexpr const char* kModule = "frmAddKeyword";
 }  // namespace
 
-frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, "Keyword", QV_N("Add Keyword")}) {
-    smtKeywords.add(ttTextBox, "CATEGORY", "Category:").setTip("Pick a category or enter a new category");
-    smtKeywords.add(ttTextBox, "KEYWORD", "Keyword:").setTip("Enter the new Keyword");
-    smtAction.add(ttButton, "HELP", "&Help");
-    smtAction.add(ttButton, "OK", "D&one").setTip("Close this dialog box");
-    smtAction.add(ttButton, "ADD", "A&dd").setTip("Add this Keyword");
+frmAddKeyword::frmAddKeyword()
+    : AddDialog(kModule, {"ADD", "OK", 8, QV_N("Keyword \"%1\" created."), QV_N(" - Add Keyword")}) {
+    smtKeywords.add(ttTextBox, "CATEGORY", tr("Category:")).setTip(tr("Pick a category or enter a new category"));
+    smtKeywords.add(ttTextBox, "KEYWORD", tr("Keyword:")).setTip(tr("Enter the new Keyword"));
+    smtAction.add(ttButton, "HELP", tr("&Help"));
+    smtAction.add(ttButton, "OK", tr("D&one")).setTip(tr("Close this dialog box"));
+    smtAction.add(ttButton, "ADD", tr("A&dd")).setTip(tr("Add this Keyword"));
     addControl("smtKeywords", smtKeywords);
     addControl("lblCreate", lblCreate);
 }
@@ -43,16 +44,16 @@ bool frmAddKeyword::validateNew() {
     return trap(kModule, "validateNew", [&] {
         const char* problem = nullptr;
         if (field("KEYWORD").text().empty())
-            problem = "Enter a new Keyword.";
+            problem = QV_N("Enter a new Keyword.");
         else if (field("CATEGORY").text().empty())
-            problem = "Select or enter a new Keyword.";
+            problem = QV_N("Select or enter a new Keyword.");
         if (problem) {
-            info(problem);
+            info(tr(problem));
             return false;
         }
         const auto exists = keywordExists();
         if (exists.value_or(false)) {
-            info("That Keyword already exists.");
+            info(tr("That Keyword already exists."));
             field("KEYWORD").setText({});
         }
         return exists == false;

@@ -6,6 +6,7 @@
 
 #include "dialogs/add/AddDialog.h"
 #include "toolkit/Label.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -33,8 +34,8 @@ private:
     // Empty when the keywords could not be read (already reported).
     [[nodiscard]] std::optional<bool> keywordExists() const;
 
-    Sheet smtKeywords{"smtKeywords", "Enter Category and Keyword"};
-    Label lblCreate{"lblCreate", " Create a new Keyword:"};
+    Sheet smtKeywords{"smtKeywords", tr("Enter Category and Keyword")};
+    Label lblCreate{"lblCreate", tr(" Create a new Keyword:")};
 };
 
 }  // namespace qv

@@ -33,13 +33,14 @@ double today() {
 }
 }  // namespace
 
-frmAddProject::frmAddProject() : AddDialog(kModule, {"OK", "CANCEL", 800, "Project", QV_N("Add Project")}) {
-    smtProject.add(ttTextBox, "txName", "Project Name:");
-    smtProject.add(ttTextBox, "txSummary", "Description:");
-    smtProject.add(ttTextBox, "DEADLINE", "Deadline:").setHostedControl("cboDate");
-    smtAction.add(ttButton, "HELP", "&Help").setTip("Get help with Projects");
-    smtAction.add(ttButton, "CANCEL", "&Close").setTip("Close this window");
-    smtAction.add(ttButton, "OK", "C&reate").setTip("Create a New Project");
+frmAddProject::frmAddProject()
+    : AddDialog(kModule, {"OK", "CANCEL", 800, QV_N("Project \"%1\" created."), QV_N(" - Add Project")}) {
+    smtProject.add(ttTextBox, "txName", tr("Project Name:"));
+    smtProject.add(ttTextBox, "txSummary", tr("Description:"));
+    smtProject.add(ttTextBox, "DEADLINE", tr("Deadline:")).setHostedControl("cboDate");
+    smtAction.add(ttButton, "HELP", tr("&Help")).setTip(tr("Get help with Projects"));
+    smtAction.add(ttButton, "CANCEL", tr("&Close")).setTip(tr("Close this window"));
+    smtAction.add(ttButton, "OK", tr("C&reate")).setTip(tr("Create a New Project"));
     addControl("smtProject", smtProject);
     addControl("cboDate", cboDate);
     addControl("lblCreate", lblCreate);
@@ -66,19 +67,19 @@ bool frmAddProject::validateNew() {
         const std::string summary = text("txSummary");
         const char* problem = nullptr;
         if (name.empty())
-            problem = "Enter a name for this Project.";
+            problem = QV_N("Enter a name for this Project.");
         else if (summary.empty())
-            problem = "Missing Project Summary.";
+            problem = QV_N("Missing Project Summary.");
         else if (charCount(name) > kMaxLength)
-            problem = "The new Project name is too long.";
+            problem = QV_N("The new Project name is too long.");
         else if (charCount(summary) > kMaxLength)
-            problem = "The Summary is too long.";
+            problem = QV_N("The Summary is too long.");
         if (problem) {
-            info(problem);
+            info(tr(problem));
             return false;
         }
         const auto taken = nameIsTaken();
-        if (taken.value_or(false)) info("You already have a Project with that name.");
+        if (taken.value_or(false)) info(tr("You already have a Project with that name."));
         return taken == false;
     });
 }
@@ -142,7 +143,7 @@ void frmAddProject::resetDate() {
 // A typed summary alone is not worth a question.
 bool frmAddProject::mayClose() {
     if (text("txName").empty()) return true;
-    return ui().msgBox("Cancel creating this new Project?", vbYesNo, kProgramTitle) == vbYes;
+    return ui().msgBox(tr("Cancel creating this new Project?"), vbYesNo, kProgramTitle) == vbYes;
 }
 
 }  // namespace qv

@@ -7,6 +7,7 @@
 #include "dialogs/add/AddDialog.h"
 #include "toolkit/DateBox.h"
 #include "toolkit/Label.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -37,8 +38,8 @@ private:
 
     Sheet smtProject{"smtProject"};
     DateBox cboDate{"cboDate"};
-    Label lblCreate{"lblCreate", " Create a New Project:"};
-    Label lblOptional{"lblOptional", "(Optional)"};
+    Label lblCreate{"lblCreate", tr(" Create a New Project:")};
+    Label lblOptional{"lblOptional", tr("(Optional)")};
 };
 
 }  // namespace qv

@@ -6,12 +6,13 @@
 #include "dialogs/shared/StatusWords.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "values/settings/TimeValues.h"
 
 namespace qv {
 
 namespace {
-const char* const kCancelQuestion = "Cancel update the current task appointment?";
+const char* const kCancelQuestion = QV_N("Cancel update the current task appointment?");
 constexpr int32_t kHelpTopic = 700;
 }  // namespace
 
@@ -51,7 +52,7 @@ void AppointmentActions::smtReady_Click(Tool& tool) {
     status.setTag(std::to_string(done ? StatusWords::kCompleted : StatusWords::kDefined));
     status.setBold(done);
     f_.StopTHETimer();
-    c.smtTimes.tool("DONE").setText(done ? "Complete" : "Not Complete");
+    c.smtTimes.tool("DONE").setText(done ? tr("Complete") : tr("Not Complete"));
     Tool& spent = c.smtTimes.tool("TIMESPENT");
     if (done && (spent.text() == "0:00" || spent.text().empty() || !IsTime(spent.text())))
         spent.setText(f_.getTATimeNeeded());
@@ -74,7 +75,7 @@ void AppointmentActions::Form_KeyDown(int32_t keyCode) {
 // Only the close box asks, and only with something to update.
 bool AppointmentActions::Form_QueryUnload(int32_t unloadMode) {
     if (unloadMode == 0 && f_.controls().smtActions.tool("SAVE").enabled())
-        return DialogMessages::askYesNo(kCancelQuestion);
+        return DialogMessages::askYesNo(tr(kCancelQuestion));
     return true;
 }
 

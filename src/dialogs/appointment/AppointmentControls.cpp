@@ -1,6 +1,7 @@
 #include "dialogs/appointment/AppointmentControls.h"
 
 #include "dialogs/shared/PrintingMenu.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -22,25 +23,25 @@ AppointmentControls::AppointmentControls() {
 void AppointmentControls::buildTimes() {
     auto& s = smtTimes;
     s.add(ttTextBox, "DATE").setHostedControl("ctTADate");
-    s.add(ttTextBox, "START", "Start:");
-    s.add(ttTextBox, "END", "End:");
-    Tool& done = s.add(ttTextBox, "DONE", "Status:");
-    done.addItem(ttOption, "DONE-1", "Complete");
-    done.addItem(ttOption, "DONE-0", "Not Complete");
+    s.add(ttTextBox, "START", tr("Start:"));
+    s.add(ttTextBox, "END", tr("End:"));
+    Tool& done = s.add(ttTextBox, "DONE", tr("Status:"));
+    done.addItem(ttOption, "DONE-1", tr("Complete"));
+    done.addItem(ttOption, "DONE-0", tr("Not Complete"));
     done.setText("Completed");
-    Tool& spent = s.add(ttTextBox, "TIMESPENT", "Time Spent:");
+    Tool& spent = s.add(ttTextBox, "TIMESPENT", tr("Time Spent:"));
     spent.setText("0:00");
-    spent.setTip("During this Task Appointment");
-    s.add(ttButton, "COPYTIMENEEDED", "Copy Time Scheduled");
-    s.add(ttButton, "ADDFROMTIMER", " Add From Timer");
-    s.add(ttButton, "TIMER", "Timer:").setImage("GRAY");
+    spent.setTip(tr("During this Task Appointment"));
+    s.add(ttButton, "COPYTIMENEEDED", tr("Copy Time Scheduled"));
+    s.add(ttButton, "ADDFROMTIMER", tr(" Add From Timer"));
+    s.add(ttButton, "TIMER", tr("Timer:")).setImage("GRAY");
 }
 
 void AppointmentControls::buildReady() {
     auto& s = smtReady;
     s.setTitle({});
-    s.add(ttCheck, "DONE", "Task is Done");
-    s.add(kValueTool, "POINTS", "Possible Points:");
+    s.add(ttCheck, "DONE", tr("Task is Done"));
+    s.add(kValueTool, "POINTS", tr("Possible Points:"));
     s.add(ttButton, {}).setImage("GOOD");
 }
 
@@ -48,37 +49,37 @@ void AppointmentControls::buildReady() {
 // no tab stop, and every value the task's, shown here read-only.
 void AppointmentControls::buildAbout() {
     auto& s = smtABOUT;
-    s.add(ttHeading, "H1", "General");
-    s.add(ttTextBox, "STATUS", "Status:");
-    s.add(ttTextBox, "PROJECT", "Project:");
-    s.add(ttTextBox, "IMP", "Importance:");
-    s.add(ttTextBox, "DIFF", "Difficulty:");
-    Tool& current = s.add(ttTextBox, "ISCURRENT", "On Current List:");
-    current.addItem(ttOption, {}, "Yes").setTag("TRUE");
-    current.addItem(ttOption, {}, "No").setTag("FALSE");
-    s.add(ttHeading, "H2", "Time");
-    s.add(ttTextBox, "NEEDED", "Time Needed:");
-    s.add(ttTextBox, "SCHEDULED", "Time Scheduled:");
-    s.add(ttTextBox, "SPENT", "Total Time Spent:");
-    s.add(ttTextBox, "DEADLINE", "Deadline:");
+    s.add(ttHeading, "H1", tr("General"));
+    s.add(ttTextBox, "STATUS", tr("Status:"));
+    s.add(ttTextBox, "PROJECT", tr("Project:"));
+    s.add(ttTextBox, "IMP", tr("Importance:"));
+    s.add(ttTextBox, "DIFF", tr("Difficulty:"));
+    Tool& current = s.add(ttTextBox, "ISCURRENT", tr("On Current List:"));
+    current.addItem(ttOption, {}, tr("Yes")).setTag("TRUE");
+    current.addItem(ttOption, {}, tr("No")).setTag("FALSE");
+    s.add(ttHeading, "H2", tr("Time"));
+    s.add(ttTextBox, "NEEDED", tr("Time Needed:"));
+    s.add(ttTextBox, "SCHEDULED", tr("Time Scheduled:"));
+    s.add(ttTextBox, "SPENT", tr("Total Time Spent:"));
+    s.add(ttTextBox, "DEADLINE", tr("Deadline:"));
 }
 
 void AppointmentControls::buildActions() {
     auto& s = smtActions;
-    s.add(ttButton, "HELP", "&Help").setTip("Help with Task Appointments");
-    PrintingMenu::add(s, "Page Se&tup");
-    s.add(ttButton, "EDIT", "Edit &Task").setTip("Open the task of this appointment");
+    s.add(ttButton, "HELP", tr("&Help")).setTip(tr("Help with Task Appointments"));
+    PrintingMenu::add(s, tr("Page Se&tup"));
+    s.add(ttButton, "EDIT", tr("Edit &Task")).setTip(tr("Open the task of this appointment"));
     s.add(ttSeparator);
-    s.add(ttButton, "CANCEL", "C&ancel");
-    Tool& save = s.add(ttButton, "SAVE", "&Update");
-    save.setTip("Update this Task Appointment");
+    s.add(ttButton, "CANCEL", tr("C&ancel"));
+    Tool& save = s.add(ttButton, "SAVE", tr("&Update"));
+    save.setTip(tr("Update this Task Appointment"));
     save.setEnabled(false);
 }
 
 void AppointmentControls::buildChecklistActions() {
     auto& s = smtCKActions;
-    s.add(ttButton, "PICK", "Pick...");
-    s.add(ttButton, "EDIT", "Edit...");
+    s.add(ttButton, "PICK", tr("Pick..."));
+    s.add(ttButton, "EDIT", tr("Edit..."));
 }
 
 void AppointmentControls::buildPanes() {

@@ -9,6 +9,7 @@
 #include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -22,21 +23,21 @@ enum AppointmentTab : int32_t { tabChecklist = 0, tabNotes = 1, tabAbout = 2 };
 struct AppointmentControls {
     AppointmentControls();
 
-    Sheet smtTimes{"smtTimes", "Time Information"};
+    Sheet smtTimes{"smtTimes", tr("Time Information")};
     Sheet smtReady{"smtReady"};
-    Sheet smtABOUT{"smtABOUT", "About this Task:"};
+    Sheet smtABOUT{"smtABOUT", tr("About this Task:")};
     Sheet smtActions{"smtActions"};
     Sheet smtCKActions{"smtCKActions"};
-    TabStrip Tabs1{"Tabs1", {"&Checklist", "Notes", "About"}};
+    TabStrip Tabs1{"Tabs1", {tr("&Checklist"), tr("Notes"), tr("About")}};
     TextEditor spellTask{"spellTask"};
     TextEditor SpellNotes{"SpellNotes"};
     TextEditor spellCK{"spellCK"};
     DateBox ctTADate{"ctTADate"};
     Timer Timer1{"Timer1"};
     Splitter splitTAS{"splitTAS"};
-    Label lblTask{"lblTask", "Task Description"};
-    Label lblCk{"lblCk", "Checklist"};
-    Label lblNotes{"lblNotes", "Notes"};
+    Label lblTask{"lblTask", tr("Task Description")};
+    Label lblCk{"lblCk", tr("Checklist")};
+    Label lblNotes{"lblNotes", tr("Notes")};
 
 private:
     void buildTimes();

@@ -16,6 +16,7 @@
 #include "store/clsNewTask.h"
 #include "store/clsVLProjectsList.h"
 #include "toolkit/Failure.h"
+#include "toolkit/Translate.h"
 #include "values/types/CNull.h"
 #include "values/types/Convert.h"
 #include "values/types/DateTimeFormatter.h"
@@ -26,7 +27,7 @@ namespace qv {
 
 namespace {
 
-const char* const kLostChecklist = "The checklist formerly associated with this task could not be found.";
+const char* const kLostChecklist = QV_N("The checklist formerly associated with this task could not be found.");
 constexpr int32_t kRed = 255;
 constexpr std::size_t kChecklistNameShown = 80;
 
@@ -106,8 +107,8 @@ bool AppointmentLoader::readAppointment() {
     project.setTag(row.text("taprojectGUIDID"));
     project.setText(row.text("taProject"));
     for (auto [key, column, field, list] :
-         {std::tuple{"IMP", "taImp", "Importance", &g().ImportanceList},
-          std::tuple{"DIFF", "taDifficulty", "Difficulty", &g().DifficultyList}}) {
+         {std::tuple{"IMP", "taImp", QV_N("Importance"), &g().ImportanceList},
+          std::tuple{"DIFF", "taDifficulty", QV_N("Difficulty"), &g().DifficultyList}}) {
         const auto index = row.level(column, field, list->size());
         Tool& level = c.smtABOUT.tool(key);
         level.setTag(index ? std::to_string(*index) : std::string());
@@ -115,15 +116,15 @@ bool AppointmentLoader::readAppointment() {
     }
     f_.TATaskGUID = row.text("taTaskGUIDID");
     const auto& format = DateTimeFormatter::current();
-    const auto start = row.date("taStartTime", "Start");
+    const auto start = row.date("taStartTime", QV_N("Start"));
     if (start) {
         c.smtTimes.tool("START").setText(format.longTime(timeOfDay(*start)));
         c.ctTADate.setValue(std::floor(*start));
     }
-    if (const auto end = row.date("taEndTime", "End")) c.smtTimes.tool("END").setText(format.longTime(timeOfDay(*end)));
+    if (const auto end = row.date("taEndTime", QV_N("End"))) c.smtTimes.tool("END").setText(format.longTime(timeOfDay(*end)));
     if (!rs->Fields("taWasWorked").value().isNull())
-        c.smtTimes.tool("DONE").setText(row.flag("taWasWorked", "Was Worked") ? "Complete" : "Not Complete");
-    const int32_t minutes = row.minutes("taTimeWorked", "Time Worked");
+        c.smtTimes.tool("DONE").setText(row.flag("taWasWorked", QV_N("Was Worked")) ? tr("Complete") : tr("Not Complete"));
+    const int32_t minutes = row.minutes("taTimeWorked", QV_N("Time Worked"));
     c.smtTimes.tool("TIMESPENT").setText(minutes > 0 ? SetTimeFormat(minutes) : "0:00");
     f_.SlotRow = rs;
     row.tell();
@@ -140,22 +141,22 @@ void AppointmentLoader::readTask() {
     auto& c = f_.controls();
     StoredRow row(*rs, "TASKS", f_.TATaskGUID);
     row.setName(row.text("tskDesc"));
-    const auto points = row.number("tskPossPoints", "Possible Points", true);
+    const auto points = row.number("tskPossPoints", QV_N("Possible Points"), true);
     c.smtReady.tool("POINTS").setText(points ? std::to_string(*points) : "0");
     c.SpellNotes.setText(row.text("tskNotes"));
-    const bool current = row.flag("tskCurrent", "Current");
+    const bool current = row.flag("tskCurrent", QV_N("Current"));
     Tool& isCurrent = c.smtABOUT.tool("ISCURRENT");
     isCurrent.setTag(current ? "TRUE" : "FALSE");
-    isCurrent.setText(current ? "Yes" : "No");
-    for (auto [key, column, field] : {std::tuple{"NEEDED", "tskTimeNeeded", "Time Needed"},
-                                      std::tuple{"SCHEDULED", "tskTimeScheduled", "Time Scheduled"},
-                                      std::tuple{"SPENT", "tskTimeSpent", "Time Spent"}}) {
+    isCurrent.setText(current ? tr("Yes") : tr("No"));
+    for (auto [key, column, field] : {std::tuple{"NEEDED", "tskTimeNeeded", QV_N("Time Needed")},
+                                      std::tuple{"SCHEDULED", "tskTimeScheduled", QV_N("Time Scheduled")},
+                                      std::tuple{"SPENT", "tskTimeSpent", QV_N("Time Spent")}}) {
         const std::string shown = SetTimeFormat(row.minutes(column, field));
         Tool& t = c.smtABOUT.tool(key);
         t.setTag(shown);
         t.setText(shown);
     }
-    const double deadline = row.date("tskDeadline", "Deadline").value_or(0.0);
+    const double deadline = row.date("tskDeadline", QV_N("Deadline")).value_or(0.0);
     if (deadline > 0) {
         Tool& t = c.smtABOUT.tool("DEADLINE");
         t.setText(DateTimeFormatter::current().generalDate(deadline));
@@ -171,11 +172,11 @@ void AppointmentLoader::readTask() {
 // A status beyond the list is a bounds failure; one that can't be read is
 // the missing status.
 int32_t AppointmentLoader::readStatus(StoredRow& row) {
-    const auto status = row.number("tskStatus", "Status");
+    const auto status = row.number("tskStatus", QV_N("Status"));
     if (!status) return kNothingChosen;
     if (*status > StatusWords::kDefined && static_cast<std::size_t>(*status) >= g().StatusList.size())
-        row.beyondList("tskStatus", "Status");
-    if (*status < 0) row.beyondList("tskStatus", "Status");
+        row.beyondList("tskStatus", QV_N("Status"));
+    if (*status < 0) row.beyondList("tskStatus", QV_N("Status"));
     return *status;
 }
 
@@ -214,12 +215,12 @@ void AppointmentLoader::readChecklist(Recordset& task) {
     auto& c = f_.controls();
     if (rs->RecordCount() == 1) {
         const std::string name = text(*rs, "ckName");
-        c.lblCk.setCaption(frmTAS2::TrimtoLen(name, kChecklistNameShown) + " Checklist: ");
+        c.lblCk.setCaption(frmTAS2::TrimtoLen(name, kChecklistNameShown) + tr(" Checklist: "));
         state.utilChecklistName = name;
         c.spellCK.setText(text(*rs, "ckContent"));
         f_.setCKEditMode(1);
     } else {
-        DialogMessages::inform(kLostChecklist);
+        DialogMessages::inform(tr(kLostChecklist));
         state.utilCheckListExists = false;
         state.utilChecklistKey.clear();
         f_.setCKEditMode(0);

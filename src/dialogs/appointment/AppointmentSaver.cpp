@@ -17,6 +17,7 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CNull.h"
 #include "values/types/Convert.h"
@@ -28,7 +29,7 @@ namespace qv {
 namespace {
 
 const char* const kBlankTimeSpent =
-    "Task Appointment Time Spent is blank. Set it to this Task Appointment's duration?";
+    QV_N("Task Appointment Time Spent is blank. Set it to this Task Appointment's duration?");
 const char* const kNoChecklist = "-NONE";
 
 RecordsetPtr openKeyed(clsNewTask& source, const Query& sql) {
@@ -62,14 +63,14 @@ int32_t levelIn(Recordset& rs, const char* column) {
 
 const char* AppointmentSaver::firstFailure() const {
     auto& c = f_.controls();
-    if (!IsTime(c.smtTimes.tool("START").text())) return "The Task Start time must be a valid time.";
-    if (!IsTime(c.smtTimes.tool("END").text())) return "The Task End time must be a valid time.";
-    if (c.spellTask.text().empty()) return "Task Description cannot be blank.";
+    if (!IsTime(c.smtTimes.tool("START").text())) return QV_N("The Task Start time must be a valid time.");
+    if (!IsTime(c.smtTimes.tool("END").text())) return QV_N("The Task End time must be a valid time.");
+    if (c.spellTask.text().empty()) return QV_N("Task Description cannot be blank.");
     const std::string& deadline = c.smtABOUT.tool("DEADLINE").text();
     if (!deadline.empty() && !readsAsDate(deadline))
-        return "The Task Deadline must be a valid date, and optionally, a time.";
-    if (!IsTime(c.smtABOUT.tool("NEEDED").text())) return "Time Needed must be a time value.";
-    if (!IsTime(c.smtABOUT.tool("SPENT").text())) return "Time Spent must be a time value.";
+        return QV_N("The Task Deadline must be a valid date, and optionally, a time.");
+    if (!IsTime(c.smtABOUT.tool("NEEDED").text())) return QV_N("Time Needed must be a time value.");
+    if (!IsTime(c.smtABOUT.tool("SPENT").text())) return QV_N("Time Spent must be a time value.");
     return nullptr;
 }
 
@@ -77,7 +78,7 @@ const char* AppointmentSaver::firstFailure() const {
 bool AppointmentSaver::ValidateTask() {
     Tool& save = f_.controls().smtActions.tool("SAVE");
     if (const char* message = firstFailure()) {
-        DialogMessages::inform(message);
+        DialogMessages::inform(tr(message));
         save.setEnabled(false);
         return false;
     }
@@ -89,7 +90,7 @@ bool AppointmentSaver::ValidateTask() {
 bool AppointmentSaver::askBlankTimeSpent() {
     Tool& spent = f_.controls().smtTimes.tool("TIMESPENT");
     if (IsTime(spent.text())) return true;
-    if (ui().msgBox(kBlankTimeSpent, vbYesNo | vbInformation, kProgramTitle) == vbYes) {
+    if (ui().msgBox(tr(kBlankTimeSpent), vbYesNo | vbInformation, kProgramTitle) == vbYes) {
         spent.setText(f_.getTATimeNeeded());
         return true;
     }
@@ -173,10 +174,10 @@ void AppointmentSaver::writeAppointment(Recordset& rs) {
 // "Completed" of a slot never judged leaves the column alone.
 void AppointmentSaver::markWorked(Recordset& rs) {
     const std::string& done = f_.controls().smtTimes.tool("DONE").text();
-    if (done == "Complete") {
+    if (done == tr("Complete")) {
         rs.Fields("taWasWorked") = Value(true);
         fillBlankTimeSpent();
-    } else if (done == "Not Complete") {
+    } else if (done == tr("Not Complete")) {
         rs.Fields("taWasWorked") = Value(false);
     }
 }

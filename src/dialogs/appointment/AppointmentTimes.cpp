@@ -6,13 +6,14 @@
 #include "dialogs/shared/TimeSpentEdit.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/Translate.h"
 #include "values/types/TaskUtil.h"
 #include "values/settings/TimeValues.h"
 
 namespace qv {
 
 namespace {
-const char* const kScheduledIsSum = "Time Scheduled is the sum of each Tasks' Task Appointments.";
+const char* const kScheduledIsSum = QV_N("Time Scheduled is the sum of each Tasks' Task Appointments.");
 
 // The About tool a pick's key prefix names.
 const char* toolOfPrefix(const std::string& prefix) {
@@ -72,7 +73,7 @@ void AppointmentTimes::smtABOUT_Change(Tool& tool) {
     }
     // Putting the loaded text back raises Change once more, with nothing to say.
     if (tool.key() == "SCHEDULED" && tool.text() != tool.tag()) {
-        DialogMessages::inform(kScheduledIsSum);
+        DialogMessages::inform(tr(kScheduledIsSum));
         tool.setText(tool.tag());
     }
 }

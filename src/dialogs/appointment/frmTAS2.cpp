@@ -13,6 +13,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "store/Recordset.h"
 #include "store/ErrorPath.h"
+#include "toolkit/Translate.h"
 #include "values/settings/DateFormats.h"
 
 namespace qv {
@@ -52,7 +53,7 @@ void frmTAS2::keepDrafts() {
                 {&c_.smtABOUT, {"STATUS", "PROJECT", "IMP", "DIFF", "ISCURRENT", "NEEDED", "SPENT", "DEADLINE"}}};
     in.dates = {&c_.ctTADate};
     in.editors = {&c_.spellTask, &c_.SpellNotes};
-    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "This task appointment", std::move(in));
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, QV_N("This task appointment has changes from %1 that were not saved. Restore them?"), std::move(in));
     drafts_->offerStoredRowWhenShown();
 }
 

@@ -10,6 +10,7 @@
 #include "toolkit/Label.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -35,11 +36,11 @@ ChecklistLink::~ChecklistLink() {
 }
 
 void ChecklistLink::buildTools(Sheet& s) {
-    s.add(ttButton, "NEW", "New");
+    s.add(ttButton, "NEW", tr("New"));
     s.add(ttSeparator, "S1");
-    s.add(ttButton, "PICK", "Pick...");
+    s.add(ttButton, "PICK", tr("Pick..."));
     s.add(ttSeparator, "S2").setVisible(false);
-    s.add(ttButton, "EDIT", "Edit...").setVisible(false);
+    s.add(ttButton, "EDIT", tr("Edit...")).setVisible(false);
 }
 
 const char* ChecklistLink::module() const {
@@ -107,13 +108,13 @@ void ChecklistLink::unlink() {
     state_.utilCheckListExists = false;
     state_.utilChecklistKey.clear();
     spellCK_.setText({});
-    lblCk_.setCaption("No Checklist");
+    lblCk_.setCaption(tr("No Checklist"));
     setCKEditMode(0);
 }
 
 void ChecklistLink::pick(const std::string& key) {
     state_.utilChecklistKey = key;
-    if (!show(key, " Checklist: ")) return;
+    if (!show(key, tr(" Checklist: "))) return;
     setCKEditMode(1);
     if (options_.enableUpdateOnPick)
         if (Tool* update = options_.enableUpdateOnPick->find("UPDATE")) update->setEnabled(true);
@@ -124,14 +125,14 @@ void ChecklistLink::ckFrm_returnNewCKGuid(const std::string& key) {
     trap(module(), "ckFrm_returnNewCKGuid", [&] {
         state_.utilNewChecklistNewGUID = saved;
         state_.utilChecklistKey = saved;
-        if (show(saved, "Checklist: ")) setCKEditMode(1);
+        if (show(saved, tr("Checklist: "))) setCKEditMode(1);
     });
 }
 
 void ChecklistLink::ckFrm_returnUpdatedCKGuid(const std::string& key) {
     const std::string saved = key;
     trap(module(), "ckFrm_returnUpdatedCKGuid", [&] {
-        if (show(saved, "Checklist: ")) setCKEditMode(1);
+        if (show(saved, tr("Checklist: "))) setCKEditMode(1);
     });
 }
 

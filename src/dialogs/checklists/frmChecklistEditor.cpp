@@ -6,6 +6,7 @@
 #include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/CCreateGuid.h"
 
@@ -21,10 +22,10 @@ Query rowQuery(const std::string& key) {
 
 frmChecklistEditor::frmChecklistEditor() : Form(kModule) {
     setCaption(kProgramTitle);
-    smtChecklist.add(ttTextBox, "NAME", "Name:");
-    smtChecklist.add(ttTextBox, "DESC", "Description:");
-    smtAction.add(ttButton, "CANCEL", "&Cancel");
-    smtAction.add(ttButton, "SAVE", "&Save");
+    smtChecklist.add(ttTextBox, "NAME", tr("Name:"));
+    smtChecklist.add(ttTextBox, "DESC", tr("Description:"));
+    smtAction.add(ttButton, "CANCEL", tr("&Cancel"));
+    smtAction.add(ttButton, "SAVE", tr("&Save"));
     addControl("smtChecklist", smtChecklist);
     addControl("smtAction", smtAction);
     addControl("spellContent", spellContent);
@@ -72,7 +73,7 @@ void frmChecklistEditor::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
 // The owner hears of the saved key after the editor has closed.
 bool frmChecklistEditor::save() {
     if (field("NAME").text().empty()) {
-        ui().msgBox("Enter a name for this Checklist.", vbOKOnly + vbInformation, kProgramTitle);
+        ui().msgBox(tr("Enter a name for this Checklist."), vbOKOnly + vbInformation, kProgramTitle);
         return false;
     }
     const std::string key = isNew() ? CCreateGuid::guid() : key_;

@@ -3,6 +3,7 @@
 #include "store/ErrorPath.h"
 #include "store/StoreQueries.h"
 #include "store/clsCheckLists.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -11,8 +12,8 @@ constexpr const char* kModule = "frmCkPicker";
 }  // namespace
 
 frmCkPicker::frmCkPicker() : Form(kModule) {
-    smtAction.add(ttButton, "OK", "OK").setEnabled(false);
-    smtAction.add(ttButton, "CANCEL", "Cancel");
+    smtAction.add(ttButton, tr("OK"), tr("OK")).setEnabled(false);
+    smtAction.add(ttButton, "CANCEL", tr("Cancel"));
     txDesc.setReadOnly(true);
     addControl("smtList", smtList);
     addControl("smtAction", smtAction);
@@ -25,9 +26,9 @@ frmCkPicker::frmCkPicker() : Form(kModule) {
 bool frmCkPicker::LoadPicker() {
     return trap(kModule, "LoadPicker", [&] {
         smtList.removeAll();
-        smtList.add(ttOption, "-NEW-", "New Checklist");
-        smtList.add(ttOption, "-NONE-", "No Checklist");
-        smtList.add(ttHeading, {}, "Checklists");
+        smtList.add(ttOption, "-NEW-", tr("New Checklist"));
+        smtList.add(ttOption, "-NONE-", tr("No Checklist"));
+        smtList.add(ttHeading, {}, tr("Checklists"));
         clsCheckLists source;
         source.SetSQL(queries::checklistPickerList());
         RecordsetPtr rs;

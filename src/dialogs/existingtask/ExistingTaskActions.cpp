@@ -9,6 +9,7 @@
 #include "dialogs/shared/TimeSpentEdit.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/settings/StopwatchDisplay.h"
 #include "values/settings/TimeValues.h"
@@ -18,10 +19,10 @@ namespace qv {
 
 namespace {
 constexpr int32_t kHelpTopic = 601;
-const char* const kDiscardTask = "Discard changes made to this Task?";
-const char* const kCancelUpdating = "Cancel updating the current task?";
+const char* const kDiscardTask = QV_N("Discard changes made to this Task?");
+const char* const kCancelUpdating = QV_N("Cancel updating the current task?");
 
-bool ask(const char* text, int32_t icon) { return ui().msgBox(text, vbYesNo | icon, kProgramTitle) == vbYes; }
+bool ask(const std::string& text, int32_t icon) { return ui().msgBox(text, vbYesNo | icon, kProgramTitle) == vbYes; }
 }  // namespace
 
 ExistingTaskActions::ExistingTaskActions(frmExistingTask& f)
@@ -64,12 +65,12 @@ void ExistingTaskActions::save(bool byKey) {
 bool ExistingTaskActions::leave() {
     const auto& ck = f_.fields().checklist;
     if (ck.CheckListMode == 1 && ck.CheckListChanged) {
-        if (!ask("Discard new Checklist?", 0)) return false;
+        if (!ask(tr("Discard new Checklist?"), 0)) return false;
     } else if (ck.CheckListMode == 2 && ck.CheckListChanged) {
-        if (!ask("Discard changes in Checklist?", vbQuestion)) return false;
+        if (!ask(tr("Discard changes in Checklist?"), vbQuestion)) return false;
     }
     if (f_.controls().smtActions.tool("UPDATE").enabled() && f_.fields().IsDirty)
-        if (!ask(kDiscardTask, vbQuestion)) return false;
+        if (!ask(tr(kDiscardTask), vbQuestion)) return false;
     f_.TaskCanceled(g().CurrentTaskGUID);
     f_.CloseTaskForm();
     return true;
@@ -88,7 +89,7 @@ void ExistingTaskActions::Form_KeyDown(int32_t keyCode, bool& swallowed) {
 // The close box asks its own question, tests only "UPDATE" and tells no
 // TaskCanceled.
 void ExistingTaskActions::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
-    if (unloadMode == 0 && f_.controls().smtActions.tool("UPDATE").enabled() && !ask(kCancelUpdating, 0)) {
+    if (unloadMode == 0 && f_.controls().smtActions.tool("UPDATE").enabled() && !ask(tr(kCancelUpdating), 0)) {
         cancel = true;
         return;
     }

@@ -10,14 +10,15 @@
 #include "toolkit/TabStrip.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
 struct ExistingTaskControls {
     ExistingTaskControls();
 
-    Sheet smtABOUT{"smtABOUT", "About"};
-    Sheet smtKeywords{"smtKeywords", "Keywords"};
+    Sheet smtABOUT{"smtABOUT", tr("About")};
+    Sheet smtKeywords{"smtKeywords", tr("Keywords")};
     Sheet smtReady{"smtReady"};
     Sheet smtActions{"smtActions"};
     Sheet smtCKActions{"smtCKActions"};
@@ -32,10 +33,10 @@ struct ExistingTaskControls {
     Timer Timer1{"Timer1"};
     Timer Timer2{"Timer2"};
     Splitter splitTask{"splitTask"};
-    TabStrip Tabs1{"Tabs1", {"&Checklist", "&Task Schedule"}};
-    Label lblTask{"lblTask", "Task Description"};
-    Label lblNotes{"lblNotes", "Notes"};
-    Label lblCk{"lblCk", "Checklist"};
+    TabStrip Tabs1{"Tabs1", {tr("&Checklist"), tr("&Task Schedule")}};
+    Label lblTask{"lblTask", tr("Task Description")};
+    Label lblNotes{"lblNotes", tr("Notes")};
+    Label lblCk{"lblCk", tr("Checklist")};
 
 private:
     void buildAbout();

@@ -12,6 +12,7 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Tool.h"
+#include "toolkit/Translate.h"
 #include "values/types/CNull.h"
 #include "values/types/TextCase.h"
 
@@ -19,7 +20,7 @@ namespace qv {
 
 namespace {
 
-const char* const kNewProjectCaption = "New Project";
+const char* const kNewProjectCaption = QV_N("New Project");
 
 RecordsetPtr openLinks(clsNewTask& source, const std::string& taskGUID) {
     RecordsetPtr rs;
@@ -65,7 +66,7 @@ void ExistingTaskKeywords::smtKeywords_Click(Tool& tool) {
 }
 
 bool ExistingTaskKeywords::projectChanged(Tool& tool) {
-    if (tool.key() != "PROJECT" || tool.text() != kNewProjectCaption) return false;
+    if (tool.key() != "PROJECT" || tool.text() != tr(kNewProjectCaption)) return false;
     openAddProject();
     f_.ValidateTask();
     f_.fields().IsDirty = true;

@@ -19,6 +19,7 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "values/settings/DateFormats.h"
 #include "values/types/DateTimeFormatter.h"
 #include "values/settings/TimeValues.h"
@@ -27,7 +28,7 @@ namespace qv {
 
 namespace {
 const char* const kSpellSettings = "TarnvikQuorvel";
-const char* const kLostChecklist = "The checklist formerly associated with this task could not be found.";
+const char* const kLostChecklist = QV_N("The checklist formerly associated with this task could not be found.");
 constexpr int32_t kRed = 255;
 constexpr std::size_t kChecklistCaptionLimit = 80;
 constexpr int32_t kNoCurrentRecord = 3021;
@@ -81,7 +82,7 @@ void ExistingTaskLoader::GetETASK() {
     fillDeadline(row);
     fillStatus(row);
     f_.initSked();
-    if (row.flag("tskHasSchedule", "Has Schedule")) {
+    if (row.flag("tskHasSchedule", QV_N("Has Schedule"))) {
         f_.CountUpSked();
         fields.utilHasSchedule = true;
     } else {
@@ -99,7 +100,7 @@ void ExistingTaskLoader::fillTexts(StoredRow& row) {
     r.Desc = row.text("tskDesc");
     row.setName(r.Desc);
     c.spellTask.setText(r.Desc);
-    const auto points = row.number("tskPossPoints", "Possible Points", true);
+    const auto points = row.number("tskPossPoints", QV_N("Possible Points"), true);
     c.smtReady.tool("POINTS").setCaption(points ? std::to_string(*points) : std::string());
     r.Notes = row.text("tskNotes");
     c.SpellNotes.setText(r.Notes);
@@ -114,12 +115,12 @@ void ExistingTaskLoader::fillPicks(StoredRow& row) {
     Tool& project = c.smtABOUT.tool("PROJECT");
     project.setText(row.text("tskProject"));
     project.setTag(row.text("tskProjectKey"));
-    showLevel(c.smtABOUT.tool("IMP"), s.ImportanceList, row.level("tskImp", "Importance", s.ImportanceList.size()));
+    showLevel(c.smtABOUT.tool("IMP"), s.ImportanceList, row.level("tskImp", QV_N("Importance"), s.ImportanceList.size()));
     showLevel(c.smtABOUT.tool("DIFF"), s.DifficultyList,
-              row.level("tskDifficulty", "Difficulty", s.DifficultyList.size()));
+              row.level("tskDifficulty", QV_N("Difficulty"), s.DifficultyList.size()));
     Tool& current = c.smtABOUT.tool("ISCURRENT");
-    r.IsCurrent = row.flag("tskCurrent", "Current");
-    current.setText(r.IsCurrent ? "Yes" : "No");
+    r.IsCurrent = row.flag("tskCurrent", QV_N("Current"));
+    current.setText(r.IsCurrent ? tr("Yes") : tr("No"));
     current.setTag(r.IsCurrent ? "TRUE" : "FALSE");
 }
 
@@ -131,18 +132,18 @@ void ExistingTaskLoader::fillTimes(StoredRow& row) {
         t.setText(SetTimeFormat(minutes));
         t.setTag(t.text());
     };
-    r.TimeNeeded = row.minutes("tskTimeNeeded", "Time Needed");
+    r.TimeNeeded = row.minutes("tskTimeNeeded", QV_N("Time Needed"));
     show("NEEDED", r.TimeNeeded);
-    r.TimeScheduled = row.minutes("tskTimeScheduled", "Time Scheduled");
+    r.TimeScheduled = row.minutes("tskTimeScheduled", QV_N("Time Scheduled"));
     show("SCHEDULED", r.TimeScheduled);
-    r.TimeSpent = row.minutes("tskTimeSpent", "Time Spent");
+    r.TimeSpent = row.minutes("tskTimeSpent", QV_N("Time Spent"));
     show("SPENT", r.TimeSpent);
     c.smtTimes.tool("TIMESPENT").setText(c.smtABOUT.tool("SPENT").text());
 }
 
 // A midnight deadline shows no time; one at or past now shows red and bold.
 void ExistingTaskLoader::fillDeadline(StoredRow& row) {
-    const auto stored = row.date("tskDeadline", "Deadline");
+    const auto stored = row.date("tskDeadline", QV_N("Deadline"));
     if (!stored) return;
     const double deadline = *stored;
     if (deadline <= kNoDate) return;
@@ -164,7 +165,7 @@ void ExistingTaskLoader::fillDeadline(StoredRow& row) {
 void ExistingTaskLoader::fillStatus(StoredRow& row) {
     static const char* const kFixedWords[] = {"Completed", "In Progress", "On Hold", "Defined"};
     auto& c = f_.controls();
-    const int32_t status = row.number("tskStatus", "Status").value_or(kNothingChosen);
+    const int32_t status = row.number("tskStatus", QV_N("Status")).value_or(kNothingChosen);
     Tool& tool = c.smtABOUT.tool("STATUS");
     Tool& done = c.smtReady.tool("DONE");
     f_.fields().record().Status = status;
@@ -190,14 +191,14 @@ void ExistingTaskLoader::fillChecklist(StoredRow& row) {
     RecordsetPtr rs;
     if (!source.GetDataKEY(rs)) return;
     if (rs->EOF_()) {
-        DialogMessages::inform(kLostChecklist);
+        DialogMessages::inform(tr(kLostChecklist));
         return;
     }
     const std::string name = rs->Fields("ckName").value().toText();
     ck.utilCheckListExists = true;
     ck.utilChecklistKey = key;
     ck.utilChecklistName = name;
-    f_.controls().lblCk.setCaption(" Checklist: " + TrimtoLen(name, kChecklistCaptionLimit));
+    f_.controls().lblCk.setCaption(tr(" Checklist: ") + TrimtoLen(name, kChecklistCaptionLimit));
     f_.controls().spellCK.setText(rs->Fields("ckContent").value().toText());
     f_.setCKEditMode(1);
     rs->Close();

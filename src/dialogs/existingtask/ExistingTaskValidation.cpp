@@ -10,6 +10,7 @@
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "values/types/TaskUtil.h"
 #include "values/types/TextChars.h"
 #include "values/settings/TimeValues.h"
@@ -30,11 +31,11 @@ bool ExistingTaskValidation::ValidateTask() {
     if (r.Desc.empty() || charCount(r.Desc) >= kDescriptionLimit) ok = false;
     // On the name, which never holds "NOPROJECT": an unset project passes.
     if (r.Project == "NOPROJECT") {
-        DialogMessages::inform("Missing Task's Project.");
+        DialogMessages::inform(tr("Missing Task's Project."));
         ok = false;
     }
     if (r.Status == kNothingChosen) {
-        DialogMessages::inform("Missing Task's Status.");
+        DialogMessages::inform(tr("Missing Task's Status."));
         ok = false;
     }
     for (int32_t n : {r.Imp, r.Diff, r.TimeNeeded, r.TimeSpent})
@@ -42,7 +43,7 @@ bool ExistingTaskValidation::ValidateTask() {
     auto& actions = f_.controls().smtActions;
     actions.tool("UPDATE").setEnabled(ok);
     // "D&one" stays once a check has passed, also after a later failure.
-    if (ok) actions.tool("DONE").setCaption("D&one");
+    if (ok) actions.tool("DONE").setCaption(tr("D&one"));
     fields.IsDirty = ok;
     actions.tool("DONE").setEnabled(true);
     return ok;
@@ -51,7 +52,7 @@ bool ExistingTaskValidation::ValidateTask() {
 bool ExistingTaskValidation::checkDeadTime() const {
     const std::string text = f_.controls().smtABOUT.tool("DEADTIME").text();
     if (text.empty() || IsTime(text)) return true;
-    DialogMessages::inform("Deadline Time needs to be a recognizable time.");
+    DialogMessages::inform(tr("Deadline Time needs to be a recognizable time."));
     return false;
 }
 

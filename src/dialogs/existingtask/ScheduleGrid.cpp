@@ -13,7 +13,9 @@
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/TextFill.h"
 #include "toolkit/Tool.h"
+#include "toolkit/Translate.h"
 #include "values/types/CCreateGuid.h"
 #include "values/types/Convert.h"
 #include "values/types/DateTimeFormatter.h"
@@ -46,12 +48,12 @@ struct Shown {
 };
 
 constexpr Shown kShown[] = {
-    {kWorked, "Done?", 1, Grid::CellStyle::CheckBox, 0.06, 0},
-    {kStart, "Start", 2, Grid::CellStyle::Edit, 0.275, 0.25},
-    {kEnd, "End", 3, Grid::CellStyle::Edit, 0.275, 0.25},
-    {kCalc, "Duration", 4, Grid::CellStyle::Edit, 0.1, 0.1},
+    {kWorked, QV_N("Done?"), 1, Grid::CellStyle::CheckBox, 0.06, 0},
+    {kStart, QV_N("Start"), 2, Grid::CellStyle::Edit, 0.275, 0.25},
+    {kEnd, QV_N("End"), 3, Grid::CellStyle::Edit, 0.275, 0.25},
+    {kCalc, QV_N("Duration"), 4, Grid::CellStyle::Edit, 0.1, 0.1},
     {kBtn, ">>", 5, Grid::CellStyle::Button, 0.05, 0.12},
-    {kFake, "Actual Time Spent", 7, Grid::CellStyle::Edit, 0.2, 0.2},
+    {kFake, QV_N("Actual Time Spent"), 7, Grid::CellStyle::Edit, 0.2, 0.2},
 };
 
 constexpr const char* kHidden[] = {"taGUIDID", "taTaskGUIDID", "taProject", "taProjectGUIDID",
@@ -108,7 +110,8 @@ void ScheduleGrid::initSked() {
     const int32_t count = source_->GetRowCount();
     if (grid_.columnCount() == 0) InitializeLayout();
     loadRows();
-    grid_.setCaption("Task Appointments: " + std::to_string(count));
+    grid_.setCaption(fill(trn("Task Appointments: %1", "Task Appointments: %1", static_cast<unsigned long>(count)),
+                         {std::to_string(count)}));
     setCount(count);
 }
 
@@ -138,16 +141,16 @@ void ScheduleGrid::InitializeLayout() {
             grid_.setColumnPosition(c, 100);
         }
     if (int32_t c = col(kMinutes); c >= 0) {
-        grid_.setColumnCaption(c, "Time Spent");
+        grid_.setColumnCaption(c, tr("Time Spent"));
         grid_.setColumnPosition(c, 6);
     }
     for (const Shown& s : kShown)
         if (int32_t c = col(s.key); c >= 0) {
-            grid_.setColumnCaption(c, s.header);
+            grid_.setColumnCaption(c, tr(s.header));
             grid_.setColumnPosition(c, s.position);
             grid_.setColumnStyle(c, s.style);
         }
-    if (int32_t c = col(kBtn); c >= 0) grid_.setColumnTip(c, "Copy the Duration to the Actual Time Spent");
+    if (int32_t c = col(kBtn); c >= 0) grid_.setColumnTip(c, tr("Copy the Duration to the Actual Time Spent"));
     applyLayoutWidths();
 }
 

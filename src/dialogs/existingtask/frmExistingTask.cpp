@@ -18,6 +18,7 @@
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "toolkit/Translate.h"
 #include "values/settings/WindowGeometry.h"
 
 namespace qv {
@@ -74,7 +75,7 @@ void frmExistingTask::keepDrafts() {
                 {&c_.smtTimes, {"TIMESPENT"}}};
     in.dates = {&c_.ctDeadline, &c_.ctTheDateDone};
     in.editors = {&c_.spellTask, &c_.SpellNotes};
-    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "This task", std::move(in));
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, QV_N("This task has changes from %1 that were not saved. Restore them?"), std::move(in));
     drafts_->offerStoredRowWhenShown();
 }
 
@@ -132,7 +133,7 @@ void frmExistingTask::wireSheets() {
     // A finished edit is the sheet's click: the check and the dirty flag.
     // The status and "New Project" have run their own check already.
     c_.smtABOUT.AfterEdit.connect([this, &v](Tool& t) {
-        if (t.key() == "STATUS" || (t.key() == "PROJECT" && t.text() == "New Project")) return;
+        if (t.key() == "STATUS" || (t.key() == "PROJECT" && t.text() == tr("New Project"))) return;
         trapped("smtABOUT_Click", [&] { v.smtABOUT_Click(); });
     });
     // "New Project" is a button among the entries: choosing it puts its
@@ -186,10 +187,10 @@ void frmExistingTask::SetupDetails() {
         }
         Tool& update = c_.smtActions.tool("UPDATE");
         if (s.TaskMode == 1) {
-            update.setCaption("&Update");
+            update.setCaption(tr("&Update"));
             update.setEnabled(false);
         } else if (s.TaskMode == 5) {
-            update.setCaption("Save to &Task Catalog");
+            update.setCaption(tr("Save to &Task Catalog"));
             update.setEnabled(true);
         }
         for (DateBox* d : {&c_.ctDeadline, &c_.ctTheDateDone}) d->setDayLetters(s.DateFormats[19]);

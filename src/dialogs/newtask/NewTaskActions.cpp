@@ -8,12 +8,13 @@
 #include "dialogs/shared/SheetPicks.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 
 namespace qv {
 
 namespace {
-const char* const kCancelQuestion = "Cancel creating the current task?";
+const char* const kCancelQuestion = QV_N("Cancel creating the current task?");
 constexpr int32_t kHelpTopic = 600;
 
 // Keys and clicks that come while a task is added wait until the dialog
@@ -48,14 +49,14 @@ void NewTaskActions::Form_KeyDown(int32_t keyCode) {
             afterAdd();
         }
     } else if (keyCode == vbKeyEscape) {
-        if (dirty() && !DialogMessages::askYesNo(kCancelQuestion)) return;
+        if (dirty() && !DialogMessages::askYesNo(tr(kCancelQuestion))) return;
         f_.TaskCanceled(g().CurrentTaskGUID);
     }
 }
 
 // Only the close box asks; the program's own unloads go straight on.
 void NewTaskActions::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
-    if (unloadMode == 0 && dirty() && !DialogMessages::askYesNo(kCancelQuestion)) cancel = true;
+    if (unloadMode == 0 && dirty() && !DialogMessages::askYesNo(tr(kCancelQuestion))) cancel = true;
 }
 
 // A task born completed reaches the host by its own event.
@@ -83,14 +84,14 @@ void NewTaskActions::addToCatalog() {
 void NewTaskActions::afterAdd() {
     auto& actions = f_.controls().smtActions;
     for (const char* key : {"QV", "QV2", "TC"}) actions.tool(key).setEnabled(false);
-    actions.tool("DONE").setCaption("D&one");
+    actions.tool("DONE").setCaption(tr("D&one"));
 }
 
 void NewTaskActions::closeOrCancel() {
     Tool& done = f_.controls().smtActions.tool("DONE");
     if (dirty()) {
-        if (!DialogMessages::askYesNo(kCancelQuestion)) return;
-        done.setCaption("Done");
+        if (!DialogMessages::askYesNo(tr(kCancelQuestion))) return;
+        done.setCaption(tr("Done"));
     }
     f_.TaskCanceled(g().CurrentTaskGUID);
 }
@@ -107,6 +108,6 @@ void NewTaskActions::clearAll() {
     f_.setCKEditMode(0);
 }
 
-bool NewTaskActions::dirty() const { return f_.controls().smtActions.tool("DONE").caption() == "C&ancel"; }
+bool NewTaskActions::dirty() const { return f_.controls().smtActions.tool("DONE").caption() == tr("C&ancel"); }
 
 }  // namespace qv

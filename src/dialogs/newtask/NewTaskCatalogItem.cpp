@@ -17,6 +17,7 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "values/types/CNull.h"
 #include "values/types/DateTimeFormatter.h"
 #include "values/settings/TimeValues.h"
@@ -57,7 +58,7 @@ bool NewTaskCatalogItem::GetTaskCatTASK() {
     fillTimeNeeded(row);
     fillDeadline(row);
     fillStatus(row);
-    f_.fields().utilHasSchedule = row.number("tskHasSchedule", "Has Schedule", true) == -1;
+    f_.fields().utilHasSchedule = row.number("tskHasSchedule", QV_N("Has Schedule"), true) == -1;
     const bool linked = fillChecklist(row);
     rs->Close();
     row.tell();
@@ -80,16 +81,16 @@ void NewTaskCatalogItem::fillPicks(StoredRow& rs) {
     auto& c = f_.controls();
     SheetPicks::checkByKey(c.smtProj, rs.text("tskProjectKey"));
     // A level beyond the sheet's positions goes to the error path, named.
-    if (const auto imp = rs.level("tskImp", "Importance", static_cast<size_t>(c.smtImp.count())))
+    if (const auto imp = rs.level("tskImp", QV_N("Importance"), static_cast<size_t>(c.smtImp.count())))
         c.smtImp.at(*imp + 1).setChecked(true);
-    if (const auto diff = rs.level("tskDifficulty", "Difficulty", static_cast<size_t>(c.smtDiff.count())))
+    if (const auto diff = rs.level("tskDifficulty", QV_N("Difficulty"), static_cast<size_t>(c.smtDiff.count())))
         c.smtDiff.at(*diff + 1).setChecked(true);
-    c.smtOther.tool("ISCURRENT").setChecked(rs.flag("tskCurrent", "Current"));
+    c.smtOther.tool("ISCURRENT").setChecked(rs.flag("tskCurrent", QV_N("Current")));
 }
 
 void NewTaskCatalogItem::fillTimeNeeded(StoredRow& rs) {
     auto& sheet = f_.controls().smtTimeNeeded;
-    const int32_t needed = rs.minutes("tskTimeNeeded", "Time Needed");
+    const int32_t needed = rs.minutes("tskTimeNeeded", QV_N("Time Needed"));
     const std::string tag = std::to_string(needed);
     bool matched = false;
     for (const auto& t : sheet.tools()) {
@@ -103,13 +104,13 @@ void NewTaskCatalogItem::fillTimeNeeded(StoredRow& rs) {
         if (Tool* custom = sheet.find("CUSTOMTIME")) custom->setText(SetTimeFormat(needed));
     auto& r = f_.fields().record();
     r.TimeNeeded = needed;
-    r.TimeScheduled = rs.minutes("tskTimeScheduled", "Time Scheduled");
-    r.TimeSpent = rs.minutes("tskTimeSpent", "Time Spent");
+    r.TimeScheduled = rs.minutes("tskTimeScheduled", QV_N("Time Scheduled"));
+    r.TimeSpent = rs.minutes("tskTimeSpent", QV_N("Time Spent"));
 }
 
 // A deadline that has passed shows red and bold.
 void NewTaskCatalogItem::fillDeadline(StoredRow& rs) {
-    const double deadline = rs.date("tskDeadline", "Deadline").value_or(0.0);
+    const double deadline = rs.date("tskDeadline", QV_N("Deadline")).value_or(0.0);
     if (deadline <= 1.0) return;
     auto& c = f_.controls();
     c.ctDeadline.setValue(deadline);
@@ -125,9 +126,9 @@ void NewTaskCatalogItem::fillDeadline(StoredRow& rs) {
 }
 
 void NewTaskCatalogItem::fillStatus(StoredRow& rs) {
-    int32_t status = rs.number("tskStatus", "Status").value_or(kNothingChosen);
+    int32_t status = rs.number("tskStatus", QV_N("Status")).value_or(kNothingChosen);
     auto word = statusWord(status);
-    if (!word && status != kNothingChosen) rs.unshown("tskStatus", "Status");
+    if (!word && status != kNothingChosen) rs.unshown("tskStatus", QV_N("Status"));
     if (!word) status = kNothingChosen;
     Tool& tool = f_.controls().smtOther.tool("STATUS");
     tool.setText(word.value_or(std::string()));
@@ -138,7 +139,7 @@ void NewTaskCatalogItem::fillStatus(StoredRow& rs) {
 
 bool NewTaskCatalogItem::fillChecklist(StoredRow& rs) {
     auto& fields = f_.fields();
-    const int32_t has = rs.number("tskHasChecklist", "Has Checklist", true).value_or(0);
+    const int32_t has = rs.number("tskHasChecklist", QV_N("Has Checklist"), true).value_or(0);
     if (has == 0) {
         fields.checklist.utilCheckListExists = false;
         fields.checklist.utilChecklistKey.clear();
@@ -159,13 +160,13 @@ bool NewTaskCatalogItem::linkChecklist(const std::string& key) {
     if (!checklist.GetDataKEY(rs)) return false;
     if (rs->RecordCount() != 1) {
         rs->Close();
-        DialogMessages::inform("Unable to find the checklist associated with this item. Perhaps it was deleted?");
+        DialogMessages::inform(tr("Unable to find the checklist associated with this item. Perhaps it was deleted?"));
         return false;
     }
     auto& c = f_.controls();
     f_.fields().checklist.utilChecklistName = CNull::NVLStr(rs->Fields("ckName").value());
     c.spellCK.setText(CNull::NVLStr(rs->Fields("ckContent").value()));
-    c.lblCk.setCaption("Checklist: " + frmTask3::TrimtoLen(f_.fields().checklist.utilChecklistName, 80));
+    c.lblCk.setCaption(tr("Checklist: ") + frmTask3::TrimtoLen(f_.fields().checklist.utilChecklistName, 80));
     c.lblCk.setAlignment(Label::AlignLeft);
     f_.setCKEditMode(2);
     f_.fields().record().HasChecklist = true;

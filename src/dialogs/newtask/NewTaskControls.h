@@ -8,6 +8,7 @@
 #include "toolkit/Splitter.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Timer.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -21,14 +22,14 @@ struct NewTaskControls {
     NewTaskControls();
 
     Sheet smtActions{"smtActions"};
-    Sheet smtOther{"smtOther", "Status"};
-    Sheet smtProj{"smtProj", "Project"};
+    Sheet smtOther{"smtOther", tr("Status")};
+    Sheet smtProj{"smtProj", tr("Project")};
     Sheet smtReady{"smtReady"};
     Sheet smtCKActions{"smtCKActions"};
-    Sheet smtKeywords{"smtKeywords", "Keywords"};
-    Sheet smtTimeNeeded{"smtTimeNeeded", "Time Needed"};
-    Sheet smtImp{"smtImp", "Importance"};
-    Sheet smtDiff{"smtDiff", "Difficulty"};
+    Sheet smtKeywords{"smtKeywords", tr("Keywords")};
+    Sheet smtTimeNeeded{"smtTimeNeeded", tr("Time Needed")};
+    Sheet smtImp{"smtImp", tr("Importance")};
+    Sheet smtDiff{"smtDiff", tr("Difficulty")};
     TextEditor spellTask{"spellTask"};
     TextEditor spellCK{"spellCK"};
     TextEditor SpellNotes{"SpellNotes"};
@@ -37,9 +38,9 @@ struct NewTaskControls {
     Timer startTimer{"startTimer"};
     Splitter splitTask{"splitTask"};
     Label lblTaskSaved{"lblTaskSaved"};
-    Label lblTask{"lblTask", "Task Description"};
-    Label lblCk{"lblCk", "Checklist"};
-    Label lblNotes{"lblNotes", "Notes"};
+    Label lblTask{"lblTask", tr("Task Description")};
+    Label lblCk{"lblCk", tr("Checklist")};
+    Label lblNotes{"lblNotes", tr("Notes")};
 
 private:
     void buildActions();

@@ -12,6 +12,7 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
+#include "toolkit/Translate.h"
 #include "values/types/Convert.h"
 #include "values/types/DateTimeFormatter.h"
 #include "values/settings/TimeValues.h"
@@ -20,8 +21,8 @@ namespace qv {
 
 namespace {
 const char* const kNoProject = "NOPROJECT";
-const char* const kBadTimeNeeded = "Value for Time Needed entered is not recognized as a valid time.";
-const char* const kBadDeadTime = "Deadline time is not a recognized time. Please reenter it.";
+const char* const kBadTimeNeeded = QV_N("Value for Time Needed entered is not recognized as a valid time.");
+const char* const kBadDeadTime = QV_N("Deadline time is not a recognized time. Please reenter it.");
 }  // namespace
 
 void NewTaskFields::PackATask() {
@@ -107,13 +108,13 @@ int32_t NewTaskFields::utilTimeNeeded() {
     if (value != kNothingChosen && value != 0) return value;
     Tool* custom = c_.smtTimeNeeded.find("CUSTOMTIME");
     if (!custom) {
-        DialogMessages::inform(kBadTimeNeeded);
+        DialogMessages::inform(tr(kBadTimeNeeded));
         return 0;
     }
     const std::string text = custom->text();
     if (IsTime(text)) return FormatCTasTime(text);
     if (!text.empty()) {
-        DialogMessages::inform(kBadTimeNeeded);
+        DialogMessages::inform(tr(kBadTimeNeeded));
         custom->setText("");
     }
     return value;
@@ -146,7 +147,7 @@ float NewTaskFields::utilGetDeadTime() {
     if (IsTime(text)) {
         if (auto t = tryToDate(text)) return toSingleFloat(*t);
     }
-    DialogMessages::inform(kBadDeadTime);
+    DialogMessages::inform(tr(kBadDeadTime));
     writeDeadTime("");
     return 0.0f;
 }

@@ -4,17 +4,18 @@
 #include "dialogs/newtask/frmTask3.h"
 #include "reports/PrintSettings.h"
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/Translate.h"
 #include "values/settings/TimeValues.h"
 
 namespace qv {
 
 namespace {
 
-const char* const kNotSet = "Not yet set.";
-const char* const kNoDeadline = "No Deadline";
+const char* const kNotSet = QV_N("Not yet set.");
+const char* const kNoDeadline = QV_N("No Deadline");
 
 std::string levelText(const std::array<std::string, 5>& names, int32_t value) {
-    if (value < 0 || static_cast<std::size_t>(value) >= names.size()) return kNotSet;
+    if (value < 0 || static_cast<std::size_t>(value) >= names.size()) return tr(kNotSet);
     return names[static_cast<std::size_t>(value)];
 }
 
@@ -27,18 +28,18 @@ ReportRows NewTaskReport::taskRows() {
     const bool dated = deadline >= 2.0;
     const int32_t needed = fields.utilTimeNeeded();
     const std::string projectKey = fields.utilProjectKey();
-    const std::pair<const char*, std::string> rows[] = {
-        {"Task Description:", c.spellTask.text()},
-        {"Status:", "Not yet saved."},
-        {"Current:", PrintSettings::boolText(c.smtOther.tool("ISCURRENT").checked())},
+    const std::pair<std::string, std::string> rows[] = {
+        {tr("Task Description:"), c.spellTask.text()},
+        {tr("Status:"), tr("Not yet saved.")},
+        {tr("Current:"), PrintSettings::boolText(c.smtOther.tool("ISCURRENT").checked())},
         // The day number itself, in digits, not a formatted date.
-        {"Deadline Date:", dated ? std::to_string(static_cast<int64_t>(deadline)) : kNoDeadline},
-        {"Deadline Time:", dated ? c.smtOther.tool("DEADTIME").text() : kNoDeadline},
-        {"Project:", projectKey == "NOPROJECT" ? std::string(kNotSet) : fields.utilProjectName()},
-        {"Importance:", levelText(g().ImportanceList, fields.utilImp())},
-        {"Difficulty:", levelText(g().DifficultyList, fields.utilDiff())},
-        {"Time Needed:", needed == kNothingChosen ? std::string(kNotSet) : SetTimeFormat(needed)},
-        {"Possible Points:", fields.utilPossPoints == kNothingChosen ? std::string(kNotSet)
+        {tr("Deadline Date:"), dated ? std::to_string(static_cast<int64_t>(deadline)) : tr(kNoDeadline)},
+        {tr("Deadline Time:"), dated ? c.smtOther.tool("DEADTIME").text() : tr(kNoDeadline)},
+        {tr("Project:"), projectKey == "NOPROJECT" ? tr(kNotSet) : fields.utilProjectName()},
+        {tr("Importance:"), levelText(g().ImportanceList, fields.utilImp())},
+        {tr("Difficulty:"), levelText(g().DifficultyList, fields.utilDiff())},
+        {tr("Time Needed:"), needed == kNothingChosen ? tr(kNotSet) : SetTimeFormat(needed)},
+        {tr("Possible Points:"), fields.utilPossPoints == kNothingChosen ? tr(kNotSet)
                                                                      : std::to_string(fields.utilPossPoints)},
     };
     ReportRows table(2, static_cast<int32_t>(std::size(rows)));

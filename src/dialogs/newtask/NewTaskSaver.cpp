@@ -16,6 +16,7 @@
 #include "store/clsNewTask.h"
 #include "toolkit/Clock.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "values/types/TaskUtil.h"
 #include "values/types/TextCase.h"
 
@@ -118,7 +119,7 @@ bool NewTaskSaver::writeKeywords() {
 
 void NewTaskSaver::showBanner() {
     Label& banner = f_.controls().lblTaskSaved;
-    banner.setCaption(g().TaskMode == 5 ? "Task added to Task Catalog." : "Task added to Quorvel.");
+    banner.setCaption(g().TaskMode == 5 ? tr("Task added to Task Catalog.") : tr("Task added to Quorvel."));
     banner.setVisible(true);
 }
 
@@ -135,8 +136,8 @@ void NewTaskSaver::resetForNext() {
     r.Status = 3;
     g().CurrentTaskGUID.clear();
     resetEditor(c.spellTask, "", 11);
-    resetEditor(c.spellCK, "(Pick a checklist...)", 10);
-    c.lblCk.setCaption("Checklist");
+    resetEditor(c.spellCK, tr("(Pick a checklist...)"), 10);
+    c.lblCk.setCaption(tr("Checklist"));
     c.lblCk.setAlignment(Label::AlignCenter);
     r.HasChecklist = false;
     r.ChecklistKey.clear();

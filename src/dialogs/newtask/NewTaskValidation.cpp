@@ -5,6 +5,7 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "dialogs/shared/PointsTally.h"
 #include "session/globals/SessionGlobals.h"
+#include "toolkit/Translate.h"
 #include "values/types/TextChars.h"
 #include "values/settings/TimeValues.h"
 
@@ -21,19 +22,19 @@ bool NewTaskValidation::ValidateTask() {
     const TaskRecord& r = f_.fields().record();
     bool ok = checkDeadTime();
     ok = checkDescription() && ok;
-    ok = checkFlag("PROJECTFLAG", r.Project != "NOPROJECT", "Project not set.", "Project set.") && ok;
+    ok = checkFlag("PROJECTFLAG", r.Project != "NOPROJECT", QV_N("Project not set."), QV_N("Project set.")) && ok;
     if (r.Status == kNothingChosen) {
-        DialogMessages::inform("Missing Task's Status.");
+        DialogMessages::inform(tr("Missing Task's Status."));
         ok = false;
     }
-    ok = checkFlag("IMPFLAG", r.Imp != kNothingChosen, "Importance not set.", "Importance set.") && ok;
-    ok = checkFlag("DIFFFLAG", r.Diff != kNothingChosen, "Difficulty not set.", "Difficulty set.") && ok;
-    ok = checkFlag("TIMENEEDEDFLAG", r.TimeNeeded != kNothingChosen, "Time Needed not set.", "Time Needed set.") && ok;
+    ok = checkFlag("IMPFLAG", r.Imp != kNothingChosen, QV_N("Importance not set."), QV_N("Importance set.")) && ok;
+    ok = checkFlag("DIFFFLAG", r.Diff != kNothingChosen, QV_N("Difficulty not set."), QV_N("Difficulty set.")) && ok;
+    ok = checkFlag("TIMENEEDEDFLAG", r.TimeNeeded != kNothingChosen, QV_N("Time Needed not set."), QV_N("Time Needed set.")) && ok;
     ok = checkNewChecklist() && ok;
     setAddTools(ok);
     auto& actions = f_.controls().smtActions;
     actions.tool("CLEAR").setEnabled(true);
-    actions.tool("DONE").setCaption("C&ancel");
+    actions.tool("DONE").setCaption(tr("C&ancel"));
     return ok;
 }
 
@@ -47,21 +48,21 @@ void NewTaskValidation::PossTallyPoints() {
 bool NewTaskValidation::checkDeadTime() {
     const std::string text = f_.controls().smtOther.tool("DEADTIME").text();
     if (text.empty() || IsTime(text)) return true;
-    DialogMessages::inform("Deadline Time needs to be a recognizable time.");
+    DialogMessages::inform(tr("Deadline Time needs to be a recognizable time."));
     return false;
 }
 
 // Length in characters, untrimmed: a description of blanks is a description.
 bool NewTaskValidation::checkDescription() {
     const std::size_t length = charCount(f_.fields().record().Desc);
-    if (length == 0) return checkFlag("DESCFLAG", false, "Missing Task Description.", "");
-    return checkFlag("DESCFLAG", length <= kMaxDescription, "Task Description too long.", "Task Description entered.");
+    if (length == 0) return checkFlag("DESCFLAG", false, QV_N("Missing Task Description."), "");
+    return checkFlag("DESCFLAG", length <= kMaxDescription, QV_N("Task Description too long."), QV_N("Task Description entered."));
 }
 
 bool NewTaskValidation::checkFlag(const char* key, bool good, const char* badTip, const char* goodTip) {
     Tool& flag = f_.controls().smtReady.tool(key);
     flag.setImage(good ? "GOOD" : "BAD");
-    flag.setTip(good ? goodTip : badTip);
+    flag.setTip(tr(good ? goodTip : badTip));
     return good;
 }
 
@@ -71,11 +72,11 @@ bool NewTaskValidation::checkNewChecklist() {
     if (r.ChecklistState != "NEWCHECKLIST") return true;
     bool ok = true;
     if (r.ChecklistName.empty()) {
-        DialogMessages::inform("Missing Checklist Name.");
+        DialogMessages::inform(tr("Missing Checklist Name."));
         ok = false;
     }
     if (r.ChecklistDescription.empty()) {
-        DialogMessages::inform("Missing Checklist Description.");
+        DialogMessages::inform(tr("Missing Checklist Description."));
         ok = false;
     }
     return ok;

@@ -18,6 +18,7 @@
 #include "dialogs/shared/TrimtoLen.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ErrorPath.h"
+#include "toolkit/Translate.h"
 #include "values/settings/DateFormats.h"
 #include "values/settings/Settings.h"
 #include "values/types/TextChars.h"
@@ -27,7 +28,7 @@ namespace qv {
 
 namespace {
 const char* const kModule = "frmTask3";
-const char* const kNoChecklistText = "(Pick a Checklist...)";
+const char* const kNoChecklistText = QV_N("(Pick a Checklist...)");
 }  // namespace
 
 // Form_Initialize: the deadline's date box lives in DEADDATE.
@@ -41,7 +42,7 @@ frmTask3::frmTask3()
       pickers_(std::make_unique<NewTaskPickers>(*this)),
       layout_(std::make_unique<NewTaskLayout>(*this)),
       ckLink_(std::make_unique<ChecklistLink>(*this, c_.smtCKActions, c_.spellCK, c_.lblCk, fields_->checklist,
-                                              ChecklistLink::Options{nullptr, kNoChecklistText})),
+                                              ChecklistLink::Options{nullptr, tr(kNoChecklistText)})),
       printer_(std::make_shared<ReportPrinter>(*this, TaskReport::kNewTask, std::make_unique<NewTaskReport>(*this),
                                                kModule)) {
     c_.smtOther.tool("DEADDATE").setHostedControl("ctDeadline");
@@ -60,7 +61,7 @@ void frmTask3::keepDrafts() {
     in.texts = {{&c_.smtOther, {"STATUS", "DEADTIME"}}, {&c_.smtTimeNeeded, {"CUSTOMTIME"}}};
     in.dates = {&c_.ctDeadline, &c_.ctTheDateDone};
     in.editors = {&c_.spellTask, &c_.SpellNotes};
-    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, "The new task", std::move(in));
+    drafts_ = std::make_unique<DraftKeeper>(*this, kModule, QV_N("The new task has changes from %1 that were not saved. Restore them?"), std::move(in));
 }
 
 void frmTask3::registerControls() {
@@ -132,7 +133,7 @@ void frmTask3::fillLevelSheets() {
     SheetPicks::fillOptions(c_.smtImp, "IMP-", s.ImportanceList);
     SheetPicks::fillOptions(c_.smtDiff, "DIF-", s.DifficultyList);
     c_.smtTimeNeeded.removeAll();
-    c_.smtTimeNeeded.add(ttTextBox, "CUSTOMTIME", "Other:").setTip("Examples: 0:18, 1:32, 5 12:00");
+    c_.smtTimeNeeded.add(ttTextBox, "CUSTOMTIME", tr("Other:")).setTip(tr("Examples: 0:18, 1:32, 5 12:00"));
     // The last label has no preset: the list stops one short.
     for (size_t i = 0; i + 1 < s.TimeNeededLabels.size(); ++i)
         c_.smtTimeNeeded.add(ttOption, "TIM-" + std::to_string(i), s.TimeNeededLabels[i])

@@ -13,6 +13,8 @@
 #include "toolkit/Ports.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/TextEditor.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/DateTimeFormatter.h"
 
@@ -232,8 +234,7 @@ bool DraftKeeper::differs(const Draft& draft) const {
 }
 
 bool DraftKeeper::ask(const Draft& draft) const {
-    const std::string text =
-        what_ + " has changes from " + when(draft.savedAt) + " that were not saved. Restore them?";
+    const std::string text = fill(tr(what_.c_str()), {when(draft.savedAt)});
     return ui().msgBox(text, vbYesNo + vbQuestion, kProgramTitle) == vbYes;
 }
 

@@ -43,7 +43,7 @@ public:
     // How long after the last change the draft is written.
     static constexpr int32_t kDelayMs = 1000;
 
-    // what: the subject of the question ("This task").
+    // what: the question, %1 when the draft was saved (translated when asked).
     DraftKeeper(Form& form, const char* module, std::string what, DraftInputs inputs);
     ~DraftKeeper();
     DraftKeeper(const DraftKeeper&) = delete;

@@ -4,6 +4,7 @@
 #include "store/StoreQueries.h"
 #include "store/clsKeywords.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/Translate.h"
 #include "values/types/TextCase.h"
 
 namespace qv {
@@ -33,7 +34,7 @@ bool KeywordSheet::build(Sheet& sheet) {
     }
     rs->Close();
     sheet.add(ttSeparator);
-    sheet.add(ttButton, kNewKeywordKey, "Add Keyword");
+    sheet.add(ttButton, kNewKeywordKey, tr("Add Keyword"));
     return true;
 }
 

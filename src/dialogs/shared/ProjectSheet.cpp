@@ -5,6 +5,7 @@
 #include "store/StoreQueries.h"
 #include "store/clsVLProjectsList.h"
 #include "toolkit/Sheet.h"
+#include "toolkit/Translate.h"
 #include "values/types/TaskUtil.h"
 
 namespace qv {
@@ -97,14 +98,14 @@ bool ProjectSheet::fillList(Tool& list, bool disableMop) {
     }
     rs->Close();
     list.addItem(ttDropSeparator, {}, {});
-    list.addItem(ttButton, kNewProjectKey, "New Project");
+    list.addItem(ttButton, kNewProjectKey, tr("New Project"));
     return true;
 }
 
 // A sheet left as it was gets a second button, which can carry no key.
 void ProjectSheet::addClosingTools(Sheet& sheet) {
     sheet.add(ttSeparator);
-    sheet.add(ttButton, sheet.hasKey(kNewProjectKey) ? std::string() : kNewProjectKey, "New Project");
+    sheet.add(ttButton, sheet.hasKey(kNewProjectKey) ? std::string() : kNewProjectKey, tr("New Project"));
 }
 
 }  // namespace qv

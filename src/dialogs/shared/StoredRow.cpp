@@ -5,6 +5,8 @@
 #include "dialogs/shared/DialogMessages.h"
 #include "toolkit/Failure.h"
 #include "toolkit/MessageText.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
 #include "values/types/CNull.h"
 
 namespace qv {
@@ -78,18 +80,18 @@ std::optional<int32_t> StoredRow::level(const char* column, const char* field, s
 }
 
 void StoredRow::beyondList(const char* column, const char* field) const {
-    throw Failure(err::SubscriptOutOfRange, "Subscript out of range: the " + table_ + " row \"" +
-                                                cutForMessage(key_) + "\" holds " +
-                                                shown(row_.Fields(column).value()) + " in its column " +
-                                                column + ", beyond the " + field + " list");
+    throw Failure(err::SubscriptOutOfRange,
+                  fill(tr("Subscript out of range: the %1 row \"%2\" holds %3 in its column %4, beyond the %5 list"),
+                       {table_, cutForMessage(key_), shown(row_.Fields(column).value()), column, tr(field)}));
 }
 
 void StoredRow::note(const char* field, const Value& stored) {
-    notes_.push_back(shown(stored) + " as its " + field);
+    // TRANSLATORS: %1 a stored value, %2 the field ("Status").
+    notes_.push_back(fill(tr("%1 as its %2"), {shown(stored), tr(field)}));
 }
 
 std::string StoredRow::shown(const Value& stored) {
-    if (stored.isNull()) return "nothing";
+    if (stored.isNull()) return tr("nothing");
     if (stored.kind() == Value::Kind::Text) return "\"" + cutForMessage(stored.toText(), kShownLimit) + "\"";
     // A day off the calendar shows as the number stored.
     if (stored.kind() == Value::Kind::Date && !onCalendar(stored.toDate().serial))
@@ -101,12 +103,14 @@ std::string StoredRow::notice() const {
     if (notes_.empty()) return {};
     std::string list;
     for (std::size_t i = 0; i < notes_.size(); ++i) {
-        if (i) list += i + 1 == notes_.size() ? " and " : ", ";
+        // TRANSLATORS: the last joint of a list ("A, B and C").
+        if (i) list += i + 1 == notes_.size() ? tr(" and ") : tr(", ");
         list += notes_[i];
     }
     const std::string who = name_.empty() ? key_ : name_;
-    return "The task \"" + cutForMessage(who) + "\" held " + list + ", which can't be shown; " +
-           (notes_.size() == 1 ? "that field opens" : "those fields open") + " unset.";
+    return fill(trn("The task \"%1\" held %2, which can't be shown; that field opens unset.",
+                    "The task \"%1\" held %2, which can't be shown; those fields open unset.", notes_.size()),
+                {cutForMessage(who), list});
 }
 
 void StoredRow::tell() const {

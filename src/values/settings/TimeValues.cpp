@@ -8,6 +8,7 @@
 #include "toolkit/Clock.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Ports.h"
+#include "toolkit/Translate.h"
 #include "toolkit/Ui.h"
 #include "values/types/Convert.h"
 #include "values/types/DateTimeFormatter.h"
@@ -180,7 +181,7 @@ bool checkTypedTime(const std::string& text) {
     if (s.empty()) return false;
     s = upperAscii(trimSpaces(s));
     if (isColonForm(s) || colonIsLast(s) || !countUnreadable(s)) return true;
-    ui().msgBox("Unable to read that time value. Resetting.", vbInformation, kProgramTitle);
+    ui().msgBox(tr("Unable to read that time value. Resetting."), vbInformation, kProgramTitle);
     return false;
 }
 
