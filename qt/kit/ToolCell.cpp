@@ -171,7 +171,9 @@ QWidget* ToolCell::makeOption() {
 
 QWidget* ToolCell::makeList() {
     auto* box = new QComboBox(this);
-    box->setEditable(true);
+    // Editable through its own line edit: setEditable would make the
+    // pop-up list now, which the box makes anyway when first opened.
+    box->setLineEdit(new QLineEdit(box));
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     // Sized by a few characters, not by measuring every entry of a long list.

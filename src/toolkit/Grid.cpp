@@ -106,6 +106,7 @@ std::vector<int32_t> Grid::shownColumns() const {
 int32_t Grid::addRow(std::vector<std::string> cells, const std::string& tag) {
     cells.resize(columns_.size());
     rows_.push_back({std::move(cells), tag});
+    if (!unmade_.empty()) unmade_.push_back(false);
     Changed();
     return rowCount() - 1;
 }
@@ -113,6 +114,19 @@ int32_t Grid::addRow(std::vector<std::string> cells, const std::string& tag) {
 void Grid::setRows(std::vector<Row> rows) {
     for (auto& r : rows) r.cells.resize(columns_.size());
     rows_ = std::move(rows);
+    unmade_.clear();
+    maker_ = nullptr;
+    rowsReplaced();
+}
+
+void Grid::setRows(int32_t count, RowMaker make) {
+    rows_.assign(static_cast<std::size_t>(std::max(count, 0)), Row{});
+    unmade_.assign(rows_.size(), true);
+    maker_ = std::move(make);
+    rowsReplaced();
+}
+
+void Grid::rowsReplaced() {
     selected_ = -1;
     selection_.clear();
     editing_ = false;
@@ -122,20 +136,35 @@ void Grid::setRows(std::vector<Row> rows) {
 
 void Grid::clearRows() { setRows({}); }
 
-const Grid::Row& Grid::row(int32_t index) const {
-    checkRow(index);
-    return rows_[static_cast<std::size_t>(index)];
+bool Grid::rowMade(int32_t row) const {
+    checkRow(row);
+    const auto r = static_cast<std::size_t>(row);
+    return r >= unmade_.size() || !unmade_[r];
 }
+
+Grid::Row& Grid::made(int32_t row) const {
+    checkRow(row);
+    const auto r = static_cast<std::size_t>(row);
+    Row& at = rows_[r];
+    if (r < unmade_.size() && unmade_[r]) {
+        std::vector<std::string> cells = maker_ ? maker_(row) : std::vector<std::string>{};
+        cells.resize(columns_.size());
+        at.cells = std::move(cells);
+        unmade_[r] = false;
+    }
+    return at;
+}
+
+const Grid::Row& Grid::row(int32_t index) const { return made(index); }
 
 const std::string& Grid::cell(int32_t row, int32_t column) const {
     checkColumn(column);
-    return this->row(row).cells[static_cast<std::size_t>(column)];
+    return made(row).cells[static_cast<std::size_t>(column)];
 }
 
 void Grid::setCell(int32_t row, int32_t column, const std::string& text) {
-    checkRow(row);
     checkColumn(column);
-    rows_[static_cast<std::size_t>(row)].cells[static_cast<std::size_t>(column)] = text;
+    made(row).cells[static_cast<std::size_t>(column)] = text;
     CellChanged(row, column);
 }
 

@@ -38,6 +38,8 @@ public:
     };
     // (row, column, raw text) -> the text shown.
     using DisplayFilter = std::function<std::string(int32_t, int32_t, const std::string&)>;
+    // A row's cells, made when the row is first read.
+    using RowMaker = std::function<std::vector<std::string>(int32_t row)>;
 
     explicit Grid(std::string name = {});
     Grid(const Grid&) = delete;
@@ -72,6 +74,12 @@ public:
     int32_t addRow(std::vector<std::string> cells, const std::string& tag = {});
     // All rows at once, one Changed.
     void setRows(std::vector<Row> rows);
+    // `count` rows, one Changed, each made by `make` (padded or cut like
+    // any row) the first time anything reads it: a long grid pays only for
+    // the rows that are shown or asked for.
+    void setRows(int32_t count, RowMaker make);
+    // Whether a row has its cells yet (false only for a row still to make).
+    [[nodiscard]] bool rowMade(int32_t row) const;
     void clearRows();
     [[nodiscard]] int32_t rowCount() const { return static_cast<int32_t>(rows_.size()); }
     [[nodiscard]] const Row& row(int32_t index) const;
@@ -118,12 +126,20 @@ private:
     void checkRow(int32_t row) const;
     void checkColumn(int32_t column) const;
     Column& at(int32_t column);
+    // The row with its cells, made now if it was still to make.
+    Row& made(int32_t row) const;
+    // New rows: no selection, no edit, one Changed.
+    void rowsReplaced();
 
     std::string name_;
     std::string caption_;
     int32_t extentWidth_ = 0;
     std::vector<Column> columns_;
-    std::vector<Row> rows_;
+    // Rows of setRows(count, make) get their cells on first read, which a
+    // const reader may trigger.
+    mutable std::vector<Row> rows_;
+    mutable std::vector<bool> unmade_;
+    RowMaker maker_;
     int32_t selected_ = -1;
     std::vector<int32_t> selection_;
     bool editing_ = false;

@@ -165,4 +165,37 @@ TEST(Grid, EditModeFilterAndButtons) {
     EXPECT_THROW(g.selectRows({0}), Failure);
 }
 
+// Rows made on first read: each once, by whichever reader comes first,
+// padded or cut to the columns; a set cell survives; new rows replace them.
+TEST(Grid, RowsMadeWhenFirstRead) {
+    Grid g("gridSked");
+    g.addColumn("A", "Alpha");
+    g.addColumn("B", "Beta");
+    std::vector<int32_t> made;
+    g.setRows(4, [&](int32_t r) {
+        made.push_back(r);
+        return r == 3 ? std::vector<std::string>{"3", "x", "cut"} : std::vector<std::string>{std::to_string(r)};
+    });
+    EXPECT_EQ(g.rowCount(), 4);
+    EXPECT_TRUE(made.empty());
+    EXPECT_FALSE(g.rowMade(2));
+    EXPECT_EQ(g.cell(2, 0), "2");
+    EXPECT_EQ(g.cell(2, 1), "") << "a short row is padded";
+    EXPECT_EQ(g.row(3).cells, (std::vector<std::string>{"3", "x"})) << "a long row is cut";
+    g.setCell(1, 1, "set");
+    EXPECT_EQ(g.displayText(1, 0), "1");
+    EXPECT_EQ(g.cell(1, 1), "set");
+    EXPECT_EQ(made, (std::vector<int32_t>{2, 3, 1}));
+    EXPECT_TRUE(g.rowMade(2));
+    EXPECT_FALSE(g.rowMade(0));
+    EXPECT_THROW((void)g.rowMade(4), Failure);
+    g.addRow({"new"});
+    EXPECT_TRUE(g.rowMade(4));
+    EXPECT_EQ(g.cell(0, 0), "0");
+    g.setRows({{{"plain"}, {}}});
+    EXPECT_TRUE(g.rowMade(0));
+    EXPECT_EQ(g.cell(0, 0), "plain");
+    EXPECT_EQ(made.size(), 4u);
+}
+
 }  // namespace qv

@@ -1,5 +1,6 @@
 #include "dialogs/existingtask/ScheduleGrid.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
@@ -105,11 +106,12 @@ void ScheduleGrid::initSked() {
     source_->Class_GetDataMember("Recordset", rs_);
     if (!rs_) {
         grid_.clearRows();
+        loaded_ = {};
         return;
     }
     const int32_t count = source_->GetRowCount();
     if (grid_.columnCount() == 0) InitializeLayout();
-    loadRows();
+    loadRows(count);
     grid_.setCaption(fill(trn("Task Appointments: %1", "Task Appointments: %1", static_cast<unsigned long>(count)),
                          {std::to_string(count)}));
     setCount(count);
@@ -124,6 +126,7 @@ void ScheduleGrid::killSked() {
     rs_ = nullptr;
     source_.reset();
     grid_.clearRows();
+    loaded_ = {};
 }
 
 // The query's columns as they come, then the three the dialog adds.
@@ -169,37 +172,68 @@ void ScheduleGrid::applyResizeWidths() {
             grid_.setColumnWidth(c, roundLong(s.resizeFactor * w));
 }
 
-void ScheduleGrid::loadRows() {
-    std::vector<Grid::Row> rows;
-    const auto columns = static_cast<std::size_t>(grid_.columnCount());
+// The rows are read once; their texts are made as each row is first
+// shown, but for the planned durations, which the count-up sums at load.
+void ScheduleGrid::loadRows(int32_t expected) {
+    Loaded loaded;
+    const auto rows = static_cast<std::size_t>(std::max(expected, 0));
+    loaded.values.reserve(rows * static_cast<std::size_t>(boundColumns_));
+    loaded.durations.reserve(rows);
+    loaded.minutes.reserve(rows);
     const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
     auto& rs = *rs_;
     if (!rs.EOF_()) rs.MoveFirst();
     while (!rs.EOF_()) {
-        Grid::Row& row = rows.emplace_back();
-        row.cells.resize(columns);
-        std::optional<double> from, to, worked = 0.0;
+        std::optional<double> from, to;
+        double worked = 0.0;
         for (int32_t i = 0; i < boundColumns_; ++i) {
-            const Value v = rs.FieldAt(i).value();
-            row.cells[static_cast<std::size_t>(i)] = cellText(v);
+            Value& v = loaded.values.emplace_back(rs.FieldAt(i).value());
             if (v.isNull()) continue;
             if (i == start) from = v.toDate().serial;
             else if (i == end) to = v.toDate().serial;
             else if (i == minutes) worked = v.toDouble();
         }
-        fillUnbound(row.cells, from, to, worked);
+        loaded.durations.push_back(durationText(from, to));
+        loaded.minutes.push_back(worked);
         rs.MoveNext();
     }
-    grid_.setRows(std::move(rows));
+    loaded_ = std::move(loaded);
+    // Made while a view paints: a fault goes down the error path as the
+    // load's own would, and leaves the row empty.
+    grid_.setRows(static_cast<int32_t>(loaded_.minutes.size()), [this](int32_t row) {
+        std::vector<std::string> cells;
+        trapped("initSked", [&] { cells = makeRow(row); });
+        return cells;
+    });
 }
 
-// InitializeRow: the planned minutes, rounded half to even, as time text;
-// the button's text; the time spent as time text.
+std::vector<std::string> ScheduleGrid::makeRow(int32_t row) const {
+    std::vector<std::string> cells(static_cast<std::size_t>(grid_.columnCount()));
+    const auto r = static_cast<std::size_t>(row);
+    const auto bound = static_cast<std::size_t>(boundColumns_);
+    for (std::size_t i = 0; i < bound; ++i) cells[i] = cellText(loaded_.values[r * bound + i]);
+    cells[static_cast<std::size_t>(unbound_.calc)] = loaded_.durations[r];
+    cells[static_cast<std::size_t>(unbound_.button)] = kButtonText;
+    cells[static_cast<std::size_t>(unbound_.fake)] = SetTimeFormat(loaded_.minutes[r]);
+    return cells;
+}
+
+const std::string& ScheduleGrid::plannedText(int32_t row) const {
+    if (grid_.rowMade(row)) return grid_.cell(row, unbound_.calc);
+    return loaded_.durations[static_cast<std::size_t>(row)];
+}
+
+// The planned minutes, rounded half to even, as time text.
+std::string ScheduleGrid::durationText(std::optional<double> start, std::optional<double> end) {
+    if (!start || !end) return {};
+    return SetTimeFormat(roundLong((*end - *start) * 1440.0));
+}
+
+// InitializeRow: the planned duration; the button's text; the time spent
+// as time text.
 void ScheduleGrid::fillUnbound(std::vector<std::string>& cells, std::optional<double> start,
                                std::optional<double> end, std::optional<double> minutes) const {
-    std::string duration;
-    if (start && end) duration = SetTimeFormat(roundLong((*end - *start) * 1440.0));
-    cells[static_cast<std::size_t>(unbound_.calc)] = std::move(duration);
+    cells[static_cast<std::size_t>(unbound_.calc)] = durationText(start, end);
     cells[static_cast<std::size_t>(unbound_.button)] = kButtonText;
     cells[static_cast<std::size_t>(unbound_.fake)] = SetTimeFormat(minutes.value_or(0.0));
 }
@@ -217,11 +251,10 @@ void ScheduleGrid::InitializeRow(int32_t row) {
 
 void ScheduleGrid::CountUpSked() {
     if (grid_.rowCount() == 0) return;
-    const int32_t calc = col(kCalc);
-    int64_t sum = FormatCTasTime(grid_.cell(0, calc));
+    int64_t sum = FormatCTasTime(plannedText(0));
     int32_t count = 1;
     for (int32_t r = 1; r < grid_.rowCount(); ++r) {
-        sum += FormatCTasTime(grid_.cell(r, calc));
+        sum += FormatCTasTime(plannedText(r));
         if (sum > INT32_MAX || sum < INT32_MIN || count == INT32_MAX) throw Failure(err::Overflow, "Overflow");
         ++count;
     }

@@ -64,9 +64,13 @@ public:
 private:
     void InitializeLayout();
     void InitializeRow(int32_t row);
+    [[nodiscard]] static std::string durationText(std::optional<double> start, std::optional<double> end);
     void fillUnbound(std::vector<std::string>& cells, std::optional<double> start, std::optional<double> end,
                      std::optional<double> minutes) const;
-    void loadRows();
+    void loadRows(int32_t expected);
+    [[nodiscard]] std::vector<std::string> makeRow(int32_t row) const;
+    // A row's "Duration", read without making the row's other cells.
+    [[nodiscard]] const std::string& plannedText(int32_t row) const;
     void BeforeCellUpdate(int32_t row, int32_t column, const std::string& text, bool& cancel);
     void AfterCellUpdate(int32_t row, int32_t column);
     void ClickCellButton(int32_t row, int32_t column);
@@ -93,6 +97,14 @@ private:
         int32_t calc = -1, button = -1, fake = -1;
     } unbound_;
     bool laidOut_ = false;
+    // What the rows were loaded from, kept until each row is first shown:
+    // the query's values row after row, the planned durations (which the
+    // count-up reads at load) and the minutes spent.
+    struct Loaded {
+        std::vector<Value> values;
+        std::vector<std::string> durations;
+        std::vector<double> minutes;
+    } loaded_;
 };
 
 }  // namespace qv

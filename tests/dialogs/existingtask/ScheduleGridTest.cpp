@@ -101,6 +101,23 @@ TEST_F(ScheduleGridTest, BindsNewestFirstWithItsColumnsAndCounts) {
     EXPECT_EQ(sked->SkedRowCount(), 2);
 }
 
+// Rows get their texts when first read; the count-up makes none of them,
+// and a row already made counts with its own Duration text.
+TEST_F(ScheduleGridTest, TheCountUpReadsRowsNotYetShown) {
+    addAppt("A", "09:00", "10:30", 45);
+    addAppt("B", "13:00", "13:20");
+    sked->initSked();
+    sked->CountUpSked();
+    EXPECT_EQ(about.tool("SCHEDULED").text(), SetTimeFormat(110));
+    EXPECT_FALSE(grid().rowMade(0));
+    EXPECT_FALSE(grid().rowMade(1));
+    grid().setCell(0, c("CalcColumn"), "1:00");
+    sked->CountUpSked();
+    EXPECT_EQ(about.tool("SCHEDULED").text(), SetTimeFormat(150));
+    EXPECT_FALSE(grid().rowMade(1));
+    expectCells(1, {{"CalcColumn", "1:30"}, {"FakeColumn", "0:45"}, {"taGUIDID", "A"}});
+}
+
 TEST_F(ScheduleGridTest, AnEmptyScheduleLeavesTheSumAlone) {
     sked->initSked();
     EXPECT_EQ(grid().caption(), "Task Appointments: 0");
