@@ -9,7 +9,6 @@
 #include "kit/SplitterView.h"
 #include "kit/TabStripView.h"
 #include "toolkit/Form.h"
-#include "toolkit/Splitter.h"
 #include "toolkit/TabStrip.h"
 
 namespace qv {
@@ -17,23 +16,15 @@ namespace qv {
 namespace {
 // The description over the tabs; the times over the completed box; the
 // action bar under both.
-const std::vector<std::vector<int>> kColumns{{0, 2}, {1, 3}};
-const std::vector<int> kFooter{4};
+const SplitterView::Arrangement kPanes{{{0, 2}, {1, 3}}, {4}, {3, 2}};
 }  // namespace
 
 AppointmentView::AppointmentView(Form& form, QWidget* parent) : FormView(form, parent) {
     setObjectName("frmTAS2.view");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
-    Splitter* model = form.splitter("splitTAS");
-    if (!model) return;
-    splitter_ = new SplitterView(*model, kColumns, kFooter, this);
-    for (int i = 0; i < model->paneCount(); ++i) splitter_->setPaneWidget(i, buildPane(i));
-    if (auto* columns = qobject_cast<QSplitter*>(splitter_->widget(0))) {
-        columns->setStretchFactor(0, 3);
-        columns->setStretchFactor(1, 2);
-    }
-    column->addWidget(splitter_, 1);
+    splitter_ = SplitterView::addTo(
+        *column, form, "splitTAS", kPanes, [this](int i) { return buildPane(i); }, this);
 }
 
 QWidget* AppointmentView::buildPane(int index) {

@@ -8,27 +8,19 @@
 #include "kit/SplitterView.h"
 #include "kit/TabStripView.h"
 #include "toolkit/Form.h"
-#include "toolkit/Splitter.h"
 
 namespace qv {
 
 namespace {
-const std::vector<std::vector<int>> kColumns{{0, 1}, {2, 3}, {4, 5, 6}};
-const std::vector<int> kFooter{7};
-const std::vector<int> kColumnStretch{3, 6, 3};
+const SplitterView::Arrangement kPanes{{{0, 1}, {2, 3}, {4, 5, 6}}, {7}, {3, 6, 3}};
 }  // namespace
 
 ExistingTaskView::ExistingTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
     setObjectName("frmExistingTask.view");
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(4, 4, 4, 4);
-    Splitter* model = form.splitter("splitTask");
-    if (!model) return;
-    splitter_ = new SplitterView(*model, kColumns, kFooter, this);
-    for (int i = 0; i < model->paneCount(); ++i) splitter_->setPaneWidget(i, buildPane(i));
-    if (auto* columns = qobject_cast<QSplitter*>(splitter_->widget(0)))
-        for (int c = 0; c < columns->count(); ++c) columns->setStretchFactor(c, kColumnStretch[static_cast<size_t>(c)]);
-    column->addWidget(splitter_, 1);
+    splitter_ = SplitterView::addTo(
+        *column, form, "splitTask", kPanes, [this](int i) { return buildPane(i); }, this);
 }
 
 QWidget* ExistingTaskView::buildPane(int index) {

@@ -6,16 +6,13 @@
 #include "kit/PaneBuilder.h"
 #include "kit/SplitterView.h"
 #include "toolkit/Form.h"
-#include "toolkit/Splitter.h"
 
 namespace qv {
 
 namespace {
 // Status and Project; Task, Checklist and Notes; Keywords; Time Needed,
 // Importance, Difficulty and the picture; the tool bar under them all.
-const std::vector<std::vector<int>> kColumns{{0, 1}, {2, 3, 4}, {5}, {6, 7, 8, 9}};
-const std::vector<int> kFooter{10};
-const std::vector<int> kColumnStretch{3, 5, 3, 3};
+const SplitterView::Arrangement kPanes{{{0, 1}, {2, 3, 4}, {5}, {6, 7, 8, 9}}, {10}, {3, 5, 3, 3}};
 }  // namespace
 
 NewTaskView::NewTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
@@ -33,13 +30,8 @@ NewTaskView::NewTaskView(Form& form, QWidget* parent) : FormView(form, parent) {
     bold.setBold(true);
     banner->setFont(bold);
     column->addWidget(banner);
-    Splitter* model = form.splitter("splitTask");
-    if (!model) return;
-    splitter_ = new SplitterView(*model, kColumns, kFooter, this);
-    for (int i = 0; i < model->paneCount(); ++i) splitter_->setPaneWidget(i, buildPane(i));
-    if (auto* body = splitter_->widget(0); auto* columns = qobject_cast<QSplitter*>(body))
-        for (int c = 0; c < columns->count(); ++c) columns->setStretchFactor(c, kColumnStretch[static_cast<size_t>(c)]);
-    column->addWidget(splitter_, 1);
+    splitter_ = SplitterView::addTo(
+        *column, form, "splitTask", kPanes, [this](int i) { return buildPane(i); }, this);
 }
 
 QWidget* NewTaskView::buildPane(int index) {

@@ -72,12 +72,12 @@ keys ctrl+n; wait_title "New Task"; sleep 1
 typed "Walk the dog"; shot new-task-typed
 keys F1; wait_title "Creating New Tasks"; shot new-task-help
 keys Escape; wait_title "New Task"
-keys shift+Tab space; wait_title "quorvel"; shot add-project    # New Project, just before the description
+keys shift+Tab space; wait_title "Add Project"; shot add-project    # New Project, just before the description
 typed "Garden"; keys Tab; typed "Beds and paths"; keys Return
 wait_sql "SELECT prjProject FROM PROJECTS" "Garden"; keys Return; sleep 0.3
 keys Escape; wait_title "New Task"; shot project-chosen
 for _ in $(seq 13); do keys Tab; done                             # from Status round to Add Keyword
-keys space; wait_title "quorvel"; shot add-keyword
+keys space; wait_title "Add Keyword"; shot add-keyword
 keys shift+Tab; typed "Outside"; keys Tab; typed "Walks"; keys Return
 wait_sql "SELECT keySubject || '/' || keyKeyword FROM KEYWORDS" "Outside/Walks"; keys Return; sleep 0.3
 keys Escape; wait_title "New Task"
@@ -85,7 +85,7 @@ for _ in $(seq 13); do keys Tab; done                             # from Status 
 keys space; shot keyword-ticked
 keys alt+d
 wait_sql "SELECT tskDesc || '/' || tskProject FROM TASKS" "Walk the dog/Garden"
-wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; sleep 1; shot task-added   # the dialog makes itself ready for the next task
+wait_sql "SELECT ktKeyword FROM TaskKeywords" "Walks"; shot task-added   # keys wait until the dialog stands ready for the next task
 keys Escape; wait_title "Task Manager"
 
 # The task in the list: open it, change the description, Update Task.

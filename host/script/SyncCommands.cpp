@@ -3,15 +3,18 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 
 #include "script/ScriptLine.h"
+#include "values/types/Digits.h"
 
 namespace qv {
 
 namespace {
-constexpr int kDefaultWaitSeconds = 60;
+constexpr int64_t kDefaultWaitSeconds = 60;
+constexpr int64_t kMostWaitSeconds = 3600;
 constexpr auto kPoll = std::chrono::milliseconds(10);
 }  // namespace
 
@@ -29,7 +32,12 @@ void SyncCommands::run(ScriptContext& /*c*/, const ScriptLine& line) {
         std::filesystem::rename(part, path);
         return;
     }
-    const int seconds = line.word(2).empty() ? kDefaultWaitSeconds : std::stoi(line.word(2));
+    const auto given =
+        line.word(2).empty() ? std::optional<int64_t>(kDefaultWaitSeconds) : wholeNumber(line.word(2));
+    if (!given || *given < 0 || *given > kMostWaitSeconds)
+        throw std::invalid_argument(line.word(0) + " waits a whole number of seconds up to " +
+                                    std::to_string(kMostWaitSeconds) + ", not \"" + line.word(2) + "\"");
+    const int64_t seconds = *given;
     const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
     while (!std::filesystem::exists(path)) {
         if (std::chrono::steady_clock::now() > until)

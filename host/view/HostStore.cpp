@@ -1,8 +1,12 @@
 #include "view/HostStore.h"
 
-#include <cstdlib>
+#include <limits>
+#include <stdexcept>
 
 #include "installer/StoreFile.h"
+#include "toolkit/TextFill.h"
+#include "toolkit/Translate.h"
+#include "values/types/Digits.h"
 #include "view/HostRows.h"
 
 namespace qv {
@@ -13,8 +17,14 @@ std::string text(const HostRows::Row& row, std::size_t col) {
     return row[col].value_or(std::string());
 }
 
-int32_t number(const HostRows::Row& row, std::size_t col, int32_t null = 0) {
-    return row[col] ? static_cast<int32_t>(std::atol(row[col]->c_str())) : null;
+// A whole-number column's cell; a cell that holds anything else is told, not read as 0.
+int32_t number(const HostRows::Row& row, std::size_t col, const char* column, int32_t null = 0) {
+    if (!row[col]) return null;
+    const auto n = wholeNumber(*row[col]);
+    if (!n || *n < std::numeric_limits<int32_t>::min() || *n > std::numeric_limits<int32_t>::max())
+        throw std::runtime_error(qv::fill(tr("The store holds \"%1\" in %2, a column of whole numbers."),
+                                          {*row[col], column}));
+    return static_cast<int32_t>(*n);
 }
 
 std::vector<NamedRow> named(const std::string& location, const std::string& sql) {
@@ -44,9 +54,10 @@ std::vector<TaskRow> HostStore::tasks(bool currentOnly, const std::string& proje
     sql += currentOnly ? " ORDER BY tskCustSortCUR" : " ORDER BY tskCustSortQV";
     std::vector<TaskRow> rows;
     for (const auto& r : HostRows(location()).select(sql, params))
-        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4, -1), text(r, 5),
-                        number(r, 6), number(r, 7), number(r, 8), number(r, 9) != 0, number(r, 10),
-                        number(r, 11)});
+        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4, "tskStatus", -1),
+                        text(r, 5), number(r, 6, "tskTimeNeeded"), number(r, 7, "tskTimeSpent"),
+                        number(r, 8, "tskPossPoints"), number(r, 9, "tskCurrent") != 0,
+                        number(r, 10, "tskImp"), number(r, 11, "tskDifficulty")});
     return rows;
 }
 
@@ -74,7 +85,7 @@ std::vector<AppointmentRow> HostStore::appointments(const std::string& taskKey) 
              .select("SELECT taGUIDID, taStartTime, taEndTime, taTaskDesc, taWasWorked FROM TASKAPPTS "
                      "WHERE taTaskGUIDID=? ORDER BY taStartTime",
                      {taskKey}))
-        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4) != 0});
+        rows.push_back({text(r, 0), text(r, 1), text(r, 2), text(r, 3), number(r, 4, "taWasWorked") != 0});
     return rows;
 }
 

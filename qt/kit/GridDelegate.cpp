@@ -50,7 +50,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, 
     (w ? w->style() : QApplication::style())->drawControl(QStyle::CE_PushButton, &button, painter, w);
 }
 
-QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                     const QModelIndex& index) const {
     const int c = model_.gridColumn(index.column());
     if (c < 0 || isButton(index)) return nullptr;

@@ -96,7 +96,7 @@ void QtUi::hide(Form& form) {
 
 void QtUi::doEvents() {
     QApplication::sendPostedEvents();
-    QApplication::processEvents(QEventLoop::AllEvents, 50);
+    QApplication::processEvents(inputHeld_ ? QEventLoop::ExcludeUserInputEvents : QEventLoop::AllEvents, 50);
 }
 
 void QtUi::setWaitCursor(bool on) {

@@ -31,6 +31,7 @@ public:
     void show(Form& form) override;
     void hide(Form& form) override;
     void doEvents() override;
+    void holdInput(bool held) override { inputHeld_ = held; }
     void setWaitCursor(bool on) override;
 
     // The window that shows a form now, or nullptr.
@@ -49,6 +50,7 @@ private:
     QTimer timerPump_;
     int depth_ = 0;
     bool waitCursor_ = false;
+    bool inputHeld_ = false;
 };
 
 }  // namespace qv

@@ -11,9 +11,24 @@
 #include <QVBoxLayout>
 
 #include "kit/Twips.h"
+#include "toolkit/Form.h"
 #include "toolkit/Splitter.h"
 
 namespace qv {
+
+SplitterView* SplitterView::addTo(QBoxLayout& layout, Form& form, const char* name,
+                                  const Arrangement& arrangement, const std::function<QWidget*(int)>& pane,
+                                  QWidget* parent) {
+    Splitter* model = form.splitter(name);
+    if (!model) return nullptr;
+    auto* view = new SplitterView(*model, arrangement.columns, arrangement.footer, parent);
+    for (int i = 0; i < model->paneCount(); ++i) view->setPaneWidget(i, pane(i));
+    if (auto* columns = qobject_cast<QSplitter*>(view->widget(0)))
+        for (int c = 0; c < columns->count() && c < static_cast<int>(arrangement.stretch.size()); ++c)
+            columns->setStretchFactor(c, arrangement.stretch[static_cast<std::size_t>(c)]);
+    layout.addWidget(view, 1);
+    return view;
+}
 
 namespace {
 constexpr quint32 kBlobMagic = 0x51564c31;  // marks our own arrangement

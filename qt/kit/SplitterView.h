@@ -4,19 +4,36 @@
 // model's layout blob (and so its layout file) and comes back from it;
 // pane limits come from the model's twips.
 
+#include <functional>
 #include <vector>
 
 #include <QSplitter>
 
 #include "kit/EventLink.h"
 
+class QBoxLayout;
+
 namespace qv {
 
+class Form;
 class Splitter;
 
 class SplitterView : public QSplitter {
     Q_OBJECT
 public:
+    // A dialog's panes: pane indexes of each column, the footer's, and how
+    // the columns share the width.
+    struct Arrangement {
+        std::vector<std::vector<int>> columns;
+        std::vector<int> footer;
+        std::vector<int> stretch;
+    };
+    // The form's splitter of that name, each pane built by pane(index), added
+    // to the layout; nullptr when the form has no such splitter.
+    static SplitterView* addTo(QBoxLayout& layout, Form& form, const char* name,
+                               const Arrangement& arrangement, const std::function<QWidget*(int)>& pane,
+                               QWidget* parent);
+
     // columns: pane indexes of each column, top to bottom; footer: panes
     // under all columns.
     SplitterView(Splitter& model, std::vector<std::vector<int>> columns, std::vector<int> footer,

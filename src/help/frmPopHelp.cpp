@@ -106,14 +106,14 @@ void frmPopHelp::smtAction_Click(Tool& t) {
 }
 
 // Escape leaves as the Close tool does.
-void frmPopHelp::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void frmPopHelp::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     trapAs(kProject, kModule, "Form_KeyDown", [&] {
         if (keyCode == vbKeyEscape) closeNow();
     });
 }
 
 // The close box tells the owner as well, without reading the tour's tool.
-void frmPopHelp::Form_QueryUnload(bool& cancel, int32_t unloadMode) {
+void frmPopHelp::Form_QueryUnload(bool& /*cancel*/, int32_t /*unloadMode*/) {
     trapAs(kProject, kModule, "Form_QueryUnload", [&] { closePop(); });
 }
 

@@ -239,7 +239,7 @@ void frmPageSetup::smtActions_Click(Tool& tool) {
 }
 
 // Escape is the keyboard's Cancel.
-void frmPageSetup::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void frmPageSetup::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     if (keyCode == vbKeyEscape) c_.smtActions.click(c_.smtActions.tool("CANCEL"));
 }
 

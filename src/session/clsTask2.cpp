@@ -193,7 +193,7 @@ void clsTask2::raise(int32_t number, const char* name, std::vector<std::string> 
         case 12: KeywordAdded(); break;
         case 13: TaskDeleted(args.at(0)); break;
         case 14: GotErrExitNow(); break;
-        case 15: updateMainPrintInfo(args.at(0), std::stoi(args.at(1))); break;
+        case 15: updateMainPrintInfo(args.at(0), g().DialogNum); break;
         default: doUnnatDeath(); break;
     }
 }

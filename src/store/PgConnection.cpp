@@ -9,6 +9,7 @@
 #include "toolkit/TextFill.h"
 #include "toolkit/Translate.h"
 #include "values/types/DateSerial.h"
+#include "values/types/Digits.h"
 
 namespace qv {
 
@@ -217,6 +218,14 @@ bool PgConnection::connectionLost(const std::string& code, const std::string& en
     return false;
 }
 
+int64_t PgConnection::numberFrom(const char* text, std::string_view context) const {
+    if (const auto n = wholeNumber(text ? text : "")) return *n;
+    throw Failure(err::StoreFailure,
+                  qv::fill(tr("The Quorvel data server sent \"%1\" where a number belongs (%2)."),
+                           {cutForMessage(text ? text : ""), cutForMessage(context)}),
+                  "Store");
+}
+
 void PgConnection::fail(const PGresult* result, std::string_view context) {
     const char* state = result ? PQresultErrorField(result, PG_DIAG_SQLSTATE) : nullptr;
     const std::string code = state ? state : "";
@@ -353,7 +362,7 @@ const PgConnection::TableColumns& PgConnection::tableColumns(Oid table, std::str
     TableColumns t;
     for (int i = 0; i < PQntuples(r.get()); ++i) {
         t.table = PQgetvalue(r.get(), i, 0);
-        t.byNumber[std::atoi(PQgetvalue(r.get(), i, 1))] = {
+        t.byNumber[static_cast<int>(numberFrom(PQgetvalue(r.get(), i, 1), context))] = {
             PQgetvalue(r.get(), i, 2), PQgetvalue(r.get(), i, 3), PQgetvalue(r.get(), i, 4)};
     }
     return tables_.emplace(table, std::move(t)).first->second;
@@ -465,19 +474,15 @@ void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::funct
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
         return;
     }
-    fill(plan, r.get(), PQnfields(r.get()) - 1, store, newRow);
+    fill(plan, r.get(), PQnfields(r.get()) - 1, store, newRow, context);
 }
 
 void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
-                        const std::function<Cell*(int64_t)>& newRow) {
+                        const std::function<Cell*(int64_t)>& newRow, std::string_view context) const {
     const int rows = PQntuples(res);
     const size_t n = plan.cols.size();
     for (int row = 0; row < rows; ++row) {
-        int64_t id = 0;
-        if (plan.withIdentity) {
-            const char* t = PQgetvalue(res, row, idField);
-            std::from_chars(t, t + PQgetlength(res, row, idField), id);
-        }
+        const int64_t id = plan.withIdentity ? numberFrom(PQgetvalue(res, row, idField), context) : 0;
         Cell* cells = newRow(id);
         for (size_t c = 0; c < n; ++c) readCell(res, row, plan.fields[c], cells[c], store);
     }
@@ -488,7 +493,7 @@ int64_t PgConnection::count(const QueryPlan& plan, const Doing& doing) {
     const std::string context = doing.text();
     const Result r = run(plan.countSql, plan.params, context);
     if (PQntuples(r.get()) < 1) return -1;
-    return std::atoll(PQgetvalue(r.get(), 0, 0));
+    return numberFrom(PQgetvalue(r.get(), 0, 0), context);
 }
 
 int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
@@ -501,9 +506,9 @@ int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
     const PGresult* res = r.get();
     const int rows = PQntuples(res);
     const int fields = PQnfields(res);
-    const int64_t total = rows == 0 ? 0 : std::atoll(PQgetvalue(res, 0, fields - 1));
+    const int64_t total = rows == 0 ? 0 : numberFrom(PQgetvalue(res, 0, fields - 1), context);
     if (total == rows) {
-        fill(plan, res, fields - 2, store, newRow);
+        fill(plan, res, fields - 2, store, newRow, context);
         read = true;
     }
     return total;
@@ -558,7 +563,7 @@ int64_t PgConnection::insertRow(const std::string& table, const std::vector<std:
                                                  placeholders(1, names.size()) + ")") +
                             " RETURNING " + jet::kIdentityColumn;
     const Result r = run(sql, values, context);
-    return PQntuples(r.get()) > 0 ? std::atoll(PQgetvalue(r.get(), 0, 0)) : 0;
+    return PQntuples(r.get()) > 0 ? numberFrom(PQgetvalue(r.get(), 0, 0), context) : 0;
 }
 
 int64_t PgConnection::updateRow(const std::string& table, const std::vector<std::string>& names,
@@ -579,7 +584,7 @@ int64_t PgConnection::updateRow(const std::string& table, const std::vector<std:
                std::to_string(params.size());
     }
     const Result r = run(sql, params, context);
-    return std::atoll(PQcmdTuples(r.get()));
+    return numberFrom(PQcmdTuples(r.get()), context);
 }
 
 // Within a save the row stays locked from this reading to the save's end,

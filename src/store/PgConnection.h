@@ -88,9 +88,11 @@ private:
     QueryPlan describe(const std::string& sql, bool withIdentity, std::string_view context);
     const TableColumns& tableColumns(Oid table, std::string_view context);
     [[noreturn]] void fail(const PGresult* result, std::string_view context);
+    // A count or key the server sent as text; a store failure when it is none.
+    int64_t numberFrom(const char* text, std::string_view context) const;
     [[nodiscard]] bool connectionLost(const std::string& code, const std::string& engine) const;
     void fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
-              const std::function<Cell*(int64_t)>& newRow);
+              const std::function<Cell*(int64_t)>& newRow, std::string_view context) const;
 
     std::string uri_;
     std::string name_;

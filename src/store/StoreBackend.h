@@ -74,8 +74,8 @@ public:
     virtual int64_t count(const QueryPlan& plan, const Doing& doing) = 0;
     // As count; an engine for which a question costs a round trip may read
     // a small set whole on the way (then read is set and the rows are in).
-    virtual int64_t countOrRead(const QueryPlan& plan, RowStore& store,
-                                const std::function<Cell*(int64_t)>& newRow, const Doing& doing,
+    virtual int64_t countOrRead(const QueryPlan& plan, RowStore& /*store*/,
+                                const std::function<Cell*(int64_t)>& /*newRow*/, const Doing& doing,
                                 bool& read) {
         read = false;
         return count(plan, doing);

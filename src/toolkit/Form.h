@@ -92,9 +92,9 @@ public:
 protected:
     // Hooks for the dialogs.
     virtual void Form_Load() {}
-    virtual void Form_KeyDown(int32_t keyCode, int32_t shift) {}
+    virtual void Form_KeyDown(int32_t /*keyCode*/, int32_t /*shift*/) {}
     // unloadMode 0: the user closed the window.
-    virtual void Form_QueryUnload(bool& cancel, int32_t unloadMode) {}
+    virtual void Form_QueryUnload(bool& /*cancel*/, int32_t /*unloadMode*/) {}
     virtual void Form_Unload() {}
     virtual void Form_Resize() {}
 

@@ -40,6 +40,7 @@ public:
     // Names of the forms shown, modal or not, in order.
     [[nodiscard]] const std::vector<std::string>& shown() const { return shown_; }
     [[nodiscard]] bool waitCursor() const { return waitCursor_; }
+    [[nodiscard]] bool inputHeld() const { return inputHeld_; }
     [[nodiscard]] int32_t modalDepth() const { return depth_; }
     // Every script error thrown, kept even when a handler's trap swallowed it.
     [[nodiscard]] const std::vector<std::string>& scriptErrors() const { return scriptErrors_; }
@@ -53,6 +54,7 @@ public:
     void show(Form& form) override;
     void hide(Form& form) override;
     void doEvents() override;
+    void holdInput(bool held) override { inputHeld_ = held; }
     void setWaitCursor(bool on) override { waitCursor_ = on; }
 
 private:
@@ -65,6 +67,7 @@ private:
     std::vector<std::string> shown_;
     std::vector<std::string> scriptErrors_;
     bool waitCursor_ = false;
+    bool inputHeld_ = false;
     int32_t depth_ = 0;
     int64_t doEventsStepMs_ = 10;
 };

@@ -40,6 +40,9 @@ public:
     virtual void hide(Form& form) = 0;
     // One pass of the event pump (timers due fire here).
     virtual void doEvents() = 0;
+    // While held, the pump leaves the user's keys and clicks queued: a dialog
+    // busy with a change of its own takes them once it stands still.
+    virtual void holdInput(bool /*held*/) {}
     virtual void setWaitCursor(bool on) = 0;
 };
 

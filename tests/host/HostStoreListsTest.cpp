@@ -77,6 +77,18 @@ TEST(HostStoreLists, ShowTaskSavedByTheComponentAndRemoveItsRows) {
     EXPECT_TRUE(appts[0].worked);
     EXPECT_TRUE(store.appointments("O'Brien ? \"x\"").empty());
 
+    // A number column holding anything else is told, not read as 0 (a file store takes such a cell).
+    if (!isServerUri(location)) {
+        StoreFile(location).exec("UPDATE TASKS SET tskImp='lots'");
+        std::string told;
+        try {
+            (void)store.tasks(false);
+        } catch (const std::runtime_error& e) {
+            told = e.what();
+        }
+        EXPECT_NE(told.find("\"lots\" in tskImp"), std::string::npos) << told;
+    }
+
     // The task and its appointments go together.
     store.deleteTask(key);
     EXPECT_TRUE(store.tasks(false).empty());

@@ -49,12 +49,13 @@ TEST_F(Keyboard, EveryDialogOpensWithTheFocusWhereTypingGoesAndF1IsItsHelp) {
         const char* opener;  // a tool of New Task, "" for New Task itself
         QString form;
         QString focus;  // the focused control's object name
+        QString title;  // the window's title after the program's
     };
     const Case cases[] = {
-        {"smtProj.kNEWPROJECT", "frmAddProject", "smtProject.txName.edit"},
-        {"smtKeywords.kNEWKEYWORD", "frmAddKeyword", "smtKeywords.KEYWORD.edit"},
-        {"smtActions.PAGESETUP", "frmPageSetup", "smtPrinting(0).PRINTER"},
-        {"", kNewTask, "spellTask"},
+        {"smtProj.kNEWPROJECT", "frmAddProject", "smtProject.txName.edit", "Add Project"},
+        {"smtKeywords.kNEWKEYWORD", "frmAddKeyword", "smtKeywords.KEYWORD.edit", "Add Keyword"},
+        {"smtActions.PAGESETUP", "frmPageSetup", "smtPrinting(0).PRINTER", "Page Setup"},
+        {"", kNewTask, "spellTask", "New Task"},
     };
     QStringList seen, helped;
     StepRunner steps;
@@ -65,7 +66,8 @@ TEST_F(Keyboard, EveryDialogOpensWithTheFocusWhereTypingGoesAndF1IsItsHelp) {
         steps.when(
             "focus " + c.form, [c] { return shown(c.form); },
             [c, &seen] {
-                seen << c.form + ": " + focusIn(c.form);
+                seen << c.form + ": " + focusIn(c.form) + " in " +
+                            StepRunner::formWindow(c.form)->windowTitle().section(" - ", -1);
                 press(c.form, Qt::Key_F1);
             },
             200);
@@ -80,7 +82,7 @@ TEST_F(Keyboard, EveryDialogOpensWithTheFocusWhereTypingGoesAndF1IsItsHelp) {
     EXPECT_TRUE(ranAll(steps));
     QStringList wanted, every;
     for (const Case& c : cases) {
-        wanted << c.form + ": " + c.focus;
+        wanted << c.form + ": " + c.focus + " in " + c.title;
         every << c.form;
     }
     EXPECT_EQ(seen.join("\n").toStdString(), wanted.join("\n").toStdString());

@@ -15,7 +15,7 @@
 #include "store/Recordset.h"
 #include "store/StoreQueries.h"
 #include "store/WriteConflict.h"
-#include "toolkit/Failure.h"
+#include "support/FailureOf.h"
 
 namespace qv {
 namespace {
@@ -87,16 +87,6 @@ protected:
         std::ostringstream s;
         s << in.rdbuf();
         return s.str();
-    }
-
-    // The failure a call throws (number 0 when none).
-    static Failure failureOf(const std::function<void()>& f) {
-        try {
-            f();
-        } catch (const Failure& e) {
-            return e;
-        }
-        return Failure(0, "no failure");
     }
 
     // A store failure whose description names each of the parts.
@@ -518,10 +508,10 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     const Failure f = failureOf([&] { (void)rs.RecordCount(); });
     EXPECT_EQ(f.number(), 3704);
     EXPECT_EQ(f.description(), "Operation is not allowed when the object is closed.");
-    EXPECT_EQ(failureOf([&] { (void)rs.EOF_(); }).number(), 3704);
-    EXPECT_EQ(failureOf([&] { (void)rs.Fields("tskDesc"); }).number(), 3704);
-    EXPECT_EQ(failureOf([&] { rs.MoveNext(); }).number(), 3704);
-    EXPECT_EQ(failureOf([&] { rs.UpdateBatch(); }).number(), 3704);
+    for (const auto& call : std::vector<std::function<void()>>{
+             [&] { (void)rs.EOF_(); }, [&] { (void)rs.Fields("tskDesc"); }, [&] { rs.MoveNext(); },
+             [&] { rs.UpdateBatch(); }})
+        EXPECT_EQ(failureOf(call).number(), 3704);
     rs.Open("SELECT * from TASKS ORDER BY tskGUIDID", conn_, adOpenStatic, adLockBatchOptimistic);
     EXPECT_EQ(rs.State(), adStateOpen);
     EXPECT_EQ(rs.Source(), "SELECT * from TASKS ORDER BY tskGUIDID");
@@ -540,12 +530,6 @@ TEST_F(RecordsetTest, StateAndAClosedSet) {
     expectStoreFailure(failureOf([&] { rs.Open("SELECT * from NOSUCH", conn_); }), {"is missing the table NOSUCH"});
     EXPECT_EQ(rs.State(), adStateClosed);
 }
-
-}  // namespace
-}  // namespace qv
-
-namespace qv {
-namespace {
 
 // Another writer between the read and the write-back, case by case: what
 // the set writes, what it refuses, and what it tells.

@@ -5,7 +5,7 @@
 #include "ToolkitFixture.h"
 #include "toolkit/CColorDialog.h"
 #include "toolkit/ColorChooser.h"
-#include "toolkit/Failure.h"
+#include "support/FailureOf.h"
 #include "toolkit/Form.h"
 #include "toolkit/WindowHandles.h"
 
@@ -83,14 +83,10 @@ TEST_F(CColorDialogTest, OwnerMustNameAnOpenWindow) {
     EXPECT_EQ(dlg.HWndOwner(), h);
     dlg.setHWndOwner(0);  // no owner is fine
 
-    try {
-        dlg.Init(0, "Colour", h + 4, 0);
-        FAIL();
-    } catch (const Failure& f) {
-        EXPECT_EQ(f.number(), static_cast<int32_t>(0x800442E1u));
-        EXPECT_EQ(f.description(), "Invalid window handle");
-        EXPECT_EQ(f.source(), "QuorvelTask2.CColorDialog");
-    }
+    const Failure f = failureOf([&] { dlg.Init(0, "Colour", h + 4, 0); });
+    EXPECT_EQ(f.number(), static_cast<int32_t>(0x800442E1u));
+    EXPECT_EQ(f.description(), "Invalid window handle");
+    EXPECT_EQ(f.source(), "QuorvelTask2.CColorDialog");
     dlg.Init(5, "Colour", h, 128);
     EXPECT_EQ(dlg.flags(), 5);
     EXPECT_EQ(dlg.DialogTitle(), "Colour");

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "toolkit/Failure.h"
+#include "support/FailureOf.h"
 #include "toolkit/Sheet.h"
 
 namespace qv {
@@ -64,12 +64,7 @@ TEST(Sheet, LookupsByKeyAndPositionFailClearly) {
     EXPECT_FALSE(s.hasKey(""));
     EXPECT_EQ(s.find("NOPE"), nullptr);
 
-    try {
-        (void)s.at(4);
-        FAIL();
-    } catch (const Failure& f) {
-        EXPECT_EQ(f.number(), 35600);
-    }
+    EXPECT_EQ(failureOf([&] { (void)s.at(4); }).number(), 35600);
     EXPECT_THROW((void)s.at(0), Failure);
     EXPECT_THROW((void)s.tool("NOPE"), Failure);
     EXPECT_THROW(s.add(ttButton, "STATUS"), Failure) << "keys are unique";

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <string>
 
-#include "toolkit/Failure.h"
+#include "support/FailureOf.h"
 #include "toolkit/Splitter.h"
 
 namespace qv {
@@ -44,12 +44,8 @@ TEST_F(SplitterTest, LayoutFileRoundTripsTheBlobByteForByte) {
     EXPECT_EQ(loads, 1);
 
     EXPECT_THROW(split.loadLayout((dir_ / "missing.slf").string()), Failure);
-    try {
-        split.saveLayout((dir_ / "no" / "such" / "dir.slf").string());
-        FAIL();
-    } catch (const Failure& f) {
-        EXPECT_EQ(f.number(), err::PathNotFound);
-    }
+    EXPECT_EQ(failureOf([&] { split.saveLayout((dir_ / "no" / "such" / "dir.slf").string()); }).number(),
+              err::PathNotFound);
 }
 
 TEST_F(SplitterTest, PanesKeepLimitsAndResetToDefaults) {

@@ -12,6 +12,7 @@
 namespace qv {
 
 AddDialog::AddDialog(std::string name, Shape shape) : Form(std::move(name)), shape_(shape) {
+    setCaption(std::string(kProgramTitle) + tr(shape_.title));
     addControl("smtAction", smtAction);
     smtAction.Click.connect([this](Tool& t) { smtAction_Click(t); });
 }
@@ -34,7 +35,7 @@ void AddDialog::smtAction_Click(Tool& t) {
 }
 
 // The key is swallowed either way: nothing else sees Enter or Escape.
-void AddDialog::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void AddDialog::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     trap(name().c_str(), "Form_KeyDown", [&] {
         if (keyCode == vbKeyReturn)
             addNew(AddTrigger::EnterKey);

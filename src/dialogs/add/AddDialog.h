@@ -32,6 +32,7 @@ protected:
         const char* closeKey;  // the tool that closes
         int32_t helpTopic;
         const char* created;  // the "created." box, %1 the name (translated when shown)
+        const char* title;    // after the program's title: " - Add Project" (translated when shown)
     };
 
     AddDialog(std::string name, Shape shape);

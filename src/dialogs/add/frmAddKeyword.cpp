@@ -13,7 +13,8 @@ namespace {
 constexpr const char* kModule = "frmAddKeyword";
 }  // namespace
 
-frmAddKeyword::frmAddKeyword() : AddDialog(kModule, {"ADD", "OK", 8, QV_N("Keyword \"%1\" created.")}) {
+frmAddKeyword::frmAddKeyword()
+    : AddDialog(kModule, {"ADD", "OK", 8, QV_N("Keyword \"%1\" created."), QV_N(" - Add Keyword")}) {
     smtKeywords.add(ttTextBox, "CATEGORY", tr("Category:")).setTip(tr("Pick a category or enter a new category"));
     smtKeywords.add(ttTextBox, "KEYWORD", tr("Keyword:")).setTip(tr("Enter the new Keyword"));
     smtAction.add(ttButton, "HELP", tr("&Help"));

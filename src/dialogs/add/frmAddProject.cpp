@@ -33,7 +33,8 @@ double today() {
 }
 }  // namespace
 
-frmAddProject::frmAddProject() : AddDialog(kModule, {"OK", "CANCEL", 800, QV_N("Project \"%1\" created.")}) {
+frmAddProject::frmAddProject()
+    : AddDialog(kModule, {"OK", "CANCEL", 800, QV_N("Project \"%1\" created."), QV_N(" - Add Project")}) {
     smtProject.add(ttTextBox, "txName", tr("Project Name:"));
     smtProject.add(ttTextBox, "txSummary", tr("Description:"));
     smtProject.add(ttTextBox, "DEADLINE", tr("Deadline:")).setHostedControl("cboDate");

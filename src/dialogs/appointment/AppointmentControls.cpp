@@ -45,6 +45,8 @@ void AppointmentControls::buildReady() {
     s.add(ttButton, {}).setImage("GOOD");
 }
 
+// Not the Existing Task's About sheet: headed groups, longer captions with
+// no tab stop, and every value the task's, shown here read-only.
 void AppointmentControls::buildAbout() {
     auto& s = smtABOUT;
     s.add(ttHeading, "H1", tr("General"));

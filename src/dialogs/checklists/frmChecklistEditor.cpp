@@ -64,7 +64,7 @@ void frmChecklistEditor::smtAction_Click(Tool& t) {
     });
 }
 
-void frmChecklistEditor::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void frmChecklistEditor::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     trap(kModule, "Form_KeyDown", [&] {
         if (keyCode == vbKeyEscape) unload();
     });

@@ -62,7 +62,7 @@ void frmCkPicker::smtAction_Click(Tool& t) {
     });
 }
 
-void frmCkPicker::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void frmCkPicker::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     trap(kModule, "Form_KeyDown", [&] {
         if (keyCode == vbKeyReturn) pickStored();
     });

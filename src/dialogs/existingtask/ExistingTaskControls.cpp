@@ -18,6 +18,8 @@ ExistingTaskControls::ExistingTaskControls() {
     Timer2.setInterval(200);
 }
 
+// Captions end in a tab stop, so the values stand in one column; the
+// appointment's About sheet has its own captions and order.
 void ExistingTaskControls::buildAbout() {
     auto& s = smtABOUT;
     s.add(ttTextBox, "STATUS", tr("Status:\t"));

@@ -16,6 +16,16 @@ namespace qv {
 namespace {
 const char* const kCancelQuestion = QV_N("Cancel creating the current task?");
 constexpr int32_t kHelpTopic = 600;
+
+// Keys and clicks that come while a task is added wait until the dialog
+// stands reset for the next one: an Escape then finds nothing to ask about.
+class InputHeld {
+public:
+    InputHeld() { ui().holdInput(true); }
+    ~InputHeld() { ui().holdInput(false); }
+    InputHeld(const InputHeld&) = delete;
+    InputHeld& operator=(const InputHeld&) = delete;
+};
 }  // namespace
 
 void NewTaskActions::smtActions_Click(Tool& tool) {
@@ -33,6 +43,7 @@ void NewTaskActions::Form_KeyDown(int32_t keyCode) {
     if (keyCode == vbKeyReturn) {
         g().TaskMode = 0;
         f_.PackATask();
+        InputHeld held;
         if (f_.SaveTask()) {
             f_.NewTask();
             afterAdd();
@@ -53,6 +64,7 @@ void NewTaskActions::addToTaskList() {
     g().TaskMode = 0;
     f_.PackATask();
     const int32_t status = f_.fields().utilStatus();
+    InputHeld held;
     if (!f_.SaveTask()) return;
     if (status == 0) f_.TaskIsNewButDone();
     else f_.NewTask();
@@ -63,6 +75,7 @@ void NewTaskActions::addToTaskList() {
 void NewTaskActions::addToCatalog() {
     g().TaskMode = 5;
     f_.PackATask();
+    InputHeld held;
     if (!f_.SaveTask()) return;
     f_.NewTaskCATTask();
     afterAdd();

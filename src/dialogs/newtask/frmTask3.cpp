@@ -199,7 +199,7 @@ void frmTask3::startTimer_Timer() {
     drafts_->offer(s.TaskMode, s.TaskMode == 6 ? s.TaskCatGUID : std::string());
 }
 
-void frmTask3::Form_KeyDown(int32_t keyCode, int32_t shift) {
+void frmTask3::Form_KeyDown(int32_t keyCode, int32_t /*shift*/) {
     trapped("Form_KeyDown", [&] { actions_->Form_KeyDown(keyCode); });
 }
 

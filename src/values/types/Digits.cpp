@@ -16,4 +16,12 @@ std::size_t readDigits(std::string_view text, std::size_t at, std::size_t maxDig
     return static_cast<std::size_t>(stop - first);
 }
 
+std::optional<int64_t> wholeNumber(std::string_view text) {
+    int64_t value = 0;
+    const char* last = text.data() + text.size();
+    const auto [stop, ec] = std::from_chars(text.data(), last, value);
+    if (ec != std::errc() || stop != last) return std::nullopt;
+    return value;
+}
+
 }  // namespace qv

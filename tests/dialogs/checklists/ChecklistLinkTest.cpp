@@ -30,6 +30,12 @@ public:
     }
     void click(const char* key) { smtCKActions.click(smtCKActions.tool(key)); }
     bool shows(const char* key) const { return smtCKActions.tool(key).visible(); }
+    // The link as the dialog holds and shows it: exists|key|name|mode|caption|text.
+    std::string linked() const {
+        return std::to_string(state.utilCheckListExists) + "|" + state.utilChecklistKey + "|" +
+               state.utilChecklistName + "|" + std::to_string(state.CheckListMode) + "|" + lblCk.caption() +
+               "|" + spellCK.text();
+    }
 
     Sheet smtCKActions{"smtCKActions"};
     Sheet smtActions{"smtActions"};
@@ -118,12 +124,7 @@ TEST_F(ChecklistLinkTest, PickedChecklistIsLinkedAndNoneUnlinksIt) {
     pickRow(*f, "K-ALPHA");
     f->click("PICK");
     EXPECT_EQ(f->link->ckPicker(), nullptr);
-    EXPECT_TRUE(f->state.utilCheckListExists);
-    EXPECT_EQ(f->state.utilChecklistKey, "K-ALPHA");
-    EXPECT_EQ(f->state.utilChecklistName, "Alpha");
-    EXPECT_EQ(f->state.CheckListMode, 1);
-    EXPECT_EQ(f->lblCk.caption(), " Checklist: Alpha");
-    EXPECT_EQ(f->spellCK.text(), "a1\na2");
+    EXPECT_EQ(f->linked(), "1|K-ALPHA|Alpha|1| Checklist: Alpha|a1\na2");
     EXPECT_TRUE(f->shows("EDIT") && f->shows("S2"));
     // Only the Existing Task dialog's option enables its update action.
     EXPECT_FALSE(f->smtActions.tool("UPDATE").enabled());
@@ -138,11 +139,7 @@ TEST_F(ChecklistLinkTest, PickedChecklistIsLinkedAndNoneUnlinksIt) {
 
     pickRow(*f, "-NONE-");
     f->click("PICK");
-    EXPECT_FALSE(f->state.utilCheckListExists);
-    EXPECT_EQ(f->state.utilChecklistKey, "");
-    EXPECT_EQ(f->spellCK.text(), "");
-    EXPECT_EQ(f->lblCk.caption(), "No Checklist");
-    EXPECT_EQ(f->state.CheckListMode, 0);
+    EXPECT_EQ(f->linked(), "0||Alpha|0|No Checklist|") << "the name stays; nothing reads it unlinked";
     EXPECT_FALSE(f->shows("EDIT"));
     EXPECT_TRUE(f->shows("PICK"));
     EXPECT_TRUE(reporter().faults().empty());
@@ -179,11 +176,8 @@ TEST_F(ChecklistLinkTest, NewChecklistFromThePickerIsSavedAndLinked) {
     const std::string key = readOne("SELECT ckGUIDID FROM CHECKLISTS WHERE ckName = 'Gamma'");
     ASSERT_EQ(key.size(), 36u);
     EXPECT_EQ(readOne("SELECT ckContent FROM CHECKLISTS WHERE ckGUIDID = '" + key + "'"), "g1");
-    EXPECT_EQ(f->state.utilChecklistKey, key);
     EXPECT_EQ(f->state.utilNewChecklistNewGUID, key);
-    EXPECT_TRUE(f->state.utilCheckListExists);
-    EXPECT_EQ(f->lblCk.caption(), "Checklist: Gamma");
-    EXPECT_EQ(f->spellCK.text(), "g1");
+    EXPECT_EQ(f->linked(), "1|" + key + "|Gamma|1|Checklist: Gamma|g1");
     EXPECT_TRUE(f->shows("EDIT"));
 
     // Editing it rewrites the row and refreshes the display, key unchanged.
@@ -195,9 +189,7 @@ TEST_F(ChecklistLinkTest, NewChecklistFromThePickerIsSavedAndLinked) {
     saveInEditor(*f, "Gamma 2", "g1\ng2");
     f->click("EDIT");
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM CHECKLISTS"), 3);
-    EXPECT_EQ(f->state.utilChecklistKey, key);
-    EXPECT_EQ(f->lblCk.caption(), "Checklist: Gamma 2");
-    EXPECT_EQ(f->spellCK.text(), "g1\ng2");
+    EXPECT_EQ(f->linked(), "1|" + key + "|Gamma 2|1|Checklist: Gamma 2|g1\ng2");
     EXPECT_TRUE(reporter().faults().empty());
 }
 

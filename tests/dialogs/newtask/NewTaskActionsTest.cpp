@@ -50,13 +50,20 @@ TEST_F(NewTaskCommands, EachWayOutAsksOnTheDirtyDialogAndNoKeepsIt) {
         EXPECT_EQ(count("NewTask") + count("TaskCanceled"), 0);
     }
 
-    // Right after a save the Done tool closes at once.
+    // Right after a save the Done tool closes at once; keys and clicks wait
+    // out the save, so none meets the dialog half reset.
     scriptedUi().clearMessages();
+    bool heldAtNewTask = false;
+    const auto watch = task_.Raised.connect(
+        [&](const HostEvent& e) { heldAtNewTask |= e.name == "NewTask" && scriptedUi().inputHeld(); });
     fireTimer();
     typeDescription("Quick one");
     click("smtActions", "QV");
+    then([this] { EXPECT_FALSE(scriptedUi().inputHeld()); });
     click("smtActions", "DONE");
     open();
+    task_.Raised.disconnect(watch);
+    EXPECT_TRUE(heldAtNewTask);
     EXPECT_TRUE(scriptedUi().messages().empty());
     EXPECT_EQ(readInt("SELECT COUNT(*) FROM TASKS"), 1);
     EXPECT_FALSE(form().loaded());
