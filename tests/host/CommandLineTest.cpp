@@ -199,8 +199,12 @@ TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
         if (auto at = args.find("USER"); at != std::string::npos) args.replace(at, 4, user_.string());
         SCOPED_TRACE(std::string(c.locale) + " " + args);
         const Outcome r = run(args, c.locale);
-        if (*c.out) EXPECT_NE(r.out.find(c.out), std::string::npos) << r.out;
-        if (*c.err) EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
+        if (*c.out) {
+            EXPECT_NE(r.out.find(c.out), std::string::npos) << r.out;
+        }
+        if (*c.err) {
+            EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
+        }
     }
     if (!german) GTEST_SKIP() << "no de_DE.UTF-8 locale on this machine";
 }

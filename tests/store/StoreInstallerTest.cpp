@@ -133,7 +133,9 @@ TEST(DateConventions, SeedTheDateFormatsAfterTheLocale) {
         put("D5Format", "0", c.clock);
         EXPECT_EQ(dateFormatRows(rows), want) << c.locale;
         for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (rows[i].section != "DateFormats") EXPECT_EQ(rows[i].value, plain[i].value) << c.locale << " " << rows[i].name;
+            if (rows[i].section != "DateFormats") {
+                EXPECT_EQ(rows[i].value, plain[i].value) << c.locale << " " << rows[i].name;
+            }
         }
     }
 }
