@@ -1,6 +1,5 @@
-// A program's folder on a disk with no room left (a small tmpfs, mounted as
-// root; skipped otherwise): each fault says the disk is full, for the store
-// and for the settings file, in one report and no other message.
+// A program's folder on a full disk (a small tmpfs, mounted as root): each
+// fault says the disk is full, in one report and no other message.
 
 #include <sys/mount.h>
 #include <unistd.h>

@@ -77,6 +77,7 @@ TEST_F(HelpTools, EachDialogOpensItsTopicWithItsTitle) {
     EXPECT_TRUE(scriptedUi().messages().empty());
     EXPECT_TRUE(reporter().faults().empty());
     EXPECT_EQ(scriptedUi().pendingActions(), 0u);
+    EXPECT_EQ(viewer.shown(), nullptr) << "the pop-up is gone once closed";
 }
 
 }  // namespace qv

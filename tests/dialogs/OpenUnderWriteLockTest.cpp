@@ -1,6 +1,5 @@
-// A host that holds a write transaction on the store file does not stop a
-// dialog that only reads: every dialog opens and closes under the lock with
-// no message and no fault, since an open that changes nothing writes nothing.
+// A host holding a write transaction on the store file: every dialog still
+// opens and closes, since an open that changes nothing writes nothing.
 
 #include <sqlite3.h>
 

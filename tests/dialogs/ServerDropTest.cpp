@@ -1,7 +1,5 @@
-// The server store's connection ends while the Existing Task dialog is up
-// (its session is terminated from a second connection, as a server restart
-// would): Update ends in the one report that names the server, without the
-// engine's words about the statement or its query text.
+// The server ends the session while the Existing Task dialog is up: Update
+// ends in one report naming the server, without the engine's words.
 
 #include <libpq-fe.h>
 

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "help/HelpTopics.h"
-#include "help/PopHelpViewer.h"
 #include "help/SurfaceHelpPrinter.h"
 #include "help/TourPreference.h"
 #include "help/frmPopHelp.h"
@@ -227,23 +226,6 @@ TEST_F(PopHelpTest, AFaultIsReportedUnderTheFormsOwnProjectName) {
     const auto& fault = reporter().faults()[0];
     EXPECT_EQ(fault.project + "." + fault.module + "." + fault.procedure, "QuorvelExportExcel.frmPopHelp.smtAction_Click");
     EXPECT_EQ(ended, 1);
-}
-
-TEST_F(PopHelpTest, TheViewerShowsThePopUpModallyUntilItIsClosed) {
-    PopHelpViewer viewer(&printer, &tour);
-    std::string seen;
-    scriptedUi().queueAction([&] {
-        ASSERT_NE(viewer.shown(), nullptr);
-        seen = viewer.shown()->caption();
-        EXPECT_EQ(viewer.shown()->MakeHelpHTML().printer, "Office");
-        viewer.shown()->smtAction.click(viewer.shown()->smtAction.tool("CLOSE"));
-    });
-    viewer.openHelpPop(800, kSettings);
-    EXPECT_EQ(seen, "Quorvel: Adding a Project");
-    EXPECT_EQ(viewer.lastTopic(), 800);
-    EXPECT_EQ(viewer.shown(), nullptr);
-    EXPECT_EQ(scriptedUi().shown(), std::vector<std::string>{"frmPopHelp"});
-    EXPECT_EQ(scriptedUi().pendingActions(), 0u);
 }
 
 // A help page reaches the one print engine with its file, heading, footer

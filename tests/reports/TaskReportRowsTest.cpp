@@ -1,6 +1,5 @@
 // The task tables of the Existing Task and Task Appointment reports, read
-// by position from sheets laid out as those dialogs lay theirs, and the
-// schedule read from a grid, through the whole report.
+// by position, and the schedule from a grid through the whole report.
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-// The shared print flow with a dialog that has a schedule: the rows, the
-// spare row, the sections by the string, and the one ordering difference
-// of the Existing Task dialog.
+// The shared print flow with a dialog that has a schedule.
 
 #include <gtest/gtest.h>
 
+#include "reports/FooterFormat.h"
+#include "reports/FooterText.h"
 #include "reports/PrintSettings.h"
 #include "reports/ReportSource.h"
 #include "reports/TaskReport.h"
@@ -111,6 +111,29 @@ TEST_F(TaskReportTest, TheExistingTaskPrintsAnOlderTitleAsStored) {
     EXPECT_EQ(scriptedUi().messages()[2].text,
               "Print this Task Appointment? It may take a moment or two to prepare.");
     EXPECT_EQ(scriptedUi().messages()[0].text, "Print this Task? It may take a moment or two to prepare.");
+}
+
+TEST(FooterFormat, MarkersMakeRuledLinesWithTwoSidesAndThePageNumber) {
+    auto lines = FooterFormat::lines("{newline}{line}{Left}Quorvel - Version 1.14{Right}Page {PageNum}", 7);
+    ASSERT_EQ(lines.size(), 1u);
+    EXPECT_TRUE(lines[0].rule);
+    EXPECT_EQ(lines[0].left, "Quorvel - Version 1.14");
+    EXPECT_EQ(lines[0].right, "Page 7");
+
+    lines = FooterFormat::lines("{Left}{PageNum}{Right}{newline}{Right}--Page Number--", 12);
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_FALSE(lines[0].rule);
+    EXPECT_EQ(lines[0].left, "12");
+    EXPECT_EQ(lines[0].right, "");
+    EXPECT_EQ(lines[1].right, "--Page Number--");
+    // Braces that are no marker stay as they are.
+    EXPECT_EQ(FooterFormat::lines("{x}", 1).at(0).left, "{x}");
+
+    // What the footer picks turn into at print time.
+    const std::pair<const char*, const char*> picks[] = {
+        {"<#>", "{PageNum}"},         {"Page Number", "{PageNum}"},          {"--Page Number--", "--Page Number--"},
+        {"--Short Date--", "3/15/2023"}, {"--Date Time--", "3/15/2023 12:00"}, {"Quorvel", "Quorvel"}};
+    for (const auto& [pick, printed] : picks) EXPECT_EQ(FooterText::forPrint(pick, 45000.5), printed) << pick;
 }
 
 }  // namespace qv

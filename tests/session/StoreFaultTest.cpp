@@ -1,6 +1,5 @@
-// A store that can't be opened or read, seen through SetupTask as a host
-// sees it: one report naming the file and what is wrong, GotErrExitNow
-// once, every dialog gone with its timers, SetupTask back, nothing written.
+// A store that can't be opened or read, through SetupTask: one report, one
+// GotErrExitNow, every dialog and timer gone, nothing written.
 
 #include <sys/stat.h>
 

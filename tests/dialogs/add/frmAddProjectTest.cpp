@@ -6,20 +6,11 @@
 #include "session/globals/SessionGlobals.h"
 #include "support/TestEnv.h"
 #include "toolkit/DateBox.h"
-#include "toolkit/HelpViewer.h"
-#include "toolkit/Ports.h"
 #include "toolkit/Ui.h"
 #include "values/settings/DateFormats.h"
 
 namespace qv {
 namespace {
-
-struct RecordingHelp : HelpViewer {
-    void openHelpPop(int32_t topic, const std::string& printSetting) override {
-        opened.push_back(std::to_string(topic) + " " + printSetting);
-    }
-    std::vector<std::string> opened;
-};
 
 class AddProjectTest : public TestEnv {
 protected:
@@ -134,13 +125,6 @@ TEST_F(AddProjectTest, EnterKeyClearsOnlyTheNameAndKeepsSummaryAndDate) {
 
 TEST_F(AddProjectTest, CloseAsksOnlyWhenANameIsTypedAndEscapeNeverAsks) {
     auto& ui = scriptedUi();
-    RecordingHelp help;
-    ports().help = &help;
-    dlg->SetTaskPrintSetting("PRINTER=A\t");
-    actions().click(actions().tool("HELP"));
-    EXPECT_EQ(help.opened, std::vector<std::string>{"800 PRINTER=A\t"});
-    ports().help = nullptr;
-
     ui.queueAction([&] {
         type("txName", "Half typed");
         actions().click(actions().tool("CANCEL"));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "dialogs/appointment/AppointmentFixture.h"
+#include "dialogs/existingtask/frmExistingTask.h"
 #include "session/globals/SessionGlobals.h"
 #include "toolkit/TextEditor.h"
 #include "toolkit/Ui.h"
@@ -11,7 +12,7 @@
 namespace qv {
 
 namespace {
-class AppointmentConcurrency : public AppointmentFixture {
+class AppointmentConcurrency : public Seeded<AppointmentFixture> {
 protected:
     void otherUser(const std::string& sql) {
         then([this, sql] { exec(sql); });
@@ -23,7 +24,6 @@ protected:
 // the importance and the start: all of it stays, and the duration follows
 // the start and end as they then stand.
 TEST_F(AppointmentConcurrency, DifferentFieldsBothStay) {
-    seed();
     typeDescription("Mow the lawn");
     type("smtTimes", "END", "11:00");
     otherUser("UPDATE TASKS SET tskNotes='Their notes', tskImp=4");
@@ -46,7 +46,6 @@ TEST_F(AppointmentConcurrency, DifferentFieldsBothStay) {
 // No (by the action and by Enter) keeps the dialog and stores nothing;
 // Yes puts the user's value over the other user's.
 TEST_F(AppointmentConcurrency, TheSameFieldIsAskedAboutFirst) {
-    seed();
     typeDescription("Mow the lawn");
     type("smtTimes", "END", "10:45");  // a change of the times enables "SAVE"
     otherUser("UPDATE TASKS SET tskDesc='Their desc', tskNotes='Their notes'");
@@ -74,6 +73,42 @@ TEST_F(AppointmentConcurrency, TheSameFieldIsAskedAboutFirst) {
     EXPECT_EQ(taskValue("tskNotes"), "Their notes") << "the dialog's notes were the loaded ones";
     EXPECT_EQ(count("TASUpdated"), 1);
     EXPECT_TRUE(reporter().faults().empty());
+}
+
+// "Edit Task" runs a nested Existing Task session inside the open appointment
+// dialog; the session's globals are the nested run's afterwards.
+using AppointmentReentry = Seeded<AppointmentFixture>;
+
+TEST_F(AppointmentReentry, EditTaskRunsANestedExistingTaskWhoseEventsReachTheHost) {
+    click("smtActions", "EDIT");
+    // Now inside the nested session.
+    then([this] {
+        ASSERT_TRUE(task_.frmE());
+        EXPECT_TRUE(task_.frmE()->visible());
+        EXPECT_EQ(g().TaskMode, 1);
+        EXPECT_EQ(g().CurrentTaskGUID, kTask) << "the nested run holds the task's key";
+        EXPECT_TRUE(form().visible()) << "the appointment stays open beneath";
+        EXPECT_TRUE(form().loaded());
+        sheet("smtTimes").click(tool("smtTimes", "TIMER"));
+        EXPECT_EQ(tool("smtTimes", "TIMER").tag(), "ON") << "and its tools still answer";
+        task_.frmE()->TaskUpdated();
+        task_.frmE()->TaskCanceled({});
+    });
+    open();
+
+    EXPECT_EQ(events_, (std::vector<std::string>{"LoadingTask", "TaskUpdated", "DoCloseTaskForm", "DoCloseTaskForm"}));
+    EXPECT_FALSE(form().visible()) << "the appointment closes once the task's dialog has";
+    EXPECT_FALSE(task_.frmWorkTAS());
+    EXPECT_EQ(g().TaskMode, 1) << "the nested run's globals stay";
+    EXPECT_EQ(g().CurrentTaskGUID, kTask);
+    EXPECT_EQ(slotValue("taTimeWorked"), "0") << "nothing is saved before the task opens";
+
+    // The same session opens the appointment again afterwards.
+    then([this] { EXPECT_EQ(form().editor("spellTask")->text(), "Slot text"); });
+    click("smtActions", "CANCEL");
+    open();
+    EXPECT_EQ(count("DoCloseTaskForm"), 3);
+    EXPECT_EQ(g().TaskMode, 2);
 }
 
 }  // namespace qv

@@ -13,7 +13,7 @@
 namespace qv {
 
 namespace {
-class AppointmentLoad : public AppointmentFixture {
+class AppointmentLoad : public Seeded<AppointmentFixture> {
 protected:
     // Opens, checks inside the dialog, and cancels.
     void openAndLook(const std::function<void()>& look, const std::string& slot = kSlot) {
@@ -25,7 +25,6 @@ protected:
 }  // namespace
 
 TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
-    seed();
     exec("UPDATE TASKS SET tskProject='Beta', tskImp=4, tskDesc='Task words' WHERE tskGUIDID='" + std::string(kTask) +
          "'");
     openAndLook([this] {
@@ -61,7 +60,6 @@ TEST_F(AppointmentLoad, ShowsTheSlotsOwnCopiesBesideTheTasksValues) {
 }
 
 TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
-    seed();
     exec("UPDATE TASKS SET tskStatus=0, tskDeadline=NULL, tskCurrent=0");
     exec("UPDATE TASKAPPTS SET taWasWorked=1, taTimeWorked=75");
     openAndLook([this] {
@@ -80,7 +78,6 @@ TEST_F(AppointmentLoad, CompletedTasksAndWorkedSlotsAndNoDeadline) {
 }
 
 TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold) {
-    seed();
     exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID=''");
     openAndLook([this] {
         EXPECT_FALSE(form().checklist.utilCheckListExists);
@@ -108,7 +105,6 @@ TEST_F(AppointmentLoad, ChecklistFlagWithoutKeyIsPutRightAndALostChecklistIsTold
 }
 
 TEST_F(AppointmentLoad, AKeyThatIsNoKeyReadsNoRowAndAMissingSlotKeepsTheTemplate) {
-    seed();
     openAndLook(
         [this] {
             EXPECT_EQ(tool("smtABOUT", "STATUS").items().size(), g().StatusList.size()) << "lists are filled";
@@ -122,7 +118,6 @@ TEST_F(AppointmentLoad, AKeyThatIsNoKeyReadsNoRowAndAMissingSlotKeepsTheTemplate
 }
 
 TEST_F(AppointmentLoad, WindowComesBackFromItsSettingsAndIsStoredAtTheClose) {
-    seed();
     exec("DELETE FROM Settings WHERE SetSettingSection='TAS' AND SetSettingName='WindowState'");
     openAndLook([this] {
         EXPECT_EQ(form().geometry().left, 1000) << "the first value is the left";

@@ -11,7 +11,7 @@
 namespace qv {
 
 namespace {
-class AppointmentSave : public AppointmentFixture {
+class AppointmentSave : public Seeded<AppointmentFixture> {
 protected:
     void expectSlot(Expected cases) const {
         expectEach([this](const std::string& c) { return slotValue(c); }, cases);
@@ -21,7 +21,6 @@ protected:
     }
     // Works the slot to a save that the store refuses at the given table.
     void saveRefusedAt(const std::string& table) {
-        seed();
         refuseWrites(table);
         type("smtTimes", "TIMESPENT", "0:50");
         click("smtActions", "SAVE");
@@ -31,7 +30,6 @@ protected:
 }  // namespace
 
 TEST_F(AppointmentSave, TaskIsDoneWithABlankTimeSpentStoresTheSlotsLengthAndCompletesTheTask) {
-    seed();
     exec("UPDATE TASKS SET tskTimeScheduled=0");
     click("smtReady", "DONE");
     then([this] {
@@ -55,7 +53,6 @@ TEST_F(AppointmentSave, TaskIsDoneWithABlankTimeSpentStoresTheSlotsLengthAndComp
 }
 
 TEST_F(AppointmentSave, EnterWithAnEmptyDescriptionTellsAndClosesWithNothingStored) {
-    seed();
     typeDescription("");
     then([this] { answer(vbOK); });
     key(vbKeyReturn);
@@ -71,7 +68,6 @@ TEST_F(AppointmentSave, EnterWithAnEmptyDescriptionTellsAndClosesWithNothingStor
 }
 
 TEST_F(AppointmentSave, OnlyCompletedIsStoredOfTheStatusAndPicksMoveIntoTheRows) {
-    seed();
     click("smtABOUT", "STATUS-1");
     click("smtABOUT", std::string("PRJ-") + kBeta);
     click("smtABOUT", "IMP-4");
@@ -94,7 +90,6 @@ TEST_F(AppointmentSave, OnlyCompletedIsStoredOfTheStatusAndPicksMoveIntoTheRows)
 }
 
 TEST_F(AppointmentSave, ARefusedSaveSticksAndTheBlankTimeSpentQuestion) {
-    seed();
     type("smtTimes", "START", "9:00");
     typeDescription("");
     then([this] { answer(vbOK); });
@@ -131,7 +126,6 @@ TEST_F(AppointmentSave, ARefusedSaveSticksAndTheBlankTimeSpentQuestion) {
 }
 
 TEST_F(AppointmentSave, ClosingAsksOnlyWithSomethingToUpdateAndEscapeCancels) {
-    seed();
     then([this] { form().requestClose(); });
     open();
     EXPECT_TRUE(scriptedUi().messages().empty()) << "nothing to update, nothing asked";
@@ -151,7 +145,6 @@ TEST_F(AppointmentSave, ClosingAsksOnlyWithSomethingToUpdateAndEscapeCancels) {
 }
 
 TEST_F(AppointmentSave, AChecklistRemovedIsUnlinkedAtTheSave) {
-    seed();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckContent) VALUES ('" + std::string(kChecklist) +
          "', 'List', 'x')");
     exec("UPDATE TASKS SET tskHasChecklist=1, tskTCheckListGUID='" + std::string(kChecklist) + "'");

@@ -10,10 +10,9 @@
 
 namespace qv {
 
-using AppointmentTimeTools = AppointmentFixture;
+using AppointmentTimeTools = Seeded<AppointmentFixture>;
 
 TEST_F(AppointmentTimeTools, TheStopwatchRunsStopsAndCannotBeTypedOver) {
-    seed();
     click("smtTimes", "TIMER");
     then([this] {
         EXPECT_EQ(tool("smtTimes", "TIMER").tag(), "ON");
@@ -55,7 +54,6 @@ TEST_F(AppointmentTimeTools, TheStopwatchRunsStopsAndCannotBeTypedOver) {
 }
 
 TEST_F(AppointmentTimeTools, TypedTimesAreJudgedAndCopiesFillTimeSpent) {
-    seed();
     then([this] { answer(vbOK); });
     type("smtTimes", "TIMESPENT", "abc");
     then([this] {
@@ -77,7 +75,6 @@ TEST_F(AppointmentTimeTools, TypedTimesAreJudgedAndCopiesFillTimeSpent) {
 }
 
 TEST_F(AppointmentTimeTools, PicksMoveTheirNumberAndTimeScheduledCannotBeChanged) {
-    seed();
     click("smtABOUT", "IMP-3");
     click("smtABOUT", "DIF-4");
     then([this] {

@@ -1,6 +1,5 @@
-// The other actions of the Existing Task dialog: delete with its questions,
-// the catalog save of mode 5, the sort numbers, a picked checklist and the
-// time tools.
+// Delete, the catalog save of mode 5, the sort numbers, a picked checklist
+// and the time tools of the Existing Task dialog.
 
 #include "dialogs/checklists/ChecklistLink.h"
 #include "dialogs/checklists/frmCkPicker.h"
@@ -14,7 +13,7 @@
 
 namespace qv {
 
-using ExistingTaskActionsTest = ExistingTaskFixture;
+using ExistingTaskActionsTest = Seeded<ExistingTaskFixture>;
 
 TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     EXPECT_EQ(ExistingTaskDelete::question(false, false), "Delete this task?");
@@ -22,7 +21,6 @@ TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
     EXPECT_EQ(ExistingTaskDelete::question(true, false), "Delete this task and its Checklist?");
     EXPECT_EQ(ExistingTaskDelete::question(true, true),
               "Delete this task, all its Task Appointments and its Checklist?");
-    seed();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) +
          "', 'List', 'd', 'c')");
     addTask(", tskTCheckListGUID", ", '" + std::string(kChecklist) + "'");
@@ -50,7 +48,6 @@ TEST_F(ExistingTaskActionsTest, DeleteAsksThenLeavesTheRowsToTheHost) {
 }
 
 TEST_F(ExistingTaskActionsTest, CatalogSaveCopiesTheTaskAndASecondFailsOnTheKey) {
-    seed();
     addTask(", tskDeadline", ", '2030-01-01 12:00:00.000'");
     linkKeyword(kKeyRed);
     exec("INSERT INTO TASKS (tskGUIDID, tskProjectKey, tskCurrent) VALUES ('other', '" + std::string(kAlpha) +
@@ -80,11 +77,10 @@ TEST_F(ExistingTaskActionsTest, CatalogSaveCopiesTheTaskAndASecondFailsOnTheKey)
 }
 
 TEST_F(ExistingTaskActionsTest, SortNumbersCountOnceAndASlotSkipsTheQuery) {
-    seed();
     addTask();
     for (int i = 0; i < 5; ++i)
         exec("INSERT INTO TASKS (tskGUIDID, tskCurrent) VALUES ('c" + std::to_string(i) + "', 1)");
-    then([this] {
+    look([this] {
         auto& sort = eform().fields().sortNumbers();
         EXPECT_EQ(sort.utilCustCur(), 7) << "six current tasks";
         exec("INSERT INTO TASKS (tskGUIDID, tskCurrent) VALUES ('late', 1)");
@@ -94,13 +90,10 @@ TEST_F(ExistingTaskActionsTest, SortNumbersCountOnceAndASlotSkipsTheQuery) {
         sort.setUtilCustSortQV(7);
         EXPECT_EQ(sort.utilCustSortQV(), 7);
         EXPECT_EQ(sort.utilCustProj("no such project"), 1);
-        eform().hide();
     });
-    openTask();
 }
 
 TEST_F(ExistingTaskActionsTest, PickedChecklistEnablesUpdateAndIsSaved) {
-    seed();
     addTask();
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) +
          "', 'Morning', 'd', 'wake')");
@@ -117,7 +110,6 @@ TEST_F(ExistingTaskActionsTest, PickedChecklistEnablesUpdateAndIsSaved) {
 }
 
 TEST_F(ExistingTaskActionsTest, TimeToolsAndTheStopwatch) {
-    seed();
     addTask();
     click("smtTimes", "COPYTIMENEEDED");
     then([this] {

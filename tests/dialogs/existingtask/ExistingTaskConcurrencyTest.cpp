@@ -1,6 +1,5 @@
-// Two editors of one task: the Existing Task dialog's save against another
-// user who changes the row (or its keyword links) while the dialog is open.
-// Different fields both stay; the same field is asked about.
+// Two editors of one task: different fields both stay (keyword links
+// included); the same field is asked about.
 
 #include <functional>
 #include <string>
@@ -17,7 +16,7 @@ namespace {
 constexpr const char* kKeyGreen = "EEEEEEEE-0000-0000-0000-000000000005";
 constexpr const char* kKeyGone = "FFFFFFFF-0000-0000-0000-000000000006";
 
-class ExistingTaskConcurrency : public ExistingTaskFixture {
+class ExistingTaskConcurrency : public Seeded<ExistingTaskFixture> {
 protected:
     std::string column(const std::string& name) const {
         return readOne("SELECT " + name + " FROM TASKS WHERE tskGUIDID='" + kTask + "'");
@@ -47,7 +46,6 @@ protected:
 }  // namespace
 
 TEST_F(ExistingTaskConcurrency, DifferentFieldsOfTwoEditorsBothStay) {
-    seed();
     const std::string task = kTask;
     struct Case {
         const char* name;
@@ -119,7 +117,6 @@ TEST_F(ExistingTaskConcurrency, DifferentFieldsOfTwoEditorsBothStay) {
 // No keeps the dialog with what was typed and stores nothing; Yes puts the
 // user's value over the other user's and keeps their other changes.
 TEST_F(ExistingTaskConcurrency, TheSameFieldIsAskedAboutFirst) {
-    seed();
     fresh();
     editor("spellTask", "My desc");
     editor("SpellNotes", "My notes");
@@ -158,7 +155,6 @@ TEST_F(ExistingTaskConcurrency, TheSameFieldIsAskedAboutFirst) {
 // a keyword made after the dialog opened. The user's changes apply to what
 // stands; the gone keyword's link goes; every row carries the description.
 TEST_F(ExistingTaskConcurrency, KeywordLinksMergeThreeWays) {
-    seed();
     addKeyword(kKeyGreen, "Colour", "Green");
     fresh();
     for (const char* k : {kKeyRed, kKeyGreen, kKeyGone}) linkKeyword(k);

@@ -2,6 +2,7 @@
 // Opens the Existing Task dialog through clsTask2 on a fresh store with a
 // stored task, and drives it with scripted user actions.
 
+#include <functional>
 #include <string>
 
 #include "dialogs/existingtask/ExistingTaskFields.h"
@@ -22,6 +23,14 @@ protected:
     void linkKeyword(const std::string& keyword) const;
 
     void openTask(int32_t mode = 1, const std::string& guid = kTask) { open(mode, guid); }
+    // Runs the checks in the opened dialog, then closes it.
+    void look(const std::function<void()>& checks, int32_t mode = 1) {
+        then([this, checks] {
+            checks();
+            eform().hide();
+        });
+        openTask(mode);
+    }
     frmExistingTask& eform() { return *task_.frmE(); }
     Form& shown() override { return eform(); }
 

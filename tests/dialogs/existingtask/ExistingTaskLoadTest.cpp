@@ -1,6 +1,5 @@
-// Opening a stored task in the Existing Task dialog: every field of the
-// row in its tool, the fixed status words, the red past deadline, the
-// checklist, the keyword ticks and the two modes' captions.
+// Opening a stored task in the Existing Task dialog: every field in its tool,
+// the deadline, the checklist, the keyword ticks and the modes' captions.
 
 #include "dialogs/DialogExpect.h"
 #include "dialogs/existingtask/ExistingTaskFixture.h"
@@ -10,14 +9,13 @@
 
 namespace qv {
 
-using ExistingTaskLoad = ExistingTaskFixture;
+using ExistingTaskLoad = Seeded<ExistingTaskFixture>;
 
 TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
-    seed();
     addTask(", tskDeadline", ", '2030-06-01 17:00:00.000'");
     linkKeyword(kKeyBlue);
     exec("UPDATE Settings SET SetSettingValue='Done' WHERE SetSettingName='STATUS1'");
-    then([this] {
+    look([this] {
         EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Edit Task");
         EXPECT_EQ(eform().editor("spellTask")->text(), "Paint the fence");
         EXPECT_EQ(eform().editor("SpellNotes")->text(), "Two coats");
@@ -39,18 +37,15 @@ TEST_F(ExistingTaskLoad, ModeOneShowsEveryFieldOfTheRow) {
         EXPECT_EQ(tool("smtABOUT", "PROJECT").items().back()->caption(), "New Project");
         EXPECT_TRUE(tool("smtABOUT", "PROJECT").item(std::string("PRJ-") + kBeta) != nullptr);
         EXPECT_FALSE(g().SettingUp);
-        eform().hide();
     });
-    openTask();
     EXPECT_EQ(events_.front(), "LoadingTask");
     EXPECT_TRUE(reporter().faults().empty());
 }
 
 TEST_F(ExistingTaskLoad, CompletedPastDeadlineMidnightAndOddStatuses) {
-    seed();
     addTask(", tskDeadline", ", '2020-06-01 00:00:00.000'");
     exec("UPDATE TASKS SET tskStatus=0");
-    then([this] {
+    look([this] {
         EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "Completed");
         EXPECT_TRUE(tool("smtABOUT", "STATUS").bold());
         EXPECT_TRUE(tool("smtReady", "DONE").checked());
@@ -59,42 +54,29 @@ TEST_F(ExistingTaskLoad, CompletedPastDeadlineMidnightAndOddStatuses) {
         EXPECT_EQ(tool("smtABOUT", "DEADLINE").foreColor(), 255);
         EXPECT_TRUE(tool("smtABOUT", "DEADTIME").bold());
         EXPECT_FALSE(tool("smtActions", "UPDATE").enabled()) << "the load's Done tick enables nothing";
-        eform().hide();
     });
-    openTask();
 
     // A status beyond the list leaves the tool empty and fails nothing.
     exec("UPDATE TASKS SET tskStatus=42");
-    then([this] {
-        EXPECT_EQ(tool("smtABOUT", "STATUS").text(), "");
-        eform().hide();
-    });
-    openTask();
+    look([this] { EXPECT_EQ(tool("smtABOUT", "STATUS").text(), ""); });
     EXPECT_TRUE(reporter().faults().empty());
 }
 
 TEST_F(ExistingTaskLoad, ChecklistFoundOrLostAndAMissingRow) {
-    seed();
     const std::string longName(90, 'n');
     exec("INSERT INTO CHECKLISTS (ckGUIDID, ckName, ckDesc, ckContent) VALUES ('" + std::string(kChecklist) + "', '" +
          longName + "', 'd', 'step one')");
     addTask(", tskTCheckListGUID, tskHasChecklist", ", '" + std::string(kChecklist) + "', 1");
-    then([this, longName] {
+    look([this, longName] {
         EXPECT_EQ(eform().label("lblCk")->caption(), " Checklist: " + longName.substr(0, 80) + "...");
         EXPECT_EQ(eform().editor("spellCK")->text(), "step one");
         EXPECT_TRUE(tool("smtCKActions", "EDIT").visible());
-        eform().hide();
     });
-    openTask();
     EXPECT_TRUE(scriptedUi().messages().empty());
 
     exec("DELETE FROM CHECKLISTS");
     scriptedUi().queueAnswer(vbOK);
-    then([this] {
-        EXPECT_FALSE(eform().fields().checklist.utilCheckListExists);
-        eform().hide();
-    });
-    openTask();
+    look([this] { EXPECT_FALSE(eform().fields().checklist.utilCheckListExists); });
     ASSERT_EQ(scriptedUi().messages().size(), 1u);
     EXPECT_EQ(scriptedUi().lastMessage().text, "The checklist formerly associated with this task could not be found.");
     EXPECT_EQ(scriptedUi().lastMessage().style, vbInformation);
@@ -107,15 +89,12 @@ TEST_F(ExistingTaskLoad, ChecklistFoundOrLostAndAMissingRow) {
 }
 
 TEST_F(ExistingTaskLoad, ModeFiveOffersTheCatalogSaveAndTrimtoLen) {
-    seed();
     addTask();
-    then([this] {
+    look([this] {
         EXPECT_EQ(eform().caption(), "Quorvel - Version 1.14 - Create Task Catalog Item");
         EXPECT_EQ(tool("smtActions", "UPDATE").caption(), "Save to &Task Catalog");
         EXPECT_TRUE(tool("smtActions", "UPDATE").enabled());
-        eform().hide();
-    });
-    openTask(5);
+    }, 5);
     EXPECT_EQ(frmExistingTask::TrimtoLen("abcdef", 6), "abcdef");
     EXPECT_EQ(frmExistingTask::TrimtoLen("abcdefg", 6), "abcdef...");
     EXPECT_EQ(frmExistingTask::TrimtoLen("äöüäöüä", 6), "äöüäöü...");

@@ -1,6 +1,5 @@
-// Validating and updating a stored task: what "UPDATE" writes and what it
-// leaves, the status and Done, the catalog's time history, the host's
-// events, and the checks that keep "UPDATE" disabled.
+// What "UPDATE" writes and leaves, status and Done, the catalog's time
+// history, the host's events, and the checks that keep it disabled.
 
 #include <string>
 
@@ -13,7 +12,7 @@
 namespace qv {
 
 namespace {
-class ExistingTaskUpdate : public ExistingTaskFixture {
+class ExistingTaskUpdate : public Seeded<ExistingTaskFixture> {
 protected:
     const std::string where = " FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'";
     std::string column(const std::string& name) const { return readOne("SELECT " + name + where); }
@@ -24,7 +23,6 @@ protected:
 }  // namespace
 
 TEST_F(ExistingTaskUpdate, ChangedDeadlineIsWrittenAndOnlyAssignedColumnsGoBack) {
-    seed();
     addTask(", tskCustSortQV", ", 7");
     then([this] {
         eform().dateBox("ctDeadline")->userSetValue(46000.0);
@@ -51,7 +49,6 @@ TEST_F(ExistingTaskUpdate, ChangedDeadlineIsWrittenAndOnlyAssignedColumnsGoBack)
 }
 
 TEST_F(ExistingTaskUpdate, DoneTickCompletesTheTaskWithTodayAsDateDone) {
-    seed();
     addTask();
     then([this] {
         fakeClock().setNow(45320.75);
@@ -82,7 +79,6 @@ TEST_F(ExistingTaskUpdate, DoneTickCompletesTheTaskWithTodayAsDateDone) {
 }
 
 TEST_F(ExistingTaskUpdate, CompletedCatalogTaskShiftsTheTimeHistoryOnEachSave) {
-    seed();
     exec("INSERT INTO TASKSCAT (tskGUIDID, tskTimeN0, tskTimeN1, tskTimeN2, tskTimeN3, tskTimeN4) VALUES ('" +
          std::string(kCatalogItem) + "', 10, 20, 30, 40, 50)");
     addTask(", tskTaskCatGUID", ", '" + std::string(kCatalogItem) + "'");
@@ -118,7 +114,6 @@ TEST_F(ExistingTaskUpdate, CompletedCatalogTaskShiftsTheTimeHistoryOnEachSave) {
 }
 
 TEST_F(ExistingTaskUpdate, ChecksKeepUpdateDisabledAndTellWhatIsMissing) {
-    seed();
     addTask();
     typeDescription(std::string(256, 'x'));
     then([this] {
@@ -156,17 +151,12 @@ TEST_F(ExistingTaskUpdate, ChecksKeepUpdateDisabledAndTellWhatIsMissing) {
     typeDescription("Paint it thrice");
     then([this] { tool("smtTimes", "TIMESPENT").setText("2 Days"); });
     click("smtActions", "UPDATE");
-    then([this] {
-        EXPECT_FALSE(tool("smtActions", "UPDATE").enabled());
-        eform().hide();
-    });
-    openTask();
+    look([this] { EXPECT_FALSE(tool("smtActions", "UPDATE").enabled()); });
     expectColumns({{"tskTimeSpent", "40000"}, {"tskDesc", "Paint it twice"}});
     EXPECT_TRUE(reporter().faults().empty());
 }
 
 TEST_F(ExistingTaskUpdate, OutlookIsToldOnlyWithIntegrationAndAnEntry) {
-    seed();
     addTask(", tskOUTEntityID", ", 'OUT-1'");
     exec("UPDATE Settings SET SetSettingValue='True' WHERE SetSettingName='Integrate Outlook Tasks'");
     typeDescription("Paint the gate");
@@ -183,7 +173,6 @@ TEST_F(ExistingTaskUpdate, OutlookIsToldOnlyWithIntegrationAndAnEntry) {
 }
 
 TEST_F(ExistingTaskUpdate, EscapeAsksAfterAValidEditAndCloseBoxAsksItsOwn) {
-    seed();
     addTask();
     typeDescription("Paint the gate");
     answer(vbNo);

@@ -9,10 +9,9 @@
 
 namespace qv {
 
-using NewTaskCommands = NewTaskFixture;
+using NewTaskCommands = Seeded<NewTaskFixture>;
 
 TEST_F(NewTaskCommands, EachWayOutAsksOnTheDirtyDialogAndNoKeepsIt) {
-    seed();
     // How to leave, how many DoCloseTaskForm exactly (0: at least one), the Done caption after.
     struct Way {
         std::string name;
@@ -70,7 +69,6 @@ TEST_F(NewTaskCommands, EachWayOutAsksOnTheDirtyDialogAndNoKeepsIt) {
 }
 
 TEST_F(NewTaskCommands, ClearEmptiesWithoutACheckAndAnAddThenRefuses) {
-    seed();
     fireTimer();
     click("smtKeywords", kKeyRed);
     then([this] { form().editor("SpellNotes")->setText("notes"); });
@@ -95,7 +93,6 @@ TEST_F(NewTaskCommands, ClearEmptiesWithoutACheckAndAnAddThenRefuses) {
 }
 
 TEST_F(NewTaskCommands, StoreFaultTakesTheErrorPath) {
-    seed();
     fireTimer();
     then([this] { exec("DROP TABLE TaskKeywords"); });
     typeDescription("Half written");

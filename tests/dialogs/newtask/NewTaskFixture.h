@@ -49,4 +49,14 @@ protected:
     std::vector<std::string> events_;
 };
 
+// A fixture whose seed() runs before each test.
+template <class Fixture>
+class Seeded : public Fixture {
+protected:
+    void SetUp() override {
+        Fixture::SetUp();
+        this->seed();
+    }
+};
+
 }  // namespace qv

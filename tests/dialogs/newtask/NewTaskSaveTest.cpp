@@ -10,10 +10,9 @@
 
 namespace qv {
 
-using NewTaskSave = NewTaskFixture;
+using NewTaskSave = Seeded<NewTaskFixture>;
 
 TEST_F(NewTaskSave, ModeZeroOpensWithItsListsAndTheTimerDefaults) {
-    seed();
     addProject("EEEEEEEE-0000-0000-0000-000000000005", "Archived");
     addProject("FFFFFFFF-0000-0000-0000-000000000006", "archived");
     g().MOP = kBeta;
@@ -47,7 +46,6 @@ TEST_F(NewTaskSave, ModeZeroOpensWithItsListsAndTheTimerDefaults) {
 }
 
 TEST_F(NewTaskSave, AddToQuorvelWritesTheRowAndKeywordsAndCarriesOver) {
-    seed();
     exec("INSERT INTO TASKS (tskGUIDID, tskProjectKey) VALUES ('old', '" + std::string(kBeta) + "')");
     fireTimer();
     click("smtProj", kBeta);
@@ -105,7 +103,6 @@ TEST_F(NewTaskSave, AddToQuorvelWritesTheRowAndKeywordsAndCarriesOver) {
 }
 
 TEST_F(NewTaskSave, AFailureAmongTheKeywordRowsKeepsTheTaskRowWithoutThemAndEndsTheSession) {
-    seed();
     // The second keyword row of a task fails, after the first was written.
     if (onServerStore()) {
         exec("CREATE FUNCTION refuse_second() RETURNS trigger LANGUAGE plpgsql AS $$ BEGIN IF (SELECT COUNT(*) "
@@ -133,7 +130,6 @@ TEST_F(NewTaskSave, AFailureAmongTheKeywordRowsKeepsTheTaskRowWithoutThemAndEnds
 }
 
 TEST_F(NewTaskSave, HostKeyIsKeptAndACompletedTaskIsDoneToday) {
-    seed();
     const std::string hostKey = "12345678-1234-1234-1234-123456789012";
     fireTimer();
     then([this] { sheet("smtOther").click(*tool("smtOther", "STATUS").item("STATUS-0")); });
@@ -153,7 +149,6 @@ TEST_F(NewTaskSave, HostKeyIsKeptAndACompletedTaskIsDoneToday) {
 }
 
 TEST_F(NewTaskSave, CatalogItemIsFiledAndATaskIsMadeFromIt) {
-    seed();
     fireTimer();
     click("smtProj", kBeta);
     click("smtImp", "IMP-3");
@@ -198,7 +193,6 @@ TEST_F(NewTaskSave, CatalogItemIsFiledAndATaskIsMadeFromIt) {
 }
 
 TEST_F(NewTaskSave, CatalogItemWithAPastDeadlineAndAnOddTime) {
-    seed();
     const std::string item = "99999999-0000-0000-0000-000000000009";
     exec("INSERT INTO TASKSCAT (tskGUIDID, tskDesc, tskProjectKey, tskImp, tskDifficulty, tskTimeNeeded, "
          "tskDeadline, tskStatus, tskHasChecklist, tskCurrent) VALUES ('" + item + "', 'Old', '" + kAlpha +

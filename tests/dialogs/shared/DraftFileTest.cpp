@@ -1,6 +1,5 @@
-// The draft file: what goes in comes back byte for byte, each store, mode
-// and task has its own file, and a file that does not read back whole is
-// ignored and removed.
+// The draft file: byte-for-byte texts, one file per store, mode and task;
+// a file that does not read back whole is ignored and removed.
 
 #include <filesystem>
 

@@ -1,7 +1,5 @@
-// Drafts through the three task dialogs as a host opens them: what the
-// user typed is kept through the error path, offered once at the next open
-// (Yes fills it in as typing, No drops it), and gone after a save that
-// landed or a close without saving.
+// Drafts through the three task dialogs: kept through the error path, offered
+// once at the next open, gone after a save that landed or a plain close.
 
 #include <filesystem>
 #include <functional>
@@ -20,14 +18,11 @@ namespace fs = std::filesystem;
 constexpr const char* kSlot = "22222222-0000-0000-0000-000000000001";
 constexpr const char* kDesc = "Paint the fence and the gate";
 constexpr const char* kNotes = "Dark green,\ntwo coats";
-constexpr const char* kNewDesc =
-    "SELECT tskDesc FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kNewNotes =
-    "SELECT tskNotes FROM TASKS WHERE tskGUIDID <> '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kTaskDesc =
-    "SELECT tskDesc FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
-constexpr const char* kTaskNotes =
-    "SELECT tskNotes FROM TASKS WHERE tskGUIDID = '99999999-0000-0000-0000-000000000009'";
+// Where the new task's and the stored task's texts land.
+#define QV_TASK_TEXT(column, op) \
+    "SELECT " column " FROM TASKS WHERE tskGUIDID " op " '99999999-0000-0000-0000-000000000009'"
+constexpr const char *kNewDesc = QV_TASK_TEXT("tskDesc", "<>"), *kNewNotes = QV_TASK_TEXT("tskNotes", "<>");
+constexpr const char *kTaskDesc = QV_TASK_TEXT("tskDesc", "="), *kTaskNotes = QV_TASK_TEXT("tskNotes", "=");
 
 class DraftsTest : public ExistingTaskFixture {
 protected:
@@ -51,12 +46,10 @@ protected:
         task_.setTempErrReport(std::shared_ptr<Reporter>(&reporter(), [](Reporter*) {}));
         seed();
         addTask();
-        exec(
-            "INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, "
-            "taEndTime, "
-            "taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked, taDuration) VALUES ('" +
-            std::string(kSlot) + "', '" + kTask + "', 'Alpha', '" + kAlpha +
-            "', '2026-11-24T09:00:00.000', '2026-11-24T10:30:00.000', 'Paint the fence', 2, 3, 0, 0, 90)");
+        exec("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taProject, taProjectGUIDID, taStartTime, taEndTime, "
+             "taTaskDesc, taImp, taDifficulty, taWasWorked, taTimeWorked, taDuration) VALUES ('" + std::string(kSlot) +
+             "', '" + kTask + "', 'Alpha', '" + kAlpha +
+             "', '2026-11-24T09:00:00.000', '2026-11-24T10:30:00.000', 'Paint the fence', 2, 3, 0, 0, 90)");
     }
 
     static std::vector<Dialog> dialogs() {
@@ -212,12 +205,9 @@ TEST_F(DraftsTest, ACloseWithoutSavingOrASaveLeavesNoDraft) {
 TEST_F(DraftsTest, OfferedOnlyForItsOwnTaskAndOnlyWhereItChangesSomething) {
     const Dialog d = dialogs()[1];
     typeThenFault(d);
-    exec(
-        "INSERT INTO TASKS (tskGUIDID, tskDesc, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, "
-        "tskTimeSpent, "
-        "tskProject, tskProjectKey) VALUES ('99999999-0000-0000-0000-000000000008', 'Other', 1, 2, 3, 30, 0, "
-        "'Alpha', '" +
-        std::string(kAlpha) + "')");
+    exec("INSERT INTO TASKS (tskGUIDID, tskDesc, tskStatus, tskImp, tskDifficulty, tskTimeNeeded, tskTimeSpent, "
+         "tskProject, tskProjectKey) VALUES ('99999999-0000-0000-0000-000000000008', 'Other', 1, 2, 3, 30, 0, "
+         "'Alpha', '" + std::string(kAlpha) + "')");
     key(vbKeyEscape);
     openTask(1, "99999999-0000-0000-0000-000000000008");
     EXPECT_EQ(questionsAsked(), 0u);
