@@ -4,7 +4,6 @@
 #include <sys/mount.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -12,6 +11,7 @@
 #include "dialogs/existingtask/ExistingTaskFixture.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/Connection.h"
+#include "support/ScopedEnv.h"
 
 namespace qv {
 
@@ -32,9 +32,7 @@ protected:
             mount_.clear();
             GTEST_SKIP() << "no tmpfs could be mounted";
         }
-        const char* tmp = std::getenv("TMPDIR");
-        oldTmp_ = tmp ? tmp : "";
-        ::setenv("TMPDIR", mount_.c_str(), 1);
+        env_.set("TMPDIR", mount_.c_str());
         ExistingTaskFixture::SetUp();
         seed();
         addTask();
@@ -42,10 +40,6 @@ protected:
     void TearDown() override {
         if (mount_.empty()) return;
         ExistingTaskFixture::TearDown();
-        if (oldTmp_.empty())
-            ::unsetenv("TMPDIR");
-        else
-            ::setenv("TMPDIR", oldTmp_.c_str(), 1);
         ::umount2(mount_.c_str(), MNT_DETACH);
         fs::remove(mount_);
     }
@@ -75,7 +69,7 @@ protected:
     }
 
     std::string mount_;
-    std::string oldTmp_;
+    ScopedEnv env_;
 };
 
 }  // namespace

@@ -11,14 +11,7 @@
 
 namespace qv {
 
-namespace {
-class AppointmentConcurrency : public Seeded<AppointmentFixture> {
-protected:
-    void otherUser(const std::string& sql) {
-        then([this, sql] { exec(sql); });
-    }
-};
-}  // namespace
+using AppointmentConcurrency = Seeded<AppointmentFixture>;
 
 // The user changes the description and the end; another user the notes,
 // the importance and the start: all of it stays, and the duration follows

@@ -18,9 +18,6 @@ constexpr const char* kKeyGone = "FFFFFFFF-0000-0000-0000-000000000006";
 
 class ExistingTaskConcurrency : public Seeded<ExistingTaskFixture> {
 protected:
-    std::string column(const std::string& name) const {
-        return readOne("SELECT " + name + " FROM TASKS WHERE tskGUIDID='" + kTask + "'");
-    }
     std::string links() const {
         return readOne("SELECT count(*) FROM TaskKeywords WHERE ktTASKGUID='" + std::string(kTask) + "'");
     }
@@ -37,9 +34,6 @@ protected:
     }
     void editor(const std::string& name, const std::string& text) {
         then([this, name, text] { eform().editor(name)->userEdit(text); });
-    }
-    void otherUser(const std::string& sql) {
-        then([this, sql] { exec(sql); });
     }
 };
 

@@ -21,6 +21,10 @@ protected:
     // 1:30 needed, 0:45 spent, with extra column assignments (SQL).
     void addTask(const std::string& extraColumns = {}, const std::string& extraValues = {}) const;
     void linkKeyword(const std::string& keyword) const;
+    // A column of the stored task.
+    [[nodiscard]] std::string column(const std::string& name) const {
+        return readOne("SELECT " + name + " FROM TASKS WHERE tskGUIDID='" + kTask + "'");
+    }
 
     void openTask(int32_t mode = 1, const std::string& guid = kTask) { open(mode, guid); }
     // Runs the checks in the opened dialog, then closes it.

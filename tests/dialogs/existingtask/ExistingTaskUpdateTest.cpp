@@ -14,8 +14,6 @@ namespace qv {
 namespace {
 class ExistingTaskUpdate : public Seeded<ExistingTaskFixture> {
 protected:
-    const std::string where = " FROM TASKS WHERE tskGUIDID='" + std::string(kTask) + "'";
-    std::string column(const std::string& name) const { return readOne("SELECT " + name + where); }
     void expectColumns(Expected cases) const {
         expectEach([this](const std::string& c) { return column(c); }, cases);
     }

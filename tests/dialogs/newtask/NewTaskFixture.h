@@ -42,6 +42,8 @@ protected:
     void typeDescription(const std::string& text);
     void key(int32_t code) { then([this, code] { shown().keyDown(code); }); }
     void closeHidden() { then([this] { shown().hide(); }); }
+    // Another user's change to the store, made while the dialog is shown.
+    void otherUser(const std::string& sql) { then([this, sql] { exec(sql); }); }
 
     [[nodiscard]] int count(const std::string& eventName) const;
 

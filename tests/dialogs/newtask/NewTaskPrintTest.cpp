@@ -65,20 +65,15 @@ TEST_F(NewTaskPrint, TheReportOfATaskNotYetSaved) {
     then([this] { form().controls().SpellNotes.userEdit("Before the frost"); });
     print(vbYes);
     leave();
-    openWith(with({{"HEADING", "Garden"},
-                   {"HFONT", "Verdana"},
-                   {"HSIZE", "12"},
-                   {"HCOLOR", "255"},
+    openWith(with({{"HEADING", "Garden"}, {"HFONT", "Verdana"}, {"HSIZE", "12"}, {"HCOLOR", "255"},
                    {"PCHECKLIST", "False"}}));
 
     EXPECT_EQ(scriptedUi().messages().at(0).text, "Print this Task? It may take a moment or two to prepare.");
     EXPECT_EQ(scriptedUi().messages().at(0).style, vbYesNo);
     const std::string html = readFile(reportFile());
-    EXPECT_EQ(
-        html.rfind("<h1><font face=Verdana color=4><span style= \"font-size:16pt\">Garden</span></font></h1>",
-                   0),
-        0u)
-        << html;
+    const std::string heading =
+        "<h1><font face=Verdana color=4><span style= \"font-size:16pt\">Garden</span></font></h1>";
+    EXPECT_EQ(html.rfind(heading, 0), 0u) << html;
     const std::string value =
         "<td width=\"60%\"align=\"left\" bgcolor=\"#FFFFFF\"><font face=\"Verdana\" color=\"255\" "
         "size=\"2\">";
@@ -112,13 +107,8 @@ TEST_F(NewTaskPrint, QuestionsFootersAndMargins) {
     print(vbYes, "PRINTPREVIEW");
     leave();
     locale_.system = 1;
-    openWith(with({{"FLEFT", "Quorvel - Version 1.03"},
-                   {"FRIGHT", "Page Number"},
-                   {"LEFT", "0.5"},
-                   {"PTASK", "False"},
-                   {"PCHECKLIST", ""},
-                   {"PNOTES", "False"},
-                   {"HEADING", "Only this"}}));
+    openWith(with({{"FLEFT", "Quorvel - Version 1.03"}, {"FRIGHT", "Page Number"}, {"LEFT", "0.5"},
+                   {"PTASK", "False"}, {"PCHECKLIST", ""}, {"PNOTES", "False"}, {"HEADING", "Only this"}}));
     EXPECT_EQ(scriptedUi().messages().at(1).text,
               "Print Preview this Task? It may take a moment or two to prepare.");
     EXPECT_TRUE(surface_.printed.empty());
