@@ -266,13 +266,10 @@ TEST_F(RecordsetTest, JetTextsRunUnchanged) {
     }
     {
         const std::string grid =
-            std::string(
-                "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, "
-                "TASKAPPTS.taTimeWorked, TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, ") +
-            "TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, TASKAPPTS.taProject, "
-            "TASKAPPTS.taImp, TASKAPPTS.taDifficulty" +
-            " From TASKAPPTS" + " Where (((TASKAPPTS.taTaskGUIDID) = " + "\"T1\"" + "))" +
-            " ORDER BY TASKAPPTS.taStartTime DESC;";
+            "SELECT TASKAPPTS.taStartTime, TASKAPPTS.taEndTime, TASKAPPTS.taWasWorked, TASKAPPTS.taTimeWorked, "
+            "TASKAPPTS.taTaskGUIDID, TASKAPPTS.taGUIDID, TASKAPPTS.taTaskDesc, TASKAPPTS.taProjectGUIDID, "
+            "TASKAPPTS.taProject, TASKAPPTS.taImp, TASKAPPTS.taDifficulty From TASKAPPTS Where "
+            "(((TASKAPPTS.taTaskGUIDID) = \"T1\")) ORDER BY TASKAPPTS.taStartTime DESC;";
         auto rs = open(grid, adLockBatchOptimistic);
         EXPECT_EQ(rs->RecordCount(), 2);
         EXPECT_EQ(rs->FieldCount(), 11);
