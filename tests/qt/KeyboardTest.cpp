@@ -220,7 +220,7 @@ TEST_F(Keyboard, TheMenusHoldEveryCommandWithAShortcutAndTheToolBarFits) {
     };
     // The keys people know, and "..." on the commands that ask for a file.
     const std::map<QString, QKeySequence> known{
-        {"actNewTask", QKeySequence::New},          {"actExportTasks", QKeySequence("Ctrl+E")},
+        {"actNewTask", QKeySequence(QKeySequence::New)}, {"actExportTasks", QKeySequence("Ctrl+E")},
         {"actExportTask", QKeySequence("Ctrl+Shift+E")}, {"actImportTasks", QKeySequence("Ctrl+I")},
         {"actExportSpreadsheet", QKeySequence("Ctrl+Shift+X")}};
     std::set<QString> keys;
