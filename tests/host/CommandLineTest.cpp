@@ -14,6 +14,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "installer/StoreInstaller.h"
 
@@ -169,24 +170,21 @@ TEST_F(CommandLine, AnswersEveryCaseAndLeavesTheUsersStoreAsItWas) {
 struct LanguageCase {
     const char* locale;  // the locale variables
     const char* args;
-    const char* out;  // standard output holds this ("" for empty)
-    const char* err;  // standard error holds this ("" for empty)
+    std::vector<const char*> out, err;  // standard output and error hold these
 };
 
 const LanguageCase kLanguages[] = {
-    {"LANG=de_DE.UTF-8", "--help", "Diese Hilfe zeigen und beenden.", ""},
-    {"LANG=de_DE.UTF-8", "--help", "Optionen:", ""},
-    {"LANG=de_DE.UTF-8", "--home USER leftover", "", "unerwartetes Argument 'leftover'"},
-    {"LANG=de_DE.UTF-8", "--bogus", "", "Unbekannte Option 'bogus'"},
-    {"LANG=de_DE.UTF-8", "--home USER", "", "Ihr Datenbestand: "},
-    {"LANG=de_DE.UTF-8", "--home USER --install-store", "Der Datenbestand besteht bereits in", ""},
-    {"LANG=C", "--help", "Show this help and exit.", ""},
-    {"LANG=C", "--help", "Options:", ""},
-    {"LANG=C", "--home USER leftover", "", "unexpected argument 'leftover'"},
-    {"LANG=C.UTF-8", "--home USER --install-store", "The store stands already in", ""},
+    {"LANG=de_DE.UTF-8", "--help", {"Diese Hilfe zeigen und beenden.", "Optionen:"}, {}},
+    {"LANG=de_DE.UTF-8", "--home USER leftover", {}, {"unerwartetes Argument 'leftover'"}},
+    {"LANG=de_DE.UTF-8", "--bogus", {}, {"Unbekannte Option 'bogus'"}},
+    {"LANG=de_DE.UTF-8", "--home USER", {}, {"Ihr Datenbestand: "}},
+    {"LANG=de_DE.UTF-8", "--home USER --install-store", {"Der Datenbestand besteht bereits in"}, {}},
+    {"LANG=C", "--help", {"Show this help and exit.", "Options:"}, {}},
+    {"LANG=C", "--home USER leftover", {}, {"unexpected argument 'leftover'"}},
+    {"LANG=C.UTF-8", "--home USER --install-store", {"The store stands already in"}, {}},
     // The C locales ignore LANGUAGE, Qt's texts as much as the program's.
-    {"LANG=C.UTF-8 LANGUAGE=de", "--help", "Options:", ""},
-    {"LANG=C.UTF-8 LANGUAGE=de", "--bogus", "", "Unknown option 'bogus'"},
+    {"LANG=C.UTF-8 LANGUAGE=de", "--help", {"Options:"}, {}},
+    {"LANG=C.UTF-8 LANGUAGE=de", "--bogus", {}, {"Unknown option 'bogus'"}},
 };
 
 TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
@@ -199,12 +197,8 @@ TEST_F(CommandLine, SpeaksTheLanguageOfItsEnvironment) {
         if (auto at = args.find("USER"); at != std::string::npos) args.replace(at, 4, user_.string());
         SCOPED_TRACE(std::string(c.locale) + " " + args);
         const Outcome r = run(args, c.locale);
-        if (*c.out) {
-            EXPECT_NE(r.out.find(c.out), std::string::npos) << r.out;
-        }
-        if (*c.err) {
-            EXPECT_NE(r.err.find(c.err), std::string::npos) << r.err;
-        }
+        for (const char* out : c.out) EXPECT_NE(r.out.find(out), std::string::npos) << r.out;
+        for (const char* err : c.err) EXPECT_NE(r.err.find(err), std::string::npos) << r.err;
     }
     if (!german) GTEST_SKIP() << "no de_DE.UTF-8 locale on this machine";
 }

@@ -25,6 +25,7 @@
 #include "script/ScriptRunner.h"
 #include "store/Connection.h"
 #include "support/RunCount.h"
+#include "support/ScopedEnv.h"
 
 namespace qv {
 namespace {
@@ -66,12 +67,11 @@ std::string quoted(const std::string& text) {
 TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
     if (std::getenv("QV_STORE_URI")) GTEST_SKIP() << "one process's store file";
     const int runs = runCount("QV_DRAFT_RUNS", 3);
-    const char* before = std::getenv("XDG_STATE_HOME");
-    const std::string stateBefore = before ? before : "";
     int restored = 0;
     for (int run = 0; run < runs; ++run) {
         const std::string folder = freshFolder();
-        ::setenv("XDG_STATE_HOME", (folder + "/state").c_str(), 1);
+        ScopedEnv state;
+        state.set("XDG_STATE_HOME", (folder + "/state").c_str());
         const std::string desc = "Typed in run " + std::to_string(run);
         const std::string notes = "Notes of run " + std::to_string(run) + "\nand a second line";
         const std::string draft = DraftFile::pathFor({folder + "/QuorvelData.mdb", 1, kTask});
@@ -104,10 +104,6 @@ TEST(KillDraft, TheTypingOfAKilledDialogIsOfferedBackAndSaved) {
         EXPECT_EQ(failed, 0) << "run " << run << "\n" << out.str();
         if (failed == 0) ++restored;
         Connection::releaseAll();
-        if (before)
-            ::setenv("XDG_STATE_HOME", stateBefore.c_str(), 1);
-        else
-            ::unsetenv("XDG_STATE_HOME");
         std::error_code ec;
         fs::remove_all(folder, ec);
     }

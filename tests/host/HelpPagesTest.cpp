@@ -20,6 +20,16 @@ const fs::path kShipped = fs::path(QV_SOURCE_DIR) / "share" / "help";
 class HelpPages : public TestEnv {
 protected:
     HelpPages() : TestEnv({.store = false, .settingsFile = false}) {}
+    // A page has its heading, and each link lands in one of the two folders.
+    static void expectHeadedAndLinksLand(const fs::path& page, const fs::path& own, const fs::path& english) {
+        const std::string text = readFile(page);
+        EXPECT_NE(text.find("<h1>"), std::string::npos) << page;
+        const std::regex link(R"(href="([^"#]+))");
+        for (auto it = std::sregex_iterator(text.begin(), text.end(), link); it != std::sregex_iterator(); ++it) {
+            const std::string to = (*it)[1].str();
+            EXPECT_TRUE(fs::exists(own / to) || fs::exists(english / to)) << page << " links to " << to;
+        }
+    }
 };
 
 // Every page the topic table names ships, and every link between the pages
@@ -28,11 +38,7 @@ TEST_F(HelpPages, EveryTopicHasAPageAndEveryLinkLands) {
     for (const std::string& file : HelpTopics::pageFiles()) {
         const fs::path page = kShipped / file;
         ASSERT_TRUE(fs::exists(page)) << file;
-        const std::string text = readFile(page);
-        EXPECT_NE(text.find("<h1>"), std::string::npos) << file;
-        const std::regex link(R"(href="([^"#]+))");
-        for (auto it = std::sregex_iterator(text.begin(), text.end(), link); it != std::sregex_iterator(); ++it)
-            EXPECT_TRUE(fs::exists(kShipped / (*it)[1].str())) << file << " links to " << (*it)[1];
+        expectHeadedAndLinksLand(page, kShipped, kShipped);
     }
     EXPECT_EQ(helpPagesSource(), kShipped.string());
 }
@@ -47,13 +53,7 @@ TEST_F(HelpPages, EveryTranslatedPageHasItsEnglishPageAndItsLinksLand) {
         for (const auto& entry : fs::directory_iterator(folder.path())) {
             const std::string file = entry.path().filename().string();
             EXPECT_TRUE(fs::exists(kShipped / file)) << folder.path().filename() << "/" << file;
-            const std::string text = readFile(entry.path());
-            EXPECT_NE(text.find("<h1>"), std::string::npos) << file;
-            const std::regex link(R"(href="([^"#]+))");
-            for (auto it = std::sregex_iterator(text.begin(), text.end(), link); it != std::sregex_iterator(); ++it) {
-                const std::string to = (*it)[1].str();
-                EXPECT_TRUE(fs::exists(folder.path() / to) || fs::exists(kShipped / to)) << file << " links to " << to;
-            }
+            expectHeadedAndLinksLand(entry.path(), folder.path(), kShipped);
             ++translated;
         }
     }

@@ -91,28 +91,15 @@ TEST(Languages, TheCLocaleKeepsEveryTextInEnglish) {
 }
 
 TEST(Languages, FillPutsThePartsInTheirPlaces) {
-    const struct {
-        const char* text;
-        std::vector<std::string> parts;
-        const char* filled;
-    } rows[] = {
-        {"%1 and %2", {"a", "b"}, "a and b"},
-        {"%2 before %1", {"a", "b"}, "b before a"},
-        {"100% of %1", {"it"}, "100% of it"},
-        {"%3 has no part", {"a"}, "%3 has no part"},
-        {"%1", {"%2"}, "%2"},  // a part is not searched again
-        {"ends with %", {}, "ends with %"},
+    const std::pair<std::string, const char*> rows[] = {
+        {fill("%1 and %2", {"a", "b"}), "a and b"},
+        {fill("%2 before %1", {"a", "b"}), "b before a"},
+        {fill("100% of %1", {"it"}), "100% of it"},
+        {fill("%3 has no part", {"a"}), "%3 has no part"},
+        {fill("%1", {"%2"}), "%2"},  // a part is not searched again
+        {fill("ends with %", {}), "ends with %"},
     };
-    for (const auto& r : rows) {
-        std::string got;
-        if (r.parts.size() == 2)
-            got = fill(r.text, {r.parts[0], r.parts[1]});
-        else if (r.parts.size() == 1)
-            got = fill(r.text, {r.parts[0]});
-        else
-            got = fill(r.text, {});
-        EXPECT_EQ(got, r.filled) << r.text;
-    }
+    for (const auto& [got, filled] : rows) EXPECT_EQ(got, filled);
 }
 
 }  // namespace

@@ -1,13 +1,6 @@
-// The store shared with other processes, through the scenario driver as a
-// host uses the component.
-// - Saves killed at random instants: a child process saves tasks with three
-//   keywords each (New Task, the QV action, again and again) and is killed
-//   with SIGKILL; every task left must be whole (its three keyword rows,
-//   none without its task) and the file sound. QV_KILL_RUNS sets the number
-//   of runs (default 30).
-// - Another process holding the write lock: a short hold delays the save,
-//   which lands; a hold past the busy timeout ends the session with the
-//   busy message and leaves nothing of the save.
+// The store shared with other processes, through the scenario driver: saves
+// killed at random instants leave whole tasks (QV_KILL_RUNS runs, default
+// 30), and another process's write lock delays a save or ends it cleanly.
 
 #include <gtest/gtest.h>
 #include <signal.h>

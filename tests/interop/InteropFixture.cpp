@@ -79,32 +79,21 @@ void addKeywords(int keywords) {
 
 void addTask(Adder& a, int i, int projects) {
     const int16_t status = static_cast<int16_t>(i % 6);
-    a.add({{"tskGUIDID", Value(key('T', i))},
-           {"tskDesc", Value(kOdd[i % kOdd.size()] + " " + std::to_string(i))},
+    const Value notes = i % 7 == 3 ? Value() : Value(i % 7 == 4 ? std::string() : kOdd[(i + 1) % kOdd.size()]);
+    a.add({{"tskGUIDID", Value(key('T', i))}, {"tskDesc", Value(kOdd[i % kOdd.size()] + " " + std::to_string(i))},
            {"tskProject", Value("Project + name " + std::to_string(i % projects))},
-           {"tskProjectKey", Value(key('P', i % projects))},
-           {"tskStatus", Value(status)},
-           {"tskImp", Value(static_cast<int16_t>(i % 5))},
-           {"tskDifficulty", Value(static_cast<int16_t>((i + 2) % 5))},
-           {"tskTimeNeeded", Value(int32_t{15 * (i % 40)})},
-           {"tskTimeScheduled", Value(int32_t{60 * (i % 3)})},
-           {"tskTimeSpent", Value(int32_t{7 * i})},
-           {"tskCurrent", Value(i % 3 == 0)},
-           {"tskHasSchedule", Value(i % 2 == 0)},
-           {"tskNotes", i % 7 == 3 ? Value() : Value(i % 7 == 4 ? std::string() : kOdd[(i + 1) % kOdd.size()])},
-           {"tskHasNotes", Value(i % 7 != 3 && i % 7 != 4)},
-           {"tskCreatedDate", date(i, 600 + i, i % 1000)},
-           {"tskLastMod", date(i + 1, 700 + i, 123)},
+           {"tskProjectKey", Value(key('P', i % projects))}, {"tskStatus", Value(status)},
+           {"tskImp", Value(static_cast<int16_t>(i % 5))}, {"tskDifficulty", Value(static_cast<int16_t>((i + 2) % 5))},
+           {"tskTimeNeeded", Value(int32_t{15 * (i % 40)})}, {"tskTimeScheduled", Value(int32_t{60 * (i % 3)})},
+           {"tskTimeSpent", Value(int32_t{7 * i})}, {"tskCurrent", Value(i % 3 == 0)},
+           {"tskHasSchedule", Value(i % 2 == 0)}, {"tskNotes", notes}, {"tskHasNotes", Value(i % 7 != 3 && i % 7 != 4)},
+           {"tskCreatedDate", date(i, 600 + i, i % 1000)}, {"tskLastMod", date(i + 1, 700 + i, 123)},
            {"tskDeadline", i % 4 == 1 ? Value() : date(i + 2, 9 * 60 + i % 50)},
-           {"tskDoneDate", status == 0 ? date(i + 3, 17 * 60) : Value()},
-           {"tskPossPoints", Value(int32_t{i % 11})},
-           {"tskCustSortQV", Value(int32_t{i})},
-           {"tskCustSortCUR", Value(int32_t{i / 3})},
-           {"tskCustSortProj", Value(int32_t{i / projects})},
-           {"tskHasChecklist", Value(i % 5 == 0)},
+           {"tskDoneDate", status == 0 ? date(i + 3, 17 * 60) : Value()}, {"tskPossPoints", Value(int32_t{i % 11})},
+           {"tskCustSortQV", Value(int32_t{i})}, {"tskCustSortCUR", Value(int32_t{i / 3})},
+           {"tskCustSortProj", Value(int32_t{i / projects})}, {"tskHasChecklist", Value(i % 5 == 0)},
            {"tskTCheckListGUID", i % 5 == 0 ? Value(key('C', i)) : Value(std::string())},
-           {"tskTaskCatGUID", i % 9 == 0 ? Value(key('X', i)) : Value()},
-           {"tskWasImported", Value(false)},
+           {"tskTaskCatGUID", i % 9 == 0 ? Value(key('X', i)) : Value()}, {"tskWasImported", Value(false)},
            {"tskOUTEntityID", Value(std::string())}});
 }
 
@@ -133,17 +122,13 @@ void InteropFixture::fillStore(int tasks) {
     Adder a("TASKAPPTS");
     for (int i = 0; i < tasks; i += 2)
         for (int n = 0; n < 2; ++n)
-            a.add({{"taGUIDID", Value(key('A', i * 2 + n))},
-                   {"taTaskGUIDID", Value(key('T', i))},
+            a.add({{"taGUIDID", Value(key('A', i * 2 + n))}, {"taTaskGUIDID", Value(key('T', i))},
                    {"taProject", Value("Project + name " + std::to_string(i % projects))},
-                   {"taProjectGUIDID", Value(key('P', i % projects))},
-                   {"taStartTime", date(i + n, 8 * 60 + 30 * n)},
+                   {"taProjectGUIDID", Value(key('P', i % projects))}, {"taStartTime", date(i + n, 8 * 60 + 30 * n)},
                    {"taEndTime", date(i + n, 9 * 60 + 30 * n)},
                    {"taTaskDesc", Value(kOdd[i % kOdd.size()] + " " + std::to_string(i))},
-                   {"taImp", Value(static_cast<int16_t>(i % 5))},
-                   {"taDifficulty", Value(static_cast<int16_t>(n))},
-                   {"taWasWorked", Value(n == 0)},
-                   {"taTimeWorked", Value(int32_t{n == 0 ? 45 : 0})},
+                   {"taImp", Value(static_cast<int16_t>(i % 5))}, {"taDifficulty", Value(static_cast<int16_t>(n))},
+                   {"taWasWorked", Value(n == 0)}, {"taTimeWorked", Value(int32_t{n == 0 ? 45 : 0})},
                    {"taDuration", Value(int32_t{60})}});
 }
 

@@ -1,9 +1,8 @@
 // The Existing Task dialog driven through its real window, from the host:
-// the schedule grid, the stopwatch, and Escape on a changed task.
+// the schedule grid and the stopwatch.
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QTabBar>
 #include <QTableView>
 #include <QTextEdit>
@@ -97,25 +96,6 @@ TEST_F(ExistingTaskWindow, ScheduleAddEditButtonAndStopwatch) {
     EXPECT_EQ(count("SELECT count(*) FROM TASKAPPTS"), 1);
     EXPECT_EQ(text("SELECT taStartTime FROM TASKAPPTS"), startBefore) << "a start that is no date changes nothing";
     EXPECT_FALSE(shown(kForm));
-}
-
-TEST_F(ExistingTaskWindow, EscapeAfterAValidEditAsksFirst) {
-    StepRunner steps;
-    int answers = 0;
-    steps.onMessageBox([&answers](QMessageBox&) { return ++answers == 1 ? QMessageBox::No : QMessageBox::Yes; });
-    steps.when("type", [] { return grid() != nullptr; },
-               [] { QTest::keyClicks(window()->findChild<QTextEdit*>("spellTask"), " twice"); }, 300);
-    steps.when("escape", [] { return button("smtActions.UPDATE") && button("smtActions.UPDATE")->isEnabled(); },
-               [] { QTest::keyClick(window(), Qt::Key_Escape); });
-    steps.when("still open after No", [&answers] { return answers == 1 && window(); },
-               [] { QTest::keyClick(window(), Qt::Key_Escape); }, 100);
-    steps.when("closed after Yes", [] { return !shown(kForm); }, [] {});
-    openTask(steps, kTask);
-
-    EXPECT_TRUE(ranAll(steps));
-    ASSERT_EQ(steps.messages().size(), 2);
-    EXPECT_TRUE(steps.messages()[0].contains("Discard changes made to this Task?")) << steps.messages()[0].toStdString();
-    EXPECT_EQ(text("SELECT tskDesc FROM TASKS"), "Paint the fence") << "nothing saved";
 }
 
 }  // namespace

@@ -218,6 +218,11 @@ TEST_F(Keyboard, TheMenusHoldEveryCommandWithAShortcutAndTheToolBarFits) {
         {"&Appointment", {"actWorkAppointment", "actSchedule"}},
         {"&Help", {"actHelpIndex", "actTour"}},
     };
+    // The keys people know, and "..." on the commands that ask for a file.
+    const std::map<QString, QKeySequence> known{
+        {"actNewTask", QKeySequence(QKeySequence::New)}, {"actExportTasks", QKeySequence("Ctrl+E")},
+        {"actExportTask", QKeySequence("Ctrl+Shift+E")}, {"actImportTasks", QKeySequence("Ctrl+I")},
+        {"actExportSpreadsheet", QKeySequence("Ctrl+Shift+X")}};
     std::set<QString> keys;
     for (QAction* top : w.menuBar()->actions()) {
         SCOPED_TRACE(top->text().toStdString());
@@ -225,9 +230,13 @@ TEST_F(Keyboard, TheMenusHoldEveryCommandWithAShortcutAndTheToolBarFits) {
         QStringList names;
         for (QAction* a : top->menu()->actions()) {
             if (a->isSeparator()) continue;
-            names << a->objectName();
-            EXPECT_FALSE(a->shortcut().isEmpty()) << a->objectName().toStdString();
+            const QString name = a->objectName();
+            names << name;
+            EXPECT_FALSE(a->shortcut().isEmpty()) << name.toStdString();
             EXPECT_TRUE(keys.insert(a->shortcut().toString()).second) << "one key, one command";
+            if (!known.count(name)) continue;
+            EXPECT_EQ(a->shortcut(), known.at(name)) << name.toStdString();
+            EXPECT_TRUE(name == "actNewTask" || a->text().endsWith("...")) << name.toStdString();
         }
         EXPECT_EQ(names, menus.at(top->text()));
     }

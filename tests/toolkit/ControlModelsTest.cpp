@@ -85,11 +85,6 @@ TEST(TextEditor, TextAndRichTextStayInStep) {
     EXPECT_EQ(ed.text(), "typed");
     ed.setText("the program may");
     EXPECT_EQ(changes, 4);
-
-    ed.setSpellCheckOn(true);
-    ed.bindSettings("TarnvikQuorvel");
-    EXPECT_TRUE(ed.spellCheckOn());
-    EXPECT_EQ(ed.settingsName(), "TarnvikQuorvel");
 }
 
 TEST(Grid, RowsColumnsAndSelection) {

@@ -1,8 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-
 #include "support/PrintPorts.h"
+#include "support/ScopedEnv.h"
 #include "toolkit/Failure.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/ToolkitFixture.h"
@@ -67,16 +66,11 @@ TEST(International, MeasurementFromThePortOrTheEnvironment) {
     EXPECT_EQ(getLocalMeasurement(), 1);
     ports().locale = nullptr;
 
-    const char* old = std::getenv("LC_ALL");
-    const std::string keep = old ? old : "";
-    setenv("LC_ALL", "en_US.UTF-8", 1);
+    ScopedEnv env;
+    env.set("LC_ALL", "en_US.UTF-8");
     EXPECT_EQ(getLocalMeasurement(), 1);
-    setenv("LC_ALL", "en_GB.UTF-8", 1);
+    env.set("LC_ALL", "en_GB.UTF-8");
     EXPECT_EQ(getLocalMeasurement(), 0);
-    if (old)
-        setenv("LC_ALL", keep.c_str(), 1);
-    else
-        unsetenv("LC_ALL");
     ports() = saved;
 }
 

@@ -3,7 +3,6 @@
 // personal word list, and an editor that works on without a dictionary.
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <memory>
 
 #include <QMenu>
@@ -13,30 +12,11 @@
 #include "kit/EnchantChecker.h"
 #include "kit/SpellHighlighter.h"
 #include "kit/TextEditorView.h"
+#include "support/ScopedEnv.h"
 #include "toolkit/TextEditor.h"
 
 namespace qv {
 namespace {
-
-// Sets environment variables for one test and puts them back after it.
-class Env {
-public:
-    void set(const char* name, const char* value) {
-        const char* old = std::getenv(name);
-        saved_.push_back({name, old ? std::optional<std::string>(old) : std::nullopt});
-        if (value) setenv(name, value, 1);
-        else unsetenv(name);
-    }
-    ~Env() {
-        for (auto it = saved_.rbegin(); it != saved_.rend(); ++it) {
-            if (it->second) setenv(it->first, it->second->c_str(), 1);
-            else unsetenv(it->first);
-        }
-    }
-
-private:
-    std::vector<std::pair<const char*, std::optional<std::string>>> saved_;
-};
 
 TEST(Spelling, TheUsersLanguageComesFirstThenAmericanEnglish) {
     struct Case {
@@ -54,10 +34,8 @@ TEST(Spelling, TheUsersLanguageComesFirstThenAmericanEnglish) {
         {nullptr, nullptr, nullptr, {"en_US"}},
     };
     for (const Case& c : cases) {
-        Env env;
-        env.set("LC_ALL", c.all);
-        env.set("LC_MESSAGES", c.messages);
-        env.set("LANG", c.lang);
+        ScopedEnv env;
+        env.set("LC_ALL", c.all).set("LC_MESSAGES", c.messages).set("LANG", c.lang);
         EXPECT_EQ(EnchantChecker::userLanguages(), c.languages) << (c.lang ? c.lang : "(no LANG)");
     }
 }
@@ -97,7 +75,7 @@ protected:
     }
 
     QTemporaryDir home_;
-    Env env_;
+    ScopedEnv env_;
     std::unique_ptr<EnchantChecker> checker_;
     TextEditor model_{"spellTask"};
 };

@@ -13,6 +13,7 @@
 #include <QTextTable>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 
 #include "print/QtPrintSurface.h"
 #include "print/ReportRenderer.h"
@@ -113,23 +114,23 @@ protected:
 TEST_F(PrintEngine, ANewTaskPrintsIntoAPdfWithItsFooter) {
     clsTask2 task;
     scriptedUi().queueAction([this] { fakeClock().advance(600); });
-    scriptedUi().queueAction([] {
+    const auto newTask = [] {
         for (const auto& f : Form::openForms())
-            if (f->name() == "frmTask3") {
-                f->editor("spellTask")->userEdit("Plant the tulip bulbs");
-                f->editor("SpellNotes")->userEdit("Ten bulbs by the fence, before the first frost.");
-            }
+            if (f->name() == "frmTask3") return f;
+        throw std::logic_error("New Task is not open");
+    };
+    scriptedUi().queueAction([&] {
+        newTask()->editor("spellTask")->userEdit("Plant the tulip bulbs");
+        newTask()->editor("SpellNotes")->userEdit("Ten bulbs by the fence, before the first frost.");
     });
-    scriptedUi().queueAction([this] {
+    scriptedUi().queueAction([&] {
         scriptedUi().queueAnswer(vbYes);  // the print question
         scriptedUi().queueAnswer(vbOK);   // where the PDF went
-        for (const auto& f : Form::openForms())
-            if (f->name() == "frmTask3") f->sheet("smtActions")->click(f->sheet("smtActions")->tool("PRINT"));
+        newTask()->sheet("smtActions")->click(newTask()->sheet("smtActions")->tool("PRINT"));
     });
-    scriptedUi().queueAction([this] {
+    scriptedUi().queueAction([&] {
         scriptedUi().queueAnswer(vbYes);
-        for (const auto& f : Form::openForms())
-            if (f->name() == "frmTask3") f->keyDown(vbKeyEscape);
+        newTask()->keyDown(vbKeyEscape);
     });
     task.SetupTask(0, {}, {"u", "", "", "", "", ""}, 0, PrintSettings::defaults(0));
 
