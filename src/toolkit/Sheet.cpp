@@ -36,6 +36,11 @@ Tool& Sheet::add(int32_t type, const std::string& key, const std::string& captio
     return *lastAdded_;
 }
 
+void Sheet::reserve(std::size_t n) {
+    tools_.reserve(tools_.size() + n);
+    index_.reserve(index_.size() + n);
+}
+
 void Sheet::removeAll() {
     tools_.clear();
     index_.clear();

@@ -30,6 +30,8 @@ public:
     // Adds a tool at the end. A key that stands already throws (invalid key).
     Tool& add(int32_t type, const std::string& key = {}, const std::string& caption = {});
     void removeAll();
+    // Room for n more tools, so a long fill neither regrows the list nor rehashes the keys.
+    void reserve(std::size_t n);
     void remove(const std::string& key);
 
     [[nodiscard]] int32_t count() const { return static_cast<int32_t>(tools_.size()); }

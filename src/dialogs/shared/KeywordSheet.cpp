@@ -23,6 +23,8 @@ bool KeywordSheet::build(Sheet& sheet) {
     const Field keyField = rs->Fields("keyGUIDID");
     const Field keywordField = rs->Fields("keyKeyword");
     std::string subject;
+    // Each keyword and, at most, a heading for it.
+    if (!rs->EOF_()) sheet.reserve(2 * static_cast<std::size_t>(rs->RecordCount()) + 2);
     while (!rs->EOF_()) {
         std::string rowSubject = subjectField.value().toText();
         if (rowSubject != subject) {

@@ -41,7 +41,10 @@ bool ProjectSheet::fillForSetup(Sheet& sheet) {
     clsVLProjectsList list;
     auto rs = openProjects(list);
     if (!rs) return false;
-    if (rs->RecordCount() > 0) resizeArrays(rs->RecordCount());
+    if (rs->RecordCount() > 0) {
+        resizeArrays(rs->RecordCount());
+        sheet.reserve(static_cast<std::size_t>(rs->RecordCount()) + 2);
+    }
     const Field keyField = rs->Fields("prjGUIDID");
     const Field nameField = rs->Fields("prjProject");
     for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
