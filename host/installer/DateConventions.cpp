@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "toolkit/EnvLocaleInfo.h"
+
 namespace qv {
 
 namespace {
@@ -95,9 +97,8 @@ DateConventions DateConventions::forLocale(const std::string& name) {
 }
 
 std::string DateConventions::timeLocale() {
-    for (const char* variable : {"LC_ALL", "LC_TIME", "LANG"})
-        if (const char* value = std::getenv(variable); value && *value) return value;
-    return "C";
+    const std::string locale = environmentLocale("LC_TIME");
+    return locale.empty() ? "C" : locale;
 }
 
 }  // namespace qv

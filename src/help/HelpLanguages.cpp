@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "toolkit/EnvLocaleInfo.h"
+
 namespace qv {
 
 namespace {
@@ -40,9 +42,7 @@ bool isLanguageFolder(const std::string& name) {
 }  // namespace
 
 std::vector<std::string> HelpLanguages::fromEnvironment() {
-    std::string locale = env("LC_ALL");
-    if (locale.empty()) locale = env("LC_MESSAGES");
-    if (locale.empty()) locale = env("LANG");
+    const std::string locale = environmentLocale("LC_MESSAGES");
     std::vector<std::string> out;
     if (isPlainLocale(locale)) return out;
     const std::string list = env("LANGUAGE");

@@ -9,6 +9,11 @@
 
 namespace qv {
 
+// The locale the environment names for one category: LC_ALL, then the
+// category's own variable (LC_TIME, LC_MESSAGES, ...), then LANG; empty when
+// none is set.
+QV_EXPORT std::string environmentLocale(const char* categoryVariable);
+
 class QV_EXPORT EnvLocaleInfo : public LocaleInfo {
 public:
     [[nodiscard]] int32_t measurementSystem() const override;
