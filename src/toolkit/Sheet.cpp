@@ -1,5 +1,7 @@
 #include "toolkit/Sheet.h"
 
+#include <tuple>
+
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -16,22 +18,22 @@ void Sheet::setEnabled(bool e) {
     notify();
 }
 
-Tool& Sheet::add(int32_t type, const std::string& key, const std::string& caption) {
+Tool& Sheet::add(int32_t type, std::string key, std::string caption) {
+    ToolPtr made = Tool::make(&pool_, this, nullptr, type, std::move(key), std::move(caption));
     // One look-up claims the key: a sheet of thousands fills at one hash a tool.
-    Tool** slot = nullptr;
-    if (!key.empty()) {
-        auto [it, fresh] = index_.try_emplace(key, nullptr);
+    auto claimed = index_.end();
+    if (!made->key().empty()) {
+        bool fresh = false;
+        std::tie(claimed, fresh) = index_.try_emplace(made->key(), made.get());
         if (!fresh) throw Failure(35602, "Key is not unique in collection");
-        slot = &it->second;
     }
     try {
-        tools_.push_back(std::make_unique<Tool>(this, nullptr, type, key, caption));
+        tools_.push_back(std::move(made));
     } catch (...) {
-        if (slot) index_.erase(key);
+        if (claimed != index_.end()) index_.erase(claimed);
         throw;
     }
     lastAdded_ = tools_.back().get();
-    if (slot) *slot = lastAdded_;
     notify();
     return *lastAdded_;
 }
@@ -42,8 +44,8 @@ void Sheet::reserve(std::size_t n) {
 }
 
 void Sheet::removeAll() {
-    tools_.clear();
     index_.clear();
+    tools_.clear();
     lastAdded_ = nullptr;
     notify();
 }

@@ -5,7 +5,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -28,7 +30,7 @@ public:
     void setEnabled(bool e);
 
     // Adds a tool at the end. A key that stands already throws (invalid key).
-    Tool& add(int32_t type, const std::string& key = {}, const std::string& caption = {});
+    Tool& add(int32_t type, std::string key = {}, std::string caption = {});
     void removeAll();
     // Room for n more tools, so a long fill neither regrows the list nor rehashes the keys.
     void reserve(std::size_t n);
@@ -43,7 +45,7 @@ public:
     // By key, or nullptr; searches sub-items too.
     [[nodiscard]] Tool* find(const std::string& key) const;
     [[nodiscard]] Tool* lastAdded() const { return lastAdded_; }
-    [[nodiscard]] const std::vector<std::unique_ptr<Tool>>& tools() const { return tools_; }
+    [[nodiscard]] const std::vector<ToolPtr>& tools() const { return tools_; }
 
     // The user's actions, as a view forwards them. Clicking an option entry
     // of a drop-down list chooses it: the list's text becomes its caption.
@@ -74,12 +76,19 @@ private:
     // without walking itself on every add.
     void indexAdd(Tool& t);
     void indexRemove(const Tool& t);
-    std::unordered_map<std::string, Tool*> index_;
+    [[nodiscard]] std::pmr::memory_resource* pool() { return &pool_; }
+
+    // Tools, sub-items and index entries come from one pool, and the index
+    // reads each key where its tool holds it (a tool never moves): a fill
+    // costs a few blocks, not several allocations a tool. The pool is
+    // declared first so that it goes last.
+    std::pmr::unsynchronized_pool_resource pool_;
+    std::pmr::unordered_map<std::string_view, Tool*> index_{&pool_};
 
     std::string name_;
     std::string title_;
     bool enabled_ = true;
-    std::vector<std::unique_ptr<Tool>> tools_;
+    std::vector<ToolPtr> tools_;
     Tool* lastAdded_ = nullptr;
 };
 

@@ -1,5 +1,7 @@
 #include "toolkit/Tool.h"
 
+#include <new>
+
 #include "toolkit/Failure.h"
 #include "toolkit/Sheet.h"
 
@@ -7,6 +9,27 @@ namespace qv {
 
 Tool::Tool(Sheet* sheet, Tool* parent, int32_t type, std::string key, std::string caption)
     : sheet_(sheet), parent_(parent), type_(type), key_(std::move(key)), caption_(std::move(caption)) {}
+
+void ToolRelease::operator()(Tool* t) const noexcept {
+    if (!pool) {
+        delete t;
+        return;
+    }
+    t->~Tool();
+    pool->deallocate(t, sizeof(Tool), alignof(Tool));
+}
+
+ToolPtr Tool::make(std::pmr::memory_resource* pool, Sheet* sheet, Tool* parent, int32_t type, std::string key,
+                   std::string caption) {
+    if (!pool) return ToolPtr(new Tool(sheet, parent, type, std::move(key), std::move(caption)));
+    void* place = pool->allocate(sizeof(Tool), alignof(Tool));
+    try {
+        return ToolPtr(new (place) Tool(sheet, parent, type, std::move(key), std::move(caption)), ToolRelease{pool});
+    } catch (...) {
+        pool->deallocate(place, sizeof(Tool), alignof(Tool));
+        throw;
+    }
+}
 
 void Tool::changed() {
     if (sheet_) sheet_->notify();
@@ -81,13 +104,20 @@ void Tool::setChecked(bool c) {
     if (was != c && sheet_) sheet_->raiseClick(*this);
 }
 
-Tool& Tool::addItem(int32_t type, const std::string& key, const std::string& caption) {
+Tool& Tool::addItem(int32_t type, std::string key, std::string caption) {
     // The sheet's index holds every key of its tools and items: a list of
     // hundreds of entries fills without walking itself on every add.
     if (!key.empty() && (sheet_ ? sheet_->find(key) != nullptr : item(key) != nullptr))
         throw Failure(35602, "Key is not unique in collection");
-    items_.push_back(std::make_unique<Tool>(sheet_, this, type, key, caption));
-    if (sheet_) sheet_->indexAdd(*items_.back());
+    items_.push_back(make(sheet_ ? sheet_->pool() : nullptr, sheet_, this, type, std::move(key), std::move(caption)));
+    if (sheet_) {
+        try {
+            sheet_->indexAdd(*items_.back());
+        } catch (...) {
+            items_.pop_back();
+            throw;
+        }
+    }
     changed();
     return *items_.back();
 }

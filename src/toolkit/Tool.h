@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,14 @@
 namespace qv {
 
 class Sheet;
+class Tool;
+
+// Gives a tool back to the pool of the sheet it was made in (or to the heap).
+struct QV_EXPORT ToolRelease {
+    std::pmr::memory_resource* pool = nullptr;
+    void operator()(Tool* t) const noexcept;
+};
+using ToolPtr = std::unique_ptr<Tool, ToolRelease>;
 
 // The numbers the sheet's add operation takes.
 enum ToolType : int32_t {
@@ -27,6 +36,13 @@ enum ToolType : int32_t {
 class QV_EXPORT Tool {
 public:
     Tool(Sheet* sheet, Tool* parent, int32_t type, std::string key, std::string caption);
+    Tool(const Tool&) = delete;
+    Tool& operator=(const Tool&) = delete;
+
+    // A tool made in pool (the heap when null): a sheet of thousands of
+    // tools takes its memory in a few blocks and gives it back at once.
+    [[nodiscard]] static ToolPtr make(std::pmr::memory_resource* pool, Sheet* sheet, Tool* parent, int32_t type,
+                                      std::string key, std::string caption);
 
     [[nodiscard]] int32_t type() const { return type_; }
     [[nodiscard]] const std::string& key() const { return key_; }
@@ -64,9 +80,9 @@ public:
     void setHostedControl(const std::string& name);
 
     // Sub-items: entries of a drop-down list or a split button.
-    Tool& addItem(int32_t type, const std::string& key, const std::string& caption);
+    Tool& addItem(int32_t type, std::string key, std::string caption);
     void clearItems();
-    [[nodiscard]] const std::vector<std::unique_ptr<Tool>>& items() const { return items_; }
+    [[nodiscard]] const std::vector<ToolPtr>& items() const { return items_; }
     [[nodiscard]] Tool* item(const std::string& key) const;
 
 private:
@@ -87,7 +103,7 @@ private:
     bool bold_ = false;
     bool checked_ = false;
     int32_t foreColor_ = 0;
-    std::vector<std::unique_ptr<Tool>> items_;
+    std::vector<ToolPtr> items_;
 };
 
 }  // namespace qv
