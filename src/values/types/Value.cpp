@@ -6,6 +6,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "toolkit/Failure.h"
 #include "values/types/DateSerial.h"
@@ -346,7 +347,12 @@ Date Value::toDate() const {
     }
 }
 
-std::string Value::toText() const {
+std::string Value::toText() && {
+    if (auto* text = std::get_if<std::string>(&v_)) return std::move(*text);
+    return std::as_const(*this).toText();
+}
+
+std::string Value::toText() const& {
     switch (kind()) {
         case Kind::Null:
             return {};

@@ -41,8 +41,10 @@ public:
     [[nodiscard]] int32_t toInt32() const;
     [[nodiscard]] double toDouble() const;
     [[nodiscard]] Date toDate() const;
-    // Text form of any value; null gives the empty text.
-    [[nodiscard]] std::string toText() const;
+    // Text form of any value; null gives the empty text. A passing value
+    // gives its text up rather than copy it.
+    [[nodiscard]] std::string toText() const&;
+    [[nodiscard]] std::string toText() &&;
 
     friend bool operator==(const Value&, const Value&) = default;
 
