@@ -203,10 +203,13 @@ void DraftKeeper::closed() {
 DraftKeeper::Values DraftKeeper::snapshot() const {
     Values v;
     for (TextEditor* e : inputs_.editors) v.emplace_back(kEditor + e->name(), e->text());
-    for (Sheet* s : inputs_.picks)
+    // A sheet of thousands of ticks: each field named in one allocation.
+    for (Sheet* s : inputs_.picks) {
+        const std::string sheetField = kPick + s->name() + ".";
+        v.reserve(v.size() + s->tools().size());
         for (const auto& t : s->tools())
-            if (isPick(*t) && !t->key().empty())
-                v.emplace_back(kPick + s->name() + "." + t->key(), t->checked() ? "1" : "0");
+            if (isPick(*t) && !t->key().empty()) v.emplace_back(sheetField + t->key(), t->checked() ? "1" : "0");
+    }
     for (const auto& group : inputs_.texts)
         for (const auto& key : group.keys)
             if (const Tool* t = group.sheet->find(key))
