@@ -72,6 +72,7 @@ void SheetWidget::paintTitle() {
 void SheetWidget::changeEvent(QEvent* e) {
     QFrame::changeEvent(e);
     if (e->type() == QEvent::PaletteChange) paintTitle();
+    if (e->type() == QEvent::FontChange || e->type() == QEvent::StyleChange) listMinimum_ = QSize();
 }
 
 QWidget* SheetWidget::makeHosted(const std::string& controlName, QWidget* parent) const {
@@ -201,12 +202,12 @@ void SheetWidget::dropList() {
     delegate_ = nullptr;
 }
 
-// A hosted control (a date box) is a widget of its own; a long list holds few.
+// A hosted control (a date box) is a widget of its own; a long list holds
+// few, found from the tools rather than through a model read per row.
 void SheetWidget::openHostedEditors() {
     for (int r = 0; r < model_->rowCount(); ++r) {
         const QModelIndex i = model_->index(r);
-        if (i.data(SheetModel::KindRole).toInt() == static_cast<int>(ToolCell::Kind::Hosted))
-            list_->openPersistentEditor(i);
+        if (!model_->toolAt(i)->hostedControl().empty()) list_->openPersistentEditor(i);
     }
 }
 
@@ -263,6 +264,7 @@ int SheetWidget::insertAt(QBoxLayout* column) const {
 }
 
 void SheetWidget::refresh() {
+    listMinimum_ = QSize();
     if (title_) {
         title_->setText(QString::fromStdString(sheet_.title()));
         title_->setVisible(!sheet_.title().empty());
@@ -281,7 +283,8 @@ QSize SheetWidget::minimumSizeHint() const {
     if (!scroll_ || (!body_ && !list_)) return QFrame::minimumSizeHint();
     // As wide as the widest tool (the list never scrolls sideways), and
     // tall enough for the title and a few tools.
-    const QSize content = list_ ? listMinimumSize() : cellsMinimumSize();
+    if (list_ && !listMinimum_.isValid()) listMinimum_ = listMinimumSize();
+    const QSize content = list_ ? listMinimum_ : cellsMinimumSize();
     const int frame = 2 * frameWidth();
     const int bar = scroll_->verticalScrollBar()->sizeHint().width();
     const bool titled = title_ && !title_->isHidden();

@@ -110,6 +110,9 @@ private:
     SheetModel* model_ = nullptr;
     SheetDelegate* delegate_ = nullptr;
     std::vector<Shape> shape_;
+    // A long list's minimum size, measured once per change of its rows or
+    // looks: layouts ask for it many times while a window opens.
+    mutable QSize listMinimum_;
     bool pending_ = false;
     int forwarding_ = 0;
 };

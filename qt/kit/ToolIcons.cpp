@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 
 namespace qv {
 
@@ -40,6 +41,16 @@ void drawInUse(QPainter& p, int s) {
 
 QPixmap ToolIcons::pixmap(const std::string& name, int size) {
     if (name != "GOOD" && name != "BAD" && name != "GRAY" && name != "INUSE") return {};
+    // Every refresh of a cell asks again: each picture is drawn once.
+    const QString cacheKey = QStringLiteral("qv-tool-%1-%2").arg(QString::fromStdString(name)).arg(size);
+    QPixmap pm;
+    if (QPixmapCache::find(cacheKey, &pm)) return pm;
+    pm = draw(name, size);
+    QPixmapCache::insert(cacheKey, pm);
+    return pm;
+}
+
+QPixmap ToolIcons::draw(const std::string& name, int size) {
     QPixmap pm(size, size);
     pm.fill(Qt::transparent);
     QPainter p(&pm);
