@@ -1,7 +1,5 @@
 #include "toolkit/Sheet.h"
 
-#include <tuple>
-
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -21,16 +19,11 @@ void Sheet::setEnabled(bool e) {
 Tool& Sheet::add(int32_t type, std::string key, std::string caption) {
     ToolPtr made = Tool::make(&pool_, this, nullptr, type, std::move(key), std::move(caption));
     // One look-up claims the key: a sheet of thousands fills at one hash a tool.
-    auto claimed = index_.end();
-    if (!made->key().empty()) {
-        bool fresh = false;
-        std::tie(claimed, fresh) = index_.try_emplace(made->key(), made.get());
-        if (!fresh) throw Failure(35602, "Key is not unique in collection");
-    }
+    if (!indexAdd(*made)) throw Failure(35602, "Key is not unique in collection");
     try {
         tools_.push_back(std::move(made));
     } catch (...) {
-        if (claimed != index_.end()) index_.erase(claimed);
+        indexRemove(*made);
         throw;
     }
     lastAdded_ = tools_.back().get();
@@ -80,9 +73,7 @@ Tool* Sheet::find(const std::string& key) const {
     return it == index_.end() ? nullptr : it->second;
 }
 
-void Sheet::indexAdd(Tool& t) {
-    if (!t.key().empty()) index_.emplace(t.key(), &t);
-}
+bool Sheet::indexAdd(Tool& t) { return t.key().empty() || index_.try_emplace(t.key(), &t).second; }
 
 void Sheet::indexRemove(const Tool& t) {
     for (const auto& sub : t.items()) indexRemove(*sub);

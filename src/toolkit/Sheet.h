@@ -13,6 +13,7 @@
 
 #include "Export.h"
 #include "toolkit/Event.h"
+#include "toolkit/SlotPool.h"
 #include "toolkit/Tool.h"
 
 namespace qv {
@@ -74,7 +75,8 @@ private:
     void notify() { Changed(); }
     // Keys of tools and sub-items: a sheet of thousands of keywords fills
     // without walking itself on every add.
-    void indexAdd(Tool& t);
+    // False when the key stands already (the index is left as it was).
+    [[nodiscard]] bool indexAdd(Tool& t);
     void indexRemove(const Tool& t);
     [[nodiscard]] std::pmr::memory_resource* pool() { return &pool_; }
 
@@ -82,7 +84,7 @@ private:
     // reads each key where its tool holds it (a tool never moves): a fill
     // costs a few blocks, not several allocations a tool. The pool is
     // declared first so that it goes last.
-    std::pmr::unsynchronized_pool_resource pool_;
+    SlotPool pool_;
     std::pmr::unordered_map<std::string_view, Tool*> index_{&pool_};
 
     std::string name_;
