@@ -31,6 +31,16 @@ ToolPtr Tool::make(std::pmr::memory_resource* pool, Sheet* sheet, Tool* parent, 
     }
 }
 
+Tool::Extras& Tool::extras() {
+    if (!extras_) extras_ = std::make_unique<Extras>();
+    return *extras_;
+}
+
+const std::string& Tool::noText() {
+    static const std::string none;
+    return none;
+}
+
 void Tool::changed() {
     if (sheet_) sheet_->notify();
 }
@@ -49,13 +59,13 @@ void Tool::setText(const std::string& t) {
 }
 
 void Tool::setTip(const std::string& t) {
-    tip_ = t;
+    extras().tip = t;
     changed();
 }
 
 void Tool::setImage(const std::string& i) {
-    if (image_ == i) return;
-    image_ = i;
+    if (image() == i) return;
+    extras().image = i;
     changed();
 }
 
@@ -84,7 +94,7 @@ void Tool::setForeColor(int32_t c) {
 }
 
 void Tool::setHostedControl(const std::string& name) {
-    hosted_ = name;
+    extras().hosted = name;
     changed();
 }
 
@@ -105,18 +115,16 @@ void Tool::setChecked(bool c) {
 }
 
 Tool& Tool::addItem(int32_t type, std::string key, std::string caption) {
-    // The sheet's index holds every key of its tools and items: a list of
-    // hundreds of entries fills without walking itself on every add.
-    if (!key.empty() && (sheet_ ? sheet_->find(key) != nullptr : item(key) != nullptr))
-        throw Failure(35602, "Key is not unique in collection");
-    items_.push_back(make(sheet_ ? sheet_->pool() : nullptr, sheet_, this, type, std::move(key), std::move(caption)));
-    if (sheet_) {
-        try {
-            sheet_->indexAdd(*items_.back());
-        } catch (...) {
-            items_.pop_back();
-            throw;
-        }
+    if (!sheet_ && !key.empty() && item(key)) throw Failure(35602, "Key is not unique in collection");
+    ToolPtr made = make(sheet_ ? sheet_->pool() : nullptr, sheet_, this, type, std::move(key), std::move(caption));
+    // The sheet's index holds every key of its tools and items: one look-up
+    // claims the key, and a list of hundreds fills without walking itself.
+    if (sheet_ && !sheet_->indexAdd(*made)) throw Failure(35602, "Key is not unique in collection");
+    try {
+        items_.push_back(std::move(made));
+    } catch (...) {
+        if (sheet_) sheet_->indexRemove(*made);
+        throw;
     }
     changed();
     return *items_.back();

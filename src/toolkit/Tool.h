@@ -56,9 +56,9 @@ public:
     void setText(const std::string& t);
     [[nodiscard]] const std::string& tag() const { return tag_; }
     void setTag(const std::string& t) { tag_ = t; }
-    [[nodiscard]] const std::string& tip() const { return tip_; }
+    [[nodiscard]] const std::string& tip() const { return extras_ ? extras_->tip : noText(); }
     void setTip(const std::string& t);
-    [[nodiscard]] const std::string& image() const { return image_; }
+    [[nodiscard]] const std::string& image() const { return extras_ ? extras_->image : noText(); }
     void setImage(const std::string& i);
 
     [[nodiscard]] bool enabled() const { return enabled_; }
@@ -76,7 +76,7 @@ public:
     void setChecked(bool c);
 
     // The name of a control (a date box) hosted inside this tool; empty if none.
-    [[nodiscard]] const std::string& hostedControl() const { return hosted_; }
+    [[nodiscard]] const std::string& hostedControl() const { return extras_ ? extras_->hosted : noText(); }
     void setHostedControl(const std::string& name);
 
     // Sub-items: entries of a drop-down list or a split button.
@@ -86,7 +86,16 @@ public:
     [[nodiscard]] Tool* item(const std::string& key) const;
 
 private:
+    // What few tools have: a long sheet's rows stay small without them.
+    struct Extras {
+        std::string tip;
+        std::string image;
+        std::string hosted;
+    };
+
     void changed();
+    Extras& extras();
+    [[nodiscard]] static const std::string& noText();
 
     Sheet* sheet_;
     Tool* parent_;
@@ -95,9 +104,7 @@ private:
     std::string caption_;
     std::string text_;
     std::string tag_;
-    std::string tip_;
-    std::string image_;
-    std::string hosted_;
+    std::unique_ptr<Extras> extras_;
     bool enabled_ = true;
     bool visible_ = true;
     bool bold_ = false;
