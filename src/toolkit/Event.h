@@ -29,6 +29,8 @@ public:
 
     // Raising is safe while handlers connect or disconnect: it walks a copy.
     void operator()(Args... args) const {
+        // A sheet raises on every tool it adds, mostly to nobody.
+        if (handlers_->empty()) return;
         auto keep = handlers_;
         const auto snapshot = *keep;
         for (const auto& slot : snapshot)
