@@ -29,9 +29,9 @@ void resizeArrays(int32_t rows) {
 
 // The names array is written at 0 on every row while the keys advance:
 // kept as the lists have always been.
-void storeRow(size_t n, const std::string& key, const std::string& name) {
+void storeRow(size_t n, std::string key, const std::string& name) {
     auto& s = g();
-    if (n < s.ProjectKeys.size()) s.ProjectKeys[n] = key;
+    if (n < s.ProjectKeys.size()) s.ProjectKeys[n] = std::move(key);
     if (!s.ProjectNames.empty()) s.ProjectNames[0] = ZapAmps(name);
 }
 
@@ -48,14 +48,14 @@ bool ProjectSheet::fillForSetup(Sheet& sheet) {
     const Field keyField = rs->Fields("prjGUIDID");
     const Field nameField = rs->Fields("prjProject");
     for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
-        const std::string key = keyField.value().toText();
+        std::string key = keyField.value().toText();
         const std::string name = nameField.value().toText();
         // "Archived" takes a slot and retags (or disables) the tool before it.
         if (name != kArchived) sheet.add(ttOption, key, ZapAmps(name));
         Tool* last = sheet.lastAdded();
         if (last && key == g().MOP) last->setEnabled(false);
-        storeRow(n, key, name);
         if (last) last->setTag(key);
+        storeRow(n, std::move(key), name);
     }
     rs->Close();
     addClosingTools(sheet);
@@ -92,12 +92,12 @@ bool ProjectSheet::fillList(Tool& list, bool disableMop) {
     const Field keyField = rs->Fields("prjGUIDID");
     const Field nameField = rs->Fields("prjProject");
     for (size_t n = 0; !rs->EOF_(); ++n, rs->MoveNext()) {
-        const std::string key = keyField.value().toText();
+        std::string key = keyField.value().toText();
         const std::string name = nameField.value().toText();
         Tool& entry = list.addItem(ttOption, "PRJ-" + key, ZapAmps(name));
         entry.setTag(key);
         if (disableMop && key == g().MOP) entry.setEnabled(false);
-        storeRow(n, key, name);
+        storeRow(n, std::move(key), name);
     }
     rs->Close();
     list.addItem(ttDropSeparator, {}, {});
