@@ -207,8 +207,13 @@ DraftKeeper::Values DraftKeeper::snapshot() const {
     for (Sheet* s : inputs_.picks) {
         const std::string sheetField = kPick + s->name() + ".";
         v.reserve(v.size() + s->tools().size());
-        for (const auto& t : s->tools())
-            if (isPick(*t) && !t->key().empty()) v.emplace_back(sheetField + t->key(), t->checked() ? "1" : "0");
+        for (const auto& t : s->tools()) {
+            if (!isPick(*t) || t->key().empty()) continue;
+            std::string field;
+            field.reserve(sheetField.size() + t->key().size());
+            field.append(sheetField).append(t->key());
+            v.emplace_back(std::move(field), t->checked() ? "1" : "0");
+        }
     }
     for (const auto& group : inputs_.texts)
         for (const auto& key : group.keys)
