@@ -77,4 +77,33 @@ TEST(Sheet, LookupsByKeyAndPositionFailClearly) {
     EXPECT_EQ(s.count(), 0);
 }
 
+// Tools come and go from the sheet's own storage: a key that went can come
+// back, a refused key leaves the sheet as it was, and no lookup finds a tool
+// that has gone.
+TEST(Sheet, KeysFollowToolsThatComeAndGo) {
+    Sheet s("smtKeywords");
+    Tool& list = s.add(ttButton, "LIST");
+    list.addItem(ttOption, "A", "Alpha");
+    EXPECT_THROW(list.addItem(ttOption, "LIST", "Again"), Failure) << "an item cannot take a tool's key";
+    EXPECT_THROW(s.add(ttCheck, "A"), Failure) << "nor a tool an item's";
+    EXPECT_EQ(list.items().size(), 1u);
+    EXPECT_EQ(s.count(), 1);
+    EXPECT_EQ(s.lastAdded(), &list);
+
+    list.clearItems();
+    EXPECT_EQ(s.find("A"), nullptr);
+    Tool& a = s.add(ttCheck, "A", "Alpha");
+    EXPECT_EQ(s.find("A"), &a);
+
+    s.remove("LIST");
+    EXPECT_EQ(s.find("LIST"), nullptr);
+    for (int round = 0; round < 3; ++round) {
+        s.removeAll();
+        for (int i = 0; i < 100; ++i) s.add(ttCheck, "K" + std::to_string(i) + "-0000-0000-0000-000000000000");
+        EXPECT_EQ(s.count(), 100);
+        EXPECT_EQ(s.find("K42-0000-0000-0000-000000000000"), &s.at(43));
+        EXPECT_EQ(s.find("A"), nullptr);
+    }
+}
+
 }  // namespace qv
