@@ -5,6 +5,8 @@
 
 #include "store/Connection.h"
 #include "store/JetDialect.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -123,7 +125,15 @@ void Connection::read(const QueryPlan& plan, const std::vector<uint8_t>* only, R
     for (int c = 0; c < n; ++c)
         if (!only || (*only)[static_cast<size_t>(c)]) wanted.push_back(c);
     int rc;
+    bool first = true;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        // A kept statement is made again when another program changed the
+        // tables: columns read by the old shape would be misplaced.
+        if (first && sqlite3_column_count(stmt) != n + (plan.withIdentity ? 1 : 0))
+            throw Failure(err::StoreFailure,
+                          storeProblem(path_, tr("had its tables changed by another program: open it again")) + ".",
+                          "Store");
+        first = false;
         Cell* cells = newRow(plan.withIdentity ? sqlite3_column_int64(stmt, n) : 0);
         if (!cells) continue;
         for (const int c : wanted) readCell(stmt, c, cells[c], store);

@@ -655,6 +655,15 @@ TEST_F(RecordsetTest, AColumnALoadLeftOutIsReadWhenFirstAskedAndWrittenWithItsCh
     EXPECT_EQ(rs->Fields("tskDesc").value(), Value("Third"));
     rs->MoveNext();
     EXPECT_TRUE(rs->EOF_());  // the row added since is not in the set
+    rs->Close();
+
+    // Another program adds a column: the kept statement's old shape is not
+    // read as the new one; the next open sees the new shape.
+    exec("ALTER TABLE TASKS ADD COLUMN tskExtra TEXT DEFAULT 'x'");
+    expectStoreFailure(failureOf([&] { (void)open(all)->EOF_(); }), {"tables changed by another program"});
+    auto after = open(all);
+    EXPECT_EQ(after->Fields("tskExtra").value(), Value("x"));
+    EXPECT_EQ(after->Fields("tskDesc").value(), Value("First"));
 }
 
 }  // namespace
