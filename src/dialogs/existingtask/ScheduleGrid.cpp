@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "dialogs/shared/TaskRecord.h"
@@ -249,12 +250,19 @@ void ScheduleGrid::InitializeRow(int32_t row) {
     }
 }
 
+// A long schedule holds few distinct durations: each text is read once.
 void ScheduleGrid::CountUpSked() {
     if (grid_.rowCount() == 0) return;
-    int64_t sum = FormatCTasTime(plannedText(0));
+    std::unordered_map<std::string, int32_t> read;
+    const auto minutesOf = [&read](const std::string& text) {
+        auto [at, added] = read.try_emplace(text, 0);
+        if (added) at->second = FormatCTasTime(text);
+        return at->second;
+    };
+    int64_t sum = minutesOf(plannedText(0));
     int32_t count = 1;
     for (int32_t r = 1; r < grid_.rowCount(); ++r) {
-        sum += FormatCTasTime(plannedText(r));
+        sum += minutesOf(plannedText(r));
         if (sum > INT32_MAX || sum < INT32_MIN || count == INT32_MAX) throw Failure(err::Overflow, "Overflow");
         ++count;
     }
