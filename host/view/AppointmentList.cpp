@@ -17,7 +17,10 @@ void AppointmentList::showTask(const std::string& taskKey) {
     clear();
     if (taskKey.empty()) return;
     for (const auto& a : store_.appointments(taskKey)) {
-        const QString end = TaskTableModel::deadlineText(a.end).section(' ', 1);
+        // An end at midnight is kept as a bare date: its time is 00:00, not nothing.
+        const QString endText = TaskTableModel::deadlineText(a.end);
+        const QString end = endText.contains(' ') ? endText.section(' ', 1)
+                                                  : (endText.isEmpty() ? QString() : QStringLiteral("00:00"));
         auto* item = new QListWidgetItem(
             QStringLiteral("%1 - %2  %3%4")
                 .arg(TaskTableModel::deadlineText(a.start), end, QString::fromStdString(a.desc),

@@ -81,7 +81,8 @@ public:
 
     // The store engine's side of a Recordset (ConnectionRows.cpp).
     QueryPlan plan(const std::string& jetSource) override;
-    void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+    void read(const QueryPlan& plan, const std::vector<uint8_t>* only, RowStore& store,
+              const std::function<Cell*(int64_t)>& newRow,
               const Doing& doing) override;
     int64_t count(const QueryPlan& plan, const Doing& doing) override;
     void removeRow(const std::string& table, int64_t id, std::string_view context) override;
@@ -114,6 +115,7 @@ private:
         jet::SelectShape shape;
         std::string rowidSql;
         std::string countSql;
+        std::shared_ptr<ColumnUse> use = std::make_shared<ColumnUse>();
     };
     static constexpr size_t kMaxTextPlans = 512;
     const TextPlan& textPlan(const std::string& jetSource);

@@ -5,6 +5,8 @@
 
 #include "store/Connection.h"
 #include "store/JetDialect.h"
+#include "toolkit/Failure.h"
+#include "toolkit/Translate.h"
 
 namespace qv {
 
@@ -81,6 +83,7 @@ QueryPlan Connection::plan(const std::string& jetSource) {
     describe(st.get(), p);
     p.isSelect = shape.isSelect;
     p.countSql = text.countSql;
+    if (p.withIdentity) p.use = text.use;
     return p;
 }
 
@@ -108,17 +111,32 @@ void Connection::describe(sqlite3_stmt* stmt, QueryPlan& p) {
     if (tableClash || !p.withIdentity) p.table.clear();
 }
 
-void Connection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                      const Doing& doing) {
+void Connection::read(const QueryPlan& plan, const std::vector<uint8_t>* only, RowStore& store,
+                      const std::function<Cell*(int64_t)>& newRow, const Doing& doing) {
     Statement st = tryPrepare(plan.selectSql);
     if (!st) fail(doing.text());
     sqlite3_stmt* stmt = st.get();
     bindAll(stmt, plan.params);
     const int n = static_cast<int>(plan.cols.size());
+    // The columns to read, in order: a set of many columns walked for a few
+    // of them copies only those.
+    std::vector<int> wanted;
+    wanted.reserve(plan.cols.size());
+    for (int c = 0; c < n; ++c)
+        if (!only || (*only)[static_cast<size_t>(c)]) wanted.push_back(c);
     int rc;
+    bool first = true;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
+        // A kept statement is made again when another program changed the
+        // tables: columns read by the old shape would be misplaced.
+        if (first && sqlite3_column_count(stmt) != n + (plan.withIdentity ? 1 : 0))
+            throw Failure(err::StoreFailure,
+                          storeProblem(path_, tr("had its tables changed by another program: open it again")) + ".",
+                          "Store");
+        first = false;
         Cell* cells = newRow(plan.withIdentity ? sqlite3_column_int64(stmt, n) : 0);
-        for (int c = 0; c < n; ++c) readCell(stmt, c, cells[c], store);
+        if (!cells) continue;
+        for (const int c : wanted) readCell(stmt, c, cells[c], store);
     }
     if (rc != SQLITE_DONE) fail(doing.text());
 }

@@ -463,8 +463,8 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     return p;
 }
 
-void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                        const Doing& doing) {
+void PgConnection::read(const QueryPlan& plan, const std::vector<uint8_t>* only, RowStore& store,
+                        const std::function<Cell*(int64_t)>& newRow, const Doing& doing) {
     const std::string context = doing.text();
     Result r = plan.isSelect || !plan.params.empty()
                    ? run(plan.selectSql, plan.params, context)
@@ -474,17 +474,20 @@ void PgConnection::read(const QueryPlan& plan, RowStore& store, const std::funct
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK) fail(r.get(), context);
         return;
     }
-    fill(plan, r.get(), PQnfields(r.get()) - 1, store, newRow, context);
+    fill(plan, only, r.get(), PQnfields(r.get()) - 1, store, newRow, context);
 }
 
-void PgConnection::fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
-                        const std::function<Cell*(int64_t)>& newRow, std::string_view context) const {
+void PgConnection::fill(const QueryPlan& plan, const std::vector<uint8_t>* only, const PGresult* res,
+                        int idField, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+                        std::string_view context) const {
     const int rows = PQntuples(res);
     const size_t n = plan.cols.size();
     for (int row = 0; row < rows; ++row) {
         const int64_t id = plan.withIdentity ? numberFrom(PQgetvalue(res, row, idField), context) : 0;
         Cell* cells = newRow(id);
-        for (size_t c = 0; c < n; ++c) readCell(res, row, plan.fields[c], cells[c], store);
+        if (!cells) continue;
+        for (size_t c = 0; c < n; ++c)
+            if (!only || (*only)[c]) readCell(res, row, plan.fields[c], cells[c], store);
     }
 }
 
@@ -508,7 +511,7 @@ int64_t PgConnection::countOrRead(const QueryPlan& plan, RowStore& store,
     const int fields = PQnfields(res);
     const int64_t total = rows == 0 ? 0 : numberFrom(PQgetvalue(res, 0, fields - 1), context);
     if (total == rows) {
-        fill(plan, res, fields - 2, store, newRow, context);
+        fill(plan, nullptr, res, fields - 2, store, newRow, context);
         read = true;
     }
     return total;

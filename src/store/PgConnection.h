@@ -32,7 +32,8 @@ public:
     PgConnection& operator=(const PgConnection&) = delete;
 
     QueryPlan plan(const std::string& jetSource) override;
-    void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
+    void read(const QueryPlan& plan, const std::vector<uint8_t>* only, RowStore& store,
+              const std::function<Cell*(int64_t)>& newRow,
               const Doing& doing) override;
     int64_t count(const QueryPlan& plan, const Doing& doing) override;
     // The first rows and the count in one round trip: a set of up to
@@ -91,8 +92,8 @@ private:
     // A count or key the server sent as text; a store failure when it is none.
     int64_t numberFrom(const char* text, std::string_view context) const;
     [[nodiscard]] bool connectionLost(const std::string& code, const std::string& engine) const;
-    void fill(const QueryPlan& plan, const PGresult* res, int idField, RowStore& store,
-              const std::function<Cell*(int64_t)>& newRow, std::string_view context) const;
+    void fill(const QueryPlan& plan, const std::vector<uint8_t>* only, const PGresult* res, int idField,
+              RowStore& store, const std::function<Cell*(int64_t)>& newRow, std::string_view context) const;
 
     std::string uri_;
     std::string name_;

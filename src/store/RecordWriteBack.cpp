@@ -162,7 +162,8 @@ std::vector<std::string> RecordWriteBack::merge() {
     std::vector<std::string> taken;
     bool clash = false;
     for (size_t c = 0; c < d_.cols.size(); ++c) {
-        if (d_.cols[c].origin.empty()) continue;
+        // A column this set never read has nothing to merge: read later, it shows what stands then.
+        if (d_.cols[c].origin.empty() || !d_.isPresent(c)) continue;
         const Value now = FieldCodec::fromCell(cells[c], d_.cols[c].type);
         const bool unchanged = FieldCodec::sameStored(now, d_.originalAt(pos, c));
         if (e.dirty[c] && !d_.checked(c)) continue;

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <limits>
 #include <string_view>
+#include <unordered_map>
 
 #include "store/FieldCodec.h"
 #include "store/RecordWriteBack.h"
@@ -69,8 +70,13 @@ void Recordset::Impl::requireWritable() const {
     if (readOnly || !updatable()) throwNotUpdatable();
 }
 
+Recordset::Impl::~Impl() {
+    if (loaded && plan.use) plan.use->learned = true;
+}
+
 void Recordset::Impl::reset() {
     loaded = false;
+    present.clear();
     counted = -1;
     store.clear();
     rows.clear();
@@ -99,8 +105,40 @@ void Recordset::Impl::markLoaded() {
 
 void Recordset::Impl::load() {
     reset();
-    conn->read(plan, store, rowSink(), doing("reading"));
+    const std::vector<uint8_t>* only = loadColumns();
+    conn->read(plan, only, store, rowSink(), doing("reading"));
     markLoaded();
+}
+
+const std::vector<uint8_t>* Recordset::Impl::loadColumns() {
+    if (plan.use && plan.use->used.size() != cols.size()) {
+        plan.use->used.assign(cols.size(), 0);
+        plan.use->learned = false;
+    }
+    if (!plan.use || !plan.use->learned) return nullptr;
+    present = plan.use->used;
+    if (std::find(present.begin(), present.end(), 0) == present.end()) present.clear();
+    return present.empty() ? nullptr : &present;
+}
+
+void Recordset::Impl::fill(size_t c) {
+    std::vector<uint8_t> only(cols.size(), 0);
+    only[c] = 1;
+    // The rows come back in the order they were read, but for rows other
+    // users added or removed since; those added are passed by.
+    size_t next = 0;
+    std::unordered_map<int64_t, size_t> byId;
+    auto rowFor = [&](int64_t id) -> Cell* {
+        while (next < rows.size() && !rows[next].cells) ++next;
+        if (next < rows.size() && rows[next].rowid == id) return rows[next++].cells;
+        if (byId.empty())
+            for (size_t r = 0; r < rows.size(); ++r)
+                if (rows[r].cells) byId.emplace(rows[r].rowid, r);
+        const auto found = byId.find(id);
+        return found == byId.end() ? nullptr : rows[found->second].cells;
+    };
+    conn->read(plan, &only, store, rowFor, doing("reading"));
+    present[c] = 1;
 }
 
 int Recordset::Impl::findColumn(std::string_view name) {
@@ -148,6 +186,7 @@ void Recordset::Impl::assign(size_t c, const Value& v) {
                       "Insufficient base table information for updating or refreshing. (field " + col.name + ")",
                       "Recordset");
     Value converted = FieldCodec::convertFor(col.type, v);  // may throw: nothing changed yet
+    need(c);
     beginEdit();
     Row& row = rows[pos];
     // A stored row given the value it holds is not changed: nothing is
@@ -181,6 +220,7 @@ Value Field::value() const {
     d.requireOpen();
     d.ensureLoaded();
     d.requireCurrent();
+    d.need(static_cast<size_t>(index_));
     return d.valueAt(d.pos, static_cast<size_t>(index_));
 }
 

@@ -67,7 +67,7 @@ enum class RowState : uint8_t {
 
 struct Row {
     int64_t rowid = 0;
-    const Cell* cells = nullptr;  // as read; none for an added row
+    Cell* cells = nullptr;  // as read; none for an added row
     RowState state = RowState::Clean;
     std::unique_ptr<Edit> edit;
     [[nodiscard]] bool visible() const { return state != RowState::Deleted && state != RowState::Gone; }
@@ -78,6 +78,12 @@ struct Row {
 };
 
 struct Recordset::Impl {
+    Impl() = default;
+    Impl(const Impl&) = delete;
+    Impl& operator=(const Impl&) = delete;
+    // A set that read its rows teaches the text's later sets which columns it used.
+    ~Impl();
+
     bool open = false;
     std::string source;
     std::shared_ptr<StoreBackend> conn;
@@ -93,6 +99,8 @@ struct Recordset::Impl {
     bool loaded = false;
     int64_t counted = -1;  // the count of a set not read yet, once asked
     RowStore store;
+    // The columns whose cells were read; empty when every column was.
+    std::vector<uint8_t> present;
     std::vector<Row> rows;
     size_t pos = 0;
     size_t visible = 0;
@@ -122,6 +130,13 @@ struct Recordset::Impl {
     [[nodiscard]] std::function<Cell*(int64_t)> rowSink();
     void markLoaded();
     [[nodiscard]] int findColumn(std::string_view name);
+    // A column's cells are about to be looked at: noted as used, and read
+    // for every row where the load left them out.
+    void need(size_t c) {
+        if (plan.use && c < plan.use->used.size()) plan.use->used[c] = 1;
+        if (!present.empty() && !present[c]) fill(c);
+    }
+    [[nodiscard]] bool isPresent(size_t c) const { return present.empty() || present[c]; }
     void moveToVisibleFrom(size_t i);
 
     // A field's value: the edit's where it holds one, else the cell as read.
@@ -145,6 +160,10 @@ struct Recordset::Impl {
     void deleteRow(size_t r);
 
 private:
+    // The columns a load reads: null for all of them.
+    [[nodiscard]] const std::vector<uint8_t>* loadColumns();
+    void fill(size_t c);
+
     using Values = std::vector<Value> Edit::*;
     using Flags = std::vector<uint8_t> Edit::*;
     [[nodiscard]] Value layered(size_t r, size_t c, Values vals, Flags has, bool raw = false) const {

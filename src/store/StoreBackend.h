@@ -24,6 +24,14 @@ struct ColumnInfo {
     std::string origin;  // the base table's column, empty for an expression
 };
 
+// The columns of a query text that its sets have used, learned on a
+// connection: once a set of the text has gone, a load reads only these, and
+// a set reads another column of its rows when it is first asked for.
+struct ColumnUse {
+    bool learned = false;
+    std::vector<uint8_t> used;
+};
+
 // An opened query: what a load runs and what the set can write.
 struct QueryPlan {
     std::string selectSql;  // with the row identity as its last column when the set can write back
@@ -35,6 +43,9 @@ struct QueryPlan {
     std::vector<int> fields;  // the engine's field of each column, where it isn't the same position
     std::string probeSql;     // counts and reads the first rows in one go, where the engine offers it
     std::vector<Value> params;  // the values of the text's ? placeholders, in order
+    // Where the engine can read some columns of rows it has read before
+    // (by their identity); null where a load reads every column.
+    std::shared_ptr<ColumnUse> use;
 };
 
 // True for a connection URI of a PostgreSQL server (postgresql:// or
@@ -67,9 +78,11 @@ public:
 
     // Plans a query text in the old (Jet) dialect. Throws Failure.
     virtual QueryPlan plan(const std::string& jetSource) = 0;
-    // Reads every row of the plan: newRow(identity) gives the row's cells.
-    virtual void read(const QueryPlan& plan, RowStore& store, const std::function<Cell*(int64_t)>& newRow,
-                      const Doing& doing) = 0;
+    // Reads every row of the plan: newRow(identity) gives the row's cells,
+    // or null to pass the row by. only, where given, flags the columns to
+    // read (an engine whose plans carry no use reads every column).
+    virtual void read(const QueryPlan& plan, const std::vector<uint8_t>* only, RowStore& store,
+                      const std::function<Cell*(int64_t)>& newRow, const Doing& doing) = 0;
     // The number of rows, or -1 when it can't be counted without reading.
     virtual int64_t count(const QueryPlan& plan, const Doing& doing) = 0;
     // As count; an engine for which a question costs a round trip may read

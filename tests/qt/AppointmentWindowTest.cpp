@@ -9,6 +9,7 @@
 #include "HostFixture.h"
 #include "kit/ToolCell.h"
 #include "view/AppointmentList.h"
+#include "view/HostStore.h"
 #include "view/HostWindow.h"
 
 namespace qv {
@@ -99,6 +100,18 @@ TEST_F(AppointmentWindow, TypedTimeIsJudgedWhenLeftAndTabsFollowTheModel) {
     ASSERT_FALSE(steps.messages().isEmpty());
     EXPECT_EQ(steps.messages().first(), "That value was not recognized as a time period like 1:00.");
     EXPECT_EQ(text("SELECT taTimeWorked FROM TASKAPPTS"), "") << "Escape stores nothing";
+}
+
+TEST_F(AppointmentWindow, TheHostsListShowsAnEndAtMidnight) {
+    exec(std::string("INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taEndTime, taTaskDesc, taImp, "
+                     "taDifficulty, taWasWorked, taDuration) VALUES ('late', '") +
+         kTask + "', '2026-11-24T23:00:00.000', '2026-11-25', 'Lock the gate', 1, 1, 1, 60)");
+    HostStore store(folder());
+    AppointmentList list(store);
+    list.showTask(kTask);
+    ASSERT_EQ(list.count(), 2);
+    EXPECT_EQ(list.item(0)->text(), "2026-11-24 08:00 - 08:45  Sweep the yard");
+    EXPECT_EQ(list.item(1)->text(), "2026-11-24 23:00 - 00:00  Lock the gate  (worked)");
 }
 
 TEST_F(AppointmentWindow, EditTaskOpensTheTaskAboveTheAppointment) {

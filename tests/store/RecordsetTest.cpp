@@ -627,5 +627,44 @@ TEST_F(RecordsetTest, AMergeTakesOtherWritersFieldsAndARowGoneIsTold) {
     expectStoreFailure(failureOf([&] { rs->UpdateBatch(); }), {"deleted by another user", "TASKS"});
 }
 
+// A text's sets teach its later sets which columns they use: those load
+// only these, and read any other column of their rows when first asked.
+TEST_F(RecordsetTest, AColumnALoadLeftOutIsReadWhenFirstAskedAndWrittenWithItsCheck) {
+    const Query all = "SELECT * from TASKS";
+    {
+        auto first = open(all);
+        for (; !first->EOF_(); first->MoveNext()) (void)first->Fields("tskDesc").value();
+    }
+    auto rs = open(all);
+    ASSERT_FALSE(rs->EOF_());  // loaded
+    exec("UPDATE TASKS SET tskImp=9, tskTimeSpent=70 WHERE tskGUIDID='T1';"
+         "UPDATE TASKS SET tskTimeSpent=5 WHERE tskGUIDID='T2';"
+         "DELETE FROM TASKS WHERE tskGUIDID='T3';"
+         "INSERT INTO TASKS VALUES ('T4', 'Fourth', 'P2', 1, 0, 0, NULL)");
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("First"));  // as loaded
+    EXPECT_EQ(rs->Fields("tskImp").value(), Value(int16_t{9}));  // what stands when first asked
+    rs->Fields("tskImp") = Value(int16_t{7});
+    EXPECT_NO_THROW(rs->UpdateBatch());
+    EXPECT_EQ(readOne("SELECT tskImp || tskTimeSpent FROM TASKS WHERE tskGUIDID='T1'"), "770");
+
+    // A merge has nothing to take for a column the set never read; read, it is what stands.
+    rs->MoveNext();
+    EXPECT_EQ(rs->MergeStored(), std::vector<std::string>{});
+    EXPECT_EQ(rs->Fields("tskTimeSpent").value(), Value(int32_t{5}));
+    rs->MoveNext();
+    EXPECT_EQ(rs->Fields("tskDesc").value(), Value("Third"));
+    rs->MoveNext();
+    EXPECT_TRUE(rs->EOF_());  // the row added since is not in the set
+    rs->Close();
+
+    // Another program adds a column: the kept statement's old shape is not
+    // read as the new one; the next open sees the new shape.
+    exec("ALTER TABLE TASKS ADD COLUMN tskExtra TEXT DEFAULT 'x'");
+    expectStoreFailure(failureOf([&] { (void)open(all)->EOF_(); }), {"tables changed by another program"});
+    auto after = open(all);
+    EXPECT_EQ(after->Fields("tskExtra").value(), Value("x"));
+    EXPECT_EQ(after->Fields("tskDesc").value(), Value("First"));
+}
+
 }  // namespace
 }  // namespace qv
