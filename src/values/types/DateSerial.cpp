@@ -68,13 +68,12 @@ bool isBlank(char c) {
 // long schedule holds thousands of them. Any other text is left to the
 // general reader.
 bool readStoreForm(std::string_view s, CivilTime& t, int32_t& ms) {
-    static constexpr std::string_view kShape = "0000-00-00T00:00:00.000";
-    if (s.size() != kShape.size() || (s[10] != 'T' && s[10] != ' ')) return false;
-    for (size_t i = 0; i < kShape.size(); ++i) {
-        if (i == 10) continue;
-        const bool digit = s[i] >= '0' && s[i] <= '9';
-        if (kShape[i] == '0' ? !digit : s[i] != kShape[i]) return false;
-    }
+    static constexpr size_t kDigits[] = {0, 1, 2, 3, 5, 6, 8, 9, 11, 12, 14, 15, 17, 18, 20, 21, 22};
+    if (s.size() != 23 || s[4] != '-' || s[7] != '-' || (s[10] != 'T' && s[10] != ' ') || s[13] != ':' ||
+        s[16] != ':' || s[19] != '.')
+        return false;
+    for (size_t i : kDigits)
+        if (s[i] < '0' || s[i] > '9') return false;
     const auto number = [s](size_t at, size_t n) {
         int32_t v = 0;
         for (size_t i = at; i < at + n; ++i) v = v * 10 + (s[i] - '0');
