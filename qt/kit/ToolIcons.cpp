@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmapCache>
 
 namespace qv {
 
@@ -38,8 +39,19 @@ void drawInUse(QPainter& p, int s) {
 
 }  // namespace
 
+// Each picture is drawn once per size: a window shows the same few many
+// times, and opens often.
 QPixmap ToolIcons::pixmap(const std::string& name, int size) {
     if (name != "GOOD" && name != "BAD" && name != "GRAY" && name != "INUSE") return {};
+    const QString key = QStringLiteral("qv-tool-%1-%2").arg(QString::fromStdString(name)).arg(size);
+    QPixmap pm;
+    if (QPixmapCache::find(key, &pm)) return pm;
+    pm = draw(name, size);
+    QPixmapCache::insert(key, pm);
+    return pm;
+}
+
+QPixmap ToolIcons::draw(const std::string& name, int size) {
     QPixmap pm(size, size);
     pm.fill(Qt::transparent);
     QPainter p(&pm);
