@@ -6,24 +6,22 @@
 
 namespace qv {
 
-namespace {
-bool isStop(const QWidget* w) { return (w->focusPolicy() & Qt::TabFocus) != 0; }
-}  // namespace
-
 void TabPlace::keep(QWidget* part) {
     QWidget* start = part->window();
     std::vector<QWidget*> stops;
     for (QWidget* w = start->nextInFocusChain(); w && w != start; w = w->nextInFocusChain())
-        if (part->isAncestorOf(w) && isStop(w)) stops.push_back(w);
-    // The order is set between Tab stops only.
-    QWidget* previous = part->previousInFocusChain();
-    while (previous && previous != start && (part->isAncestorOf(previous) || !isStop(previous)))
-        previous = previous->previousInFocusChain();
-    if (!previous || previous == start) return;
+        if (part->isAncestorOf(w) && (w->focusPolicy() & Qt::TabFocus)) stops.push_back(w);
+    if (stops.empty()) return;
+    // The part's own place in the chain is where its stops go: the order is
+    // set between Tab stops only, so the part is one while it is set.
+    const Qt::FocusPolicy policy = part->focusPolicy();
+    part->setFocusPolicy(Qt::TabFocus);
+    QWidget* previous = part;
     for (QWidget* w : stops) {
         QWidget::setTabOrder(previous, w);
         previous = w;
     }
+    part->setFocusPolicy(policy);
 }
 
 }  // namespace qv

@@ -1,7 +1,7 @@
 #pragma once
-// A part of a window made after the window was (its widgets join the end of
-// the Tab order) takes its place in the order: its stops follow the last
-// stop before it, as if it had been made with the rest.
+// A part of a window filled after the window was made (its new widgets join
+// the end of the Tab order) takes its place in the order: its stops stand
+// where the part stands, as if it had been filled with the rest.
 
 class QWidget;
 
