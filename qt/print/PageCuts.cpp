@@ -2,11 +2,12 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QTextTable>
 #include <algorithm>
+#include <climits>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -40,17 +41,52 @@ void addRows(const std::map<RowKey, PageCuts::Span>& rows, std::vector<PageCuts:
     flush();
 }
 
+// Where each cell of a table starts and the row it starts in, in the
+// order of the text. A cell's own row lookup searches the whole table, so
+// in a long table it is asked of the grid once per cell instead.
+struct RowStarts {
+    std::vector<std::pair<int, int>> cells;  // first position, row
+    [[nodiscard]] int rowAt(int position) const {
+        auto it = std::upper_bound(cells.begin(), cells.end(), std::pair{position, INT_MAX});
+        return it == cells.begin() ? 0 : std::prev(it)->second;
+    }
+};
+
+RowStarts rowStarts(const QTextTable& table) {
+    RowStarts starts;
+    for (int r = 0; r < table.rows(); ++r)
+        for (int c = 0; c < table.columns(); ++c) {
+            const QTextTableCell cell = table.cellAt(r, c);
+            if (cell.isValid()) starts.cells.emplace_back(cell.firstPosition(), r);
+        }
+    // A cell spanning rows or columns appears once per place: its first row counts.
+    std::sort(starts.cells.begin(), starts.cells.end());
+    starts.cells.erase(std::unique(starts.cells.begin(), starts.cells.end(),
+                                   [](const auto& a, const auto& b) { return a.first == b.first; }),
+                       starts.cells.end());
+    return starts;
+}
+
+// The table a position lies in, the innermost where tables nest.
+const QTextTable* innermostTable(QTextDocument& doc, int position) {
+    for (QTextFrame* frame = doc.frameAt(position); frame; frame = frame->parentFrame())
+        if (auto* table = qobject_cast<QTextTable*>(frame)) return table;
+    return nullptr;
+}
+
 }  // namespace
 
 std::vector<PageCuts::Span> PageCuts::keepTogether(QTextDocument& doc) {
     auto* layout = doc.documentLayout();
     std::vector<Span> out;
     std::map<RowKey, Span> rows;
+    std::map<const QTextTable*, RowStarts> starts;
     for (QTextBlock block = doc.begin(); block.isValid(); block = block.next()) {
         const QRectF rect = layout->blockBoundingRect(block);
-        QTextCursor at(block);
-        if (QTextTable* table = at.currentTable()) {
-            const RowKey key{table, table->cellAt(at).row()};
+        if (const QTextTable* table = innermostTable(doc, block.position())) {
+            auto found = starts.find(table);
+            if (found == starts.end()) found = starts.emplace(table, rowStarts(*table)).first;
+            const RowKey key{table, found->second.rowAt(block.position())};
             auto [it, fresh] = rows.try_emplace(key, Span{rect.top(), rect.bottom()});
             if (!fresh)
                 it->second = {std::min(it->second.top, rect.top()),

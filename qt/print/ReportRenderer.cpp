@@ -5,7 +5,9 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextBlock>
 #include <QTextDocument>
+#include <QTextLayout>
 #include <QUrl>
 
 #include "kit/QtText.h"
@@ -68,9 +70,13 @@ void ReportRenderer::layout(QPrinter& printer) {
 
 // The document's layout lays the whole text out as it is made and again at
 // every change of width; with no page size it waits, so the text is laid
-// out once, for the printer's metrics and the body's width.
+// out once, for the printer's metrics and the body's width. The glyphs
+// shaped to break the lines are kept for painting, which would otherwise
+// shape every line again.
 void ReportRenderer::layOutOnce(QPrinter& printer, double width) {
     doc_->setPageSize(QSizeF(0, 0));
+    for (QTextBlock block = doc_->begin(); block.isValid(); block = block.next())
+        block.layout()->setCacheEnabled(true);
     doc_->documentLayout()->setPaintDevice(&printer);
     doc_->setTextWidth(width);
     laidOut_ = {&printer, printer.resolution(), body_.size()};
