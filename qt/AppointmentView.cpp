@@ -1,15 +1,11 @@
 #include "AppointmentView.h"
 
-#include <utility>
-
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include "kit/PaneBuilder.h"
 #include "kit/SplitterView.h"
 #include "kit/TabStripView.h"
 #include "toolkit/Form.h"
-#include "toolkit/TabStrip.h"
 
 namespace qv {
 
@@ -44,29 +40,10 @@ QWidget* AppointmentView::buildTabs() {
     if (!strip) return PaneBuilder(form(), this).sheet("smtABOUT");
     auto* tabs = new TabStripView(*strip, this);
     Form* f = &form();
-    waiting_ = {[f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblCk", "spellCK", "smtCKActions"); },
-                [f](QWidget* parent) { return PaneBuilder(*f, parent).editorPane("lblNotes", "SpellNotes"); },
-                [f](QWidget* parent) { return PaneBuilder(*f, parent).sheet("smtABOUT"); }};
-    for (std::size_t i = 0; i < waiting_.size(); ++i) {
-        auto* holder = new QWidget(tabs);
-        (new QVBoxLayout(holder))->setContentsMargins(0, 0, 0, 0);
-        panels_.push_back(holder);
-        tabs->addPanel(holder);
-    }
-    buildPanel(strip->current());
-    // A tab the dialog brings forward has its panel at once.
-    tabsChanged_ = EventLink(strip->Changed, [this, strip] { buildPanel(strip->current()); });
-    QTimer::singleShot(kIdleDelayMs, this, [this] {
-        for (int t = 0; t < static_cast<int>(panels_.size()); ++t) buildPanel(t);
-    });
+    tabs->addPanel([f](QWidget* holder) { return PaneBuilder(*f, holder).editorPane("lblCk", "spellCK", "smtCKActions"); });
+    tabs->addPanel([f](QWidget* holder) { return PaneBuilder(*f, holder).editorPane("lblNotes", "SpellNotes"); });
+    tabs->addPanel([f](QWidget* holder) { return PaneBuilder(*f, holder).sheet("smtABOUT"); });
     return tabs;
-}
-
-void AppointmentView::buildPanel(int tab) {
-    if (tab < 0 || tab >= static_cast<int>(waiting_.size()) || !waiting_[static_cast<std::size_t>(tab)]) return;
-    QWidget* holder = panels_[static_cast<std::size_t>(tab)];
-    auto make = std::exchange(waiting_[static_cast<std::size_t>(tab)], nullptr);
-    holder->layout()->addWidget(make(holder));
 }
 
 }  // namespace qv

@@ -4,10 +4,6 @@
 // action bar under them all. The tabs out of view are built once the
 // window has painted.
 
-#include <functional>
-#include <vector>
-
-#include "kit/EventLink.h"
 #include "kit/FormView.h"
 
 namespace qv {
@@ -26,15 +22,8 @@ public:
 private:
     QWidget* buildPane(int index);
     QWidget* buildTabs();
-    // The panel of a tab, built now if it still waits.
-    void buildPanel(int tab);
-
-    static constexpr int kIdleDelayMs = 15;  // lets the window paint first
 
     SplitterView* splitter_ = nullptr;
-    std::vector<QWidget*> panels_;  // the tabs' holders
-    std::vector<std::function<QWidget*(QWidget*)>> waiting_;
-    EventLink tabsChanged_;
 };
 
 }  // namespace qv

@@ -39,15 +39,16 @@ QWidget* ExistingTaskView::buildPane(int index) {
 
 QWidget* ExistingTaskView::buildTabs() {
     TabStrip* strip = form().tabStrip("Tabs1");
-    if (!strip) return buildSchedule();
+    if (!strip) return buildSchedule(this);
     tabs_ = new TabStripView(*strip, this);
-    tabs_->addPanel(PaneBuilder(form(), tabs_).editorPane("lblCk", "spellCK", "smtCKActions"));
-    tabs_->addPanel(buildSchedule());
+    Form* f = &form();
+    tabs_->addPanel([f](QWidget* holder) { return PaneBuilder(*f, holder).editorPane("lblCk", "spellCK", "smtCKActions"); });
+    tabs_->addPanel([this](QWidget* holder) { return buildSchedule(holder); });
     return tabs_;
 }
 
-QWidget* ExistingTaskView::buildSchedule() {
-    auto* panel = new QWidget(this);
+QWidget* ExistingTaskView::buildSchedule(QWidget* parent) {
+    auto* panel = new QWidget(parent);
     panel->setObjectName("paneTab1");
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(2, 2, 2, 2);

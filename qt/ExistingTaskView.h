@@ -2,7 +2,8 @@
 // The Existing Task dialog: its eight panes in the splitter (About and
 // Notes; the task and the tabs; a spare pane, the times and the keywords;
 // the tool bar along the bottom). The tabs hold the checklist and the
-// schedule: its sum strip, the grid and its add and delete strip.
+// schedule: its sum strip, the grid and its add and delete strip; the tab
+// out of view is built once the window has painted.
 
 #include "kit/FormView.h"
 
@@ -20,13 +21,14 @@ public:
     [[nodiscard]] QSize minimumTwips() const override { return {8400, 6710}; }
     [[nodiscard]] QSize defaultTwips() const override { return {12000, 8400}; }
     [[nodiscard]] SplitterView* splitter() const { return splitter_; }
+    // The schedule grid, once its tab is built.
     [[nodiscard]] GridView* schedule() const { return schedule_; }
     [[nodiscard]] TabStripView* tabs() const { return tabs_; }
 
 private:
     QWidget* buildPane(int index);
     QWidget* buildTabs();
-    QWidget* buildSchedule();
+    QWidget* buildSchedule(QWidget* parent);
 
     SplitterView* splitter_ = nullptr;
     GridView* schedule_ = nullptr;

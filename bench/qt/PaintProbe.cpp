@@ -14,6 +14,7 @@
 #include "kit/FormWindow.h"
 #include "kit/QtUi.h"
 #include "kit/SheetWidget.h"
+#include "kit/TabStripView.h"
 #include "session/globals/SessionGlobals.h"
 #include "store/ADOCode.h"
 #include "view/HostApp.h"
@@ -39,8 +40,11 @@ private:
     QElapsedTimer& clock_;
 };
 
-// Every sheet of the window has a cell for each of its tools.
+// Every tab's page is built and every sheet of the window has a cell for
+// each of its tools.
 bool complete(QWidget* window) {
+    for (TabStripView* t : window->findChildren<TabStripView*>(Qt::FindChildrenRecursively))
+        if (!t->complete()) return false;
     for (SheetWidget* w : window->findChildren<SheetWidget*>(Qt::FindChildrenRecursively))
         if (!w->complete()) return false;
     return true;

@@ -1,8 +1,8 @@
 #pragma once
 // Times one dialog window on the desktop host, offscreen: from the call
 // that opens it to its first paint, and to the moment it is complete (every
-// sheet holds a cell for each of its tools, so every entry is reachable by
-// scrolling), with the process' resident memory growth meanwhile. The
+// tab's page is built and every sheet holds a cell for each of its tools,
+// so every entry is reachable by scrolling), with the process' resident memory growth meanwhile. The
 // window is then closed by its own tool.
 
 #include <QString>

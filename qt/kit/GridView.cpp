@@ -55,6 +55,11 @@ GridView::GridView(Grid& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
 
     table_ = new QTableView(this);
     table_->setObjectName(objectName() + ".table");
+    // Rows of one height: the table never measures rows it doesn't show.
+    // Set before the model comes, so a long grid's rows are sized once.
+    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
+    table_->verticalHeader()->hide();
     model_ = new GridModel(grid, table_);
     delegate_ = new GridDelegate(*model_, table_);
     table_->setModel(model_);
@@ -65,10 +70,6 @@ GridView::GridView(Grid& grid, QWidget* parent) : QWidget(parent), grid_(grid) {
                             QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
     table_->setWordWrap(false);
     table_->setAlternatingRowColors(true);
-    // Rows of one height: the table never measures rows it doesn't show.
-    table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->verticalHeader()->setDefaultSectionSize(table_->fontMetrics().height() + 8);
-    table_->verticalHeader()->hide();
     table_->horizontalHeader()->setHighlightSections(false);
     table_->installEventFilter(new ButtonKeys(table_, delegate_));
     caption_->setBuddy(table_);

@@ -39,14 +39,15 @@ void drawInUse(QPainter& p, int s) {
 
 }  // namespace
 
+// Each picture is drawn once per size: a window shows the same few many
+// times, and opens often.
 QPixmap ToolIcons::pixmap(const std::string& name, int size) {
     if (name != "GOOD" && name != "BAD" && name != "GRAY" && name != "INUSE") return {};
-    // Every refresh of a cell asks again: each picture is drawn once.
-    const QString cacheKey = QStringLiteral("qv-tool-%1-%2").arg(QString::fromStdString(name)).arg(size);
+    const QString key = QStringLiteral("qv-tool-%1-%2").arg(QString::fromStdString(name)).arg(size);
     QPixmap pm;
-    if (QPixmapCache::find(cacheKey, &pm)) return pm;
+    if (QPixmapCache::find(key, &pm)) return pm;
     pm = draw(name, size);
-    QPixmapCache::insert(cacheKey, pm);
+    QPixmapCache::insert(key, pm);
     return pm;
 }
 

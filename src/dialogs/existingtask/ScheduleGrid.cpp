@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <unordered_map>
 #include <utility>
 
 #include "dialogs/shared/TaskRecord.h"
@@ -107,6 +108,7 @@ void ScheduleGrid::initSked() {
     if (!rs_) {
         grid_.clearRows();
         loaded_ = {};
+        cursor_ = -1;
         return;
     }
     const int32_t count = source_->GetRowCount();
@@ -127,6 +129,7 @@ void ScheduleGrid::killSked() {
     source_.reset();
     grid_.clearRows();
     loaded_ = {};
+    cursor_ = -1;
 }
 
 // The query's columns as they come, then the three the dialog adds.
@@ -172,32 +175,41 @@ void ScheduleGrid::applyResizeWidths() {
             grid_.setColumnWidth(c, roundLong(s.resizeFactor * w));
 }
 
-// The rows are read once; their texts are made as each row is first
-// shown, but for the planned durations, which the count-up sums at load.
+// The rows are read once. The planned durations and the minutes, which
+// the count-up reads at load, come from each row's start, end and time
+// spent; a row's other values and its texts wait until the row is first
+// shown, and are read from the set, which stands as loaded until then.
 void ScheduleGrid::loadRows(int32_t expected) {
     Loaded loaded;
     const auto rows = static_cast<std::size_t>(std::max(expected, 0));
-    loaded.values.reserve(rows * static_cast<std::size_t>(boundColumns_));
+    const auto bound = static_cast<std::size_t>(boundColumns_);
+    loaded.values.reserve(rows * bound);
     loaded.durations.reserve(rows);
     loaded.minutes.reserve(rows);
     const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
     auto& rs = *rs_;
+    const auto read = [&rs, this](int32_t column, Value* row) {
+        if (column < 0 || column >= boundColumns_) return false;
+        row[column] = rs.FieldAt(column).value();
+        return !row[column].isNull();
+    };
     if (!rs.EOF_()) rs.MoveFirst();
     while (!rs.EOF_()) {
+        const std::size_t first = loaded.values.size();
+        loaded.values.resize(first + bound);
+        Value* row = loaded.values.data() + first;
         std::optional<double> from, to;
         double worked = 0.0;
-        for (int32_t i = 0; i < boundColumns_; ++i) {
-            Value& v = loaded.values.emplace_back(rs.FieldAt(i).value());
-            if (v.isNull()) continue;
-            if (i == start) from = v.toDate().serial;
-            else if (i == end) to = v.toDate().serial;
-            else if (i == minutes) worked = v.toDouble();
-        }
+        if (read(start, row)) from = row[start].toDate().serial;
+        if (read(end, row)) to = row[end].toDate().serial;
+        if (read(minutes, row)) worked = row[minutes].toDouble();
         loaded.durations.push_back(durationText(from, to));
         loaded.minutes.push_back(worked);
         rs.MoveNext();
     }
+    loaded.fetched.assign(loaded.minutes.size(), false);
     loaded_ = std::move(loaded);
+    cursor_ = -1;
     // Made while a view paints: a fault goes down the error path as the
     // load's own would, and leaves the row empty.
     grid_.setRows(static_cast<int32_t>(loaded_.minutes.size()), [this](int32_t row) {
@@ -207,7 +219,31 @@ void ScheduleGrid::loadRows(int32_t expected) {
     });
 }
 
-std::vector<std::string> ScheduleGrid::makeRow(int32_t row) const {
+// The row's values not read at load, from the set's row of that place.
+void ScheduleGrid::fetchRow(int32_t row) {
+    const auto r = static_cast<std::size_t>(row);
+    if (r >= loaded_.fetched.size() || loaded_.fetched[r]) return;
+    auto& rs = *rs_;
+    if (cursor_ < 0 || cursor_ > row) {
+        rs.MoveFirst();
+        cursor_ = 0;
+    }
+    for (; cursor_ < row; ++cursor_) rs.MoveNext();
+    const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
+    Value* values = loaded_.values.data() + r * static_cast<std::size_t>(boundColumns_);
+    for (int32_t i = 0; i < boundColumns_; ++i)
+        if (i != start && i != end && i != minutes) values[i] = rs.FieldAt(i).value();
+    loaded_.fetched[r] = true;
+}
+
+// Before the set changes under the rows still to show, they take their
+// values as they were loaded.
+void ScheduleGrid::fetchAll() {
+    for (int32_t r = 0; r < static_cast<int32_t>(loaded_.fetched.size()); ++r) fetchRow(r);
+}
+
+std::vector<std::string> ScheduleGrid::makeRow(int32_t row) {
+    fetchRow(row);
     std::vector<std::string> cells(static_cast<std::size_t>(grid_.columnCount()));
     const auto r = static_cast<std::size_t>(row);
     const auto bound = static_cast<std::size_t>(boundColumns_);
@@ -249,12 +285,19 @@ void ScheduleGrid::InitializeRow(int32_t row) {
     }
 }
 
+// A long schedule holds few distinct durations: each text is read once.
 void ScheduleGrid::CountUpSked() {
     if (grid_.rowCount() == 0) return;
-    int64_t sum = FormatCTasTime(plannedText(0));
+    std::unordered_map<std::string, int32_t> read;
+    const auto minutesOf = [&read](const std::string& text) {
+        auto [at, added] = read.try_emplace(text, 0);
+        if (added) at->second = FormatCTasTime(text);
+        return at->second;
+    };
+    int64_t sum = minutesOf(plannedText(0));
     int32_t count = 1;
     for (int32_t r = 1; r < grid_.rowCount(); ++r) {
-        sum += FormatCTasTime(plannedText(r));
+        sum += minutesOf(plannedText(r));
         if (sum > INT32_MAX || sum < INT32_MIN || count == INT32_MAX) throw Failure(err::Overflow, "Overflow");
         ++count;
     }
@@ -311,6 +354,7 @@ void ScheduleGrid::writeField(int32_t row, int32_t column) {
         v = FormatCTasTime(text);
     }
     auto& rs = *rs_;
+    cursor_ = -1;
     rs.MoveFirst();
     for (int32_t i = 0; i < row && !rs.EOF_(); ++i) rs.MoveNext();
     if (rs.EOF_()) return;
@@ -330,6 +374,7 @@ void ScheduleGrid::addAppointment() {
     const std::string diffImp = trimmed(std::to_string(rec.Imp)) + trimmed(std::to_string(rec.Diff));
     const Tool& project = smtABOUT_.tool("PROJECT");
     const double start = clock().now();
+    if (source_) fetchAll();
     if (!source_ || !source_->AddTA(key, g().CurrentTaskGUID, project.text(), project.tag(), Date{start},
                                     Date{start + kNewSlotLength}, rec.Desc, diffImp))
         return;
@@ -342,6 +387,7 @@ void ScheduleGrid::deleteAppointment() {
     const auto& picked = grid_.selectedRows();
     if (picked.empty() || !source_) return;
     const std::string key = grid_.cell(picked.front(), col(kKey));
+    fetchAll();
     if (!source_->KillTA(key)) return;
     initSked();
     if (hooks_.ValidateTask) hooks_.ValidateTask();

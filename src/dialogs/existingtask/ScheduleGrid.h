@@ -68,7 +68,9 @@ private:
     void fillUnbound(std::vector<std::string>& cells, std::optional<double> start, std::optional<double> end,
                      std::optional<double> minutes) const;
     void loadRows(int32_t expected);
-    [[nodiscard]] std::vector<std::string> makeRow(int32_t row) const;
+    void fetchRow(int32_t row);
+    void fetchAll();
+    [[nodiscard]] std::vector<std::string> makeRow(int32_t row);
     // A row's "Duration", read without making the row's other cells.
     [[nodiscard]] const std::string& plannedText(int32_t row) const;
     void BeforeCellUpdate(int32_t row, int32_t column, const std::string& text, bool& cancel);
@@ -98,13 +100,16 @@ private:
     } unbound_;
     bool laidOut_ = false;
     // What the rows were loaded from, kept until each row is first shown:
-    // the query's values row after row, the planned durations (which the
-    // count-up reads at load) and the minutes spent.
+    // the query's values row after row (start, end and time spent at load,
+    // the others as the row is first made), the planned durations (which
+    // the count-up reads at load) and the minutes spent.
     struct Loaded {
         std::vector<Value> values;
+        std::vector<bool> fetched;  // the row's other values are read
         std::vector<std::string> durations;
         std::vector<double> minutes;
     } loaded_;
+    int32_t cursor_ = -1;  // the set's row, while the rows are made; -1 unknown
 };
 
 }  // namespace qv

@@ -1,5 +1,6 @@
 #include "values/settings/TimeValues.h"
 
+#include <charconv>
 #include <cmath>
 #include <string_view>
 
@@ -86,7 +87,8 @@ struct DayRule {
 DayRule dayRule() {
     const auto& formats = g().DateFormats;
     const int64_t minutes = dayMinutes();
-    const int32_t h = toLong(formats[kHoursInDay]);
+    // The usual day is told by its text; any other reads as a number.
+    const int32_t h = formats[kHoursInDay] == "24" ? 24 : toLong(formats[kHoursInDay]);
     if (h == 0 || h == 24) return {minutes, minutes, 1440};
     const int64_t window = checkedLong(int64_t{toLong(formats[kD5End])} - toLong(formats[kD5Start]));
     return {minutes, window, window};
@@ -94,9 +96,15 @@ DayRule dayRule() {
 
 // --- the formatter's pieces.
 
-std::string twoDigits(int32_t r) {
-    const std::string digits = std::to_string(r < 0 ? -int64_t{r} : r);
-    return (r < 0 ? "-" : "") + std::string(digits.size() < 2 ? "0" : "") + digits;
+// A whole number of at least two digits, its sign before them.
+void appendTwoDigits(std::string& out, int32_t r) {
+    char buf[16];
+    char* p = buf;
+    const int64_t a = r < 0 ? -int64_t{r} : r;
+    if (r < 0) *p++ = '-';
+    if (a < 10) *p++ = '0';
+    p = std::to_chars(p, buf + sizeof buf, a).ptr;
+    out.append(buf, p);
 }
 
 std::string countText(double count) { return singleText(toSingleFloat(count)); }
@@ -104,9 +112,18 @@ std::string countText(double count) { return singleText(toSingleFloat(count)); }
 // "H:MM" of what is left of m after base minutes; under an hour "0:MM".
 std::string restText(double m, double base) {
     const int32_t r = roundLong(m - base);
-    if (r < 60) return "0:" + twoDigits(r);
+    std::string text;
+    if (r < 60) {
+        text = "0:";
+        appendTwoDigits(text, r);
+        return text;
+    }
     const double h = std::trunc((m - base) / 60.0);
-    return std::to_string(roundLong(h)) + ":" + twoDigits(roundLong(m - (base + 60.0 * h)));
+    char hours[16];
+    text.assign(hours, std::to_chars(hours, hours + sizeof hours, roundLong(h)).ptr);
+    text += ':';
+    appendTwoDigits(text, roundLong(m - (base + 60.0 * h)));
+    return text;
 }
 
 std::string daysText(double m, const DayRule& rule) {

@@ -64,6 +64,31 @@ bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
+// The form the store writes, "yyyy-mm-ddThh:mm:ss.fff", read by place: a
+// long schedule holds thousands of them. Any other text is left to the
+// general reader.
+bool readStoreForm(std::string_view s, CivilTime& t, int32_t& ms) {
+    static constexpr size_t kDigits[] = {0, 1, 2, 3, 5, 6, 8, 9, 11, 12, 14, 15, 17, 18, 20, 21, 22};
+    if (s.size() != 23 || s[4] != '-' || s[7] != '-' || (s[10] != 'T' && s[10] != ' ') || s[13] != ':' ||
+        s[16] != ':' || s[19] != '.')
+        return false;
+    for (size_t i : kDigits)
+        if (s[i] < '0' || s[i] > '9') return false;
+    const auto number = [s](size_t at, size_t n) {
+        int32_t v = 0;
+        for (size_t i = at; i < at + n; ++i) v = v * 10 + (s[i] - '0');
+        return v;
+    };
+    t.year = number(0, 4);
+    t.month = number(5, 2);
+    t.day = number(8, 2);
+    t.hour = number(11, 2);
+    t.minute = number(14, 2);
+    t.second = number(17, 2);
+    ms = number(20, 3);
+    return true;
+}
+
 }  // namespace
 
 int64_t dayNumber(int32_t year, int32_t month, int32_t day) {
@@ -127,8 +152,12 @@ std::string toIso(double serial) {
 std::optional<double> fromIso(std::string_view text) {
     while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
     while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
-    Reader r{text};
     CivilTime t;
+    if (int32_t ms = 0; readStoreForm(text, t, ms)) {
+        if (!isValid(t)) return std::nullopt;
+        return fromCivil(t.year, t.month, t.day, t.hour, t.minute, t.second, ms);
+    }
+    Reader r{text};
     if (!r.digits(4, 4, t.year) || !r.eat('-') || !r.digits(1, 2, t.month) || !r.eat('-') ||
         !r.digits(1, 2, t.day))
         return std::nullopt;

@@ -9,6 +9,7 @@
 #include <QTableView>
 #include <QTabBar>
 #include <QTest>
+#include <QVBoxLayout>
 
 #include "kit/GridDelegate.h"
 #include "kit/GridModel.h"
@@ -147,6 +148,45 @@ TEST(TabStripViewTest, ThePanelFollowsTheModel) {
     view.bar()->setCurrentIndex(1);
     EXPECT_EQ(strip.current(), 1);
     EXPECT_EQ(view.currentPanel(), two);
+}
+
+// A page out of view is made once its window has painted, or at once when
+// its tab comes forward first; its Tab stops stand where it stands.
+TEST(TabStripViewTest, PagesOutOfViewAreMadeAfterThePaintInTheirPlace) {
+    TabStrip strip("Tabs1", {"&Checklist", "&Task Schedule", "&Notes"});
+    strip.Switching.connect([&](int32_t t) { strip.setCurrent(t); });
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    column->addWidget(new QLineEdit(&window));
+    auto* view = new TabStripView(strip, &window);
+    column->addWidget(view);
+    const auto page = [](const char* name) {
+        return [name](QWidget* holder) {
+            auto* edit = new QLineEdit(holder);
+            edit->setObjectName(name);
+            return edit;
+        };
+    };
+    view->addPanel(page("one"));
+    view->addPanel(page("two"));
+    view->addPanel(page("three"));
+    auto* after = new QLineEdit(&window);
+    after->setObjectName("after");
+    column->addWidget(after);
+    EXPECT_NE(window.findChild<QLineEdit*>("one"), nullptr) << "the shown tab's page at once";
+    EXPECT_EQ(window.findChild<QLineEdit*>("two"), nullptr);
+    EXPECT_FALSE(view->complete());
+    strip.setCurrent(2);
+    EXPECT_NE(window.findChild<QLineEdit*>("three"), nullptr) << "a tab brought forward has its page";
+    strip.setCurrent(0);
+
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(view->complete());
+    std::vector<QString> order;
+    for (QWidget* w = window.nextInFocusChain(); w != &window; w = w->nextInFocusChain())
+        if (qobject_cast<QLineEdit*>(w) && !w->objectName().isEmpty()) order.push_back(w->objectName());
+    EXPECT_EQ(order, (std::vector<QString>{"one", "two", "three", "after"}));
 }
 
 }  // namespace
