@@ -122,7 +122,10 @@ const std::vector<uint8_t>* Recordset::Impl::loadColumns() {
 }
 
 void Recordset::Impl::fill(size_t c) {
+    // Every column the load left out comes in one pass: a set whose text
+    // learned too few columns reads the store again once, not once per column.
     std::vector<uint8_t> only(cols.size(), 0);
+    for (size_t i = 0; i < cols.size(); ++i) only[i] = present[i] ? 0 : 1;
     only[c] = 1;
     // The rows come back in the order they were read, but for rows other
     // users added or removed since; those added are passed by.
@@ -138,7 +141,7 @@ void Recordset::Impl::fill(size_t c) {
         return found == byId.end() ? nullptr : rows[found->second].cells;
     };
     conn->read(plan, &only, store, rowFor, doing("reading"));
-    present[c] = 1;
+    present.clear();
 }
 
 int Recordset::Impl::findColumn(std::string_view name) {
