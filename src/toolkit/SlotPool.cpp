@@ -16,7 +16,7 @@ void* SlotPool::do_allocate(std::size_t bytes, std::size_t alignment) {
 
 void SlotPool::do_deallocate(void* p, std::size_t bytes, std::size_t alignment) {
     if (!pooled(bytes, alignment)) {
-        ::operator delete(p, bytes, std::align_val_t(alignment));
+        ::operator delete(p, std::align_val_t(alignment));  // unsized: not every compiler offers the sized one
         return;
     }
     const std::size_t c = sizeClass(bytes);

@@ -11,6 +11,15 @@
 
 #include "Export.h"
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define QV_HAS_ADDRESS_SANITIZER 1
+#endif
+#endif
+#ifndef QV_HAS_ADDRESS_SANITIZER
+#define QV_HAS_ADDRESS_SANITIZER 0
+#endif
+
 namespace qv {
 
 class QV_EXPORT SlotPool : public std::pmr::memory_resource {
@@ -36,7 +45,7 @@ private:
     // Under the address sanitizer every block is the heap's, so that a use
     // after free is still caught.
     [[nodiscard]] static bool pooled(std::size_t bytes, std::size_t alignment) {
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(__SANITIZE_ADDRESS__) || QV_HAS_ADDRESS_SANITIZER
         (void)bytes;
         (void)alignment;
         return false;
