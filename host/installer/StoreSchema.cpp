@@ -1,5 +1,7 @@
 #include "installer/StoreSchema.h"
 
+#include "store/Connection.h"
+
 namespace qv {
 
 namespace {
@@ -49,7 +51,7 @@ std::vector<std::string> makeSchema() {
         // must find its nothing without reading every task.
         "CREATE INDEX idxTasksImp ON TASKS (tskImp)",
         "CREATE INDEX idxTasksCatImp ON TASKSCAT (tskImp)",
-        "CREATE INDEX idxApptsTask ON TASKAPPTS (taTaskGUIDID)",
+        Connection::kScheduleIndex,
         "CREATE INDEX idxApptsKey ON TASKAPPTS (taGUIDID)",
         "CREATE INDEX idxTaskKeywordsTask ON TaskKeywords (ktTASKGUID)",
         "CREATE INDEX idxSettingsSection ON Settings (SetUser, SetSettingSection, "

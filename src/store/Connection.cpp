@@ -129,6 +129,16 @@ int runPragma(sqlite3* db, const char* sql) {
     return rc == SQLITE_DONE ? SQLITE_OK : rc;
 }
 
+// The schedule's index on a store made before it, without waiting: a store
+// busy right now, or one without the table, stays as it is (its reads sort).
+void addScheduleIndex(sqlite3* db, int busyTimeoutMs) {
+    const char* has = "SELECT count(*) FROM sqlite_master WHERE type='index' AND name='idxApptsTaskStart'";
+    if (pragmaText(db, has) != "0") return;
+    sqlite3_busy_timeout(db, 0);
+    runPragma(db, Connection::kScheduleIndex);
+    sqlite3_busy_timeout(db, busyTimeoutMs);
+}
+
 }  // namespace
 
 std::string storeProblem(const std::string& path, std::string_view what) {
@@ -259,6 +269,7 @@ std::shared_ptr<Connection> Connection::openNew(const std::string& path, uint64_
     // WAL is first opened. A store that is busy right now stays as it is and
     // is upgraded at a later open; its own journal serves meanwhile.
     if (!ro && pragmaText(db, "PRAGMA journal_mode") != "wal") runPragma(db, "PRAGMA journal_mode=WAL");
+    if (!ro) addScheduleIndex(db, kBusyTimeoutMs);
     // FULL: a commit is on the disk before the save is acknowledged.
     runPragma(db, "PRAGMA synchronous=FULL");
     rc = runPragma(db, "PRAGMA foreign_keys=OFF");

@@ -44,6 +44,12 @@ public:
     // lets go. For tests and for a host that replaces the file.
     static void release(const std::string& path);
     static void releaseAll();
+    // A task's appointments newest first, read in the index's order rather
+    // than sorted: its last key, the rowid, keeps rows of the same start in
+    // the order a sort of the task's rows left them. A store made before it
+    // gets it when first opened for writing.
+    static constexpr const char* kScheduleIndex =
+        "CREATE INDEX idxApptsTaskStart ON TASKAPPTS (taTaskGUIDID, taStartTime DESC)";
 
     ~Connection() override;
     Connection(const Connection&) = delete;

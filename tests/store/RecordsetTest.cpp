@@ -82,6 +82,21 @@ protected:
         return out;
     }
 
+    // The engine's plan of a text, its steps joined by ";".
+    std::string queryPlan(const std::string& sql) const {
+        sqlite3* db = nullptr;
+        sqlite3_open_v2(path_.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+        sqlite3_stmt* st = nullptr;
+        std::string out;
+        if (sqlite3_prepare_v2(db, ("EXPLAIN QUERY PLAN " + sql).c_str(), -1, &st, nullptr) == SQLITE_OK)
+            while (sqlite3_step(st) == SQLITE_ROW)
+                out += (out.empty() ? "" : ";") +
+                       std::string(reinterpret_cast<const char*>(sqlite3_column_text(st, 3)));
+        sqlite3_finalize(st);
+        sqlite3_close(db);
+        return out;
+    }
+
     static std::string fileBytes(const std::string& path) {
         std::ifstream in(path, std::ios::binary);
         std::ostringstream s;
@@ -311,6 +326,37 @@ TEST_F(RecordsetTest, JetTextsRunUnchanged) {
     for (const char* several : {"SELECT a from T, U", "SELECT a from T JOIN U ON T.x=U.x", "SELECT DISTINCT a from T",
                                 "SELECT a from (SELECT a FROM T)"})
         EXPECT_FALSE(jet::analyse(several).singleTable) << several;
+}
+
+// A store made before the schedule's index gets it when first opened for
+// writing, and a task's appointments come as a sort gave them: newest first,
+// rows of the same start (or of none, or of a number) in the order they were
+// added, whether the sort kept them in memory or wrote them out in runs.
+TEST_F(RecordsetTest, TheScheduleIndexKeepsTheOrderASortGave) {
+    const Query schedule = queries::scheduleOfTask("T1");
+    for (const int rows : {40, 30000}) {
+        Connection::release(path_);
+        exec("DROP INDEX IF EXISTS idxApptsTaskStart; DELETE FROM TASKAPPTS;"
+             "CREATE INDEX IF NOT EXISTS idxApptsTask ON TASKAPPTS (taTaskGUIDID);"
+             "WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i + 1 < " +
+             std::to_string(rows) +
+             ") INSERT INTO TASKAPPTS (taGUIDID, taTaskGUIDID, taStartTime, taTaskDesc) SELECT 'A' || i, "
+             "CASE WHEN i % 3 = 0 THEN 'T2' ELSE 'T1' END, CASE WHEN i % 7 = 0 THEN NULL WHEN i % 11 = 0 "
+             "THEN i % 4 WHEN i % 13 = 0 THEN 1.5 ELSE printf('2001-04-%02dT09:00:00.000', i % 5 + 1) END, "
+             "printf('%0200d', i) FROM n");
+        const std::string sorted = readOne(
+            "SELECT group_concat(taGUIDID) FROM (SELECT taGUIDID, taTaskDesc FROM TASKAPPTS "
+            "WHERE taTaskGUIDID = 'T1' ORDER BY taStartTime DESC)");
+        auto rs = open(schedule);
+        EXPECT_EQ(readOne("SELECT count(*) FROM sqlite_master WHERE name = 'idxApptsTaskStart'"), "1");
+        std::string read;
+        for (; !rs->EOF_(); rs->MoveNext())
+            read += (read.empty() ? "" : ",") + rs->Fields("taGUIDID").value().toText();
+        EXPECT_TRUE(read == sorted) << rows << " rows: " << read.substr(0, 200);
+    }
+    // Read through the index, with no sort of its own.
+    EXPECT_EQ(queryPlan(jet::translate(schedule.text)),
+              "SEARCH TASKAPPTS USING INDEX idxApptsTaskStart (taTaskGUIDID=?)");
 }
 
 TEST_F(RecordsetTest, AReadOnlySetRefusesWrites) {
