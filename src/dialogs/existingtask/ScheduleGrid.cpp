@@ -69,6 +69,29 @@ std::string cellText(const Value& v) {
     }
 }
 
+// The planned minutes of a row, rounded half to even; none without both times.
+std::optional<int32_t> plannedMinutes(std::optional<double> start, std::optional<double> end) {
+    if (!start || !end) return std::nullopt;
+    return roundLong((*end - *start) * 1440.0);
+}
+
+// A long schedule holds few distinct durations: a load puts each in words
+// once. A text that failed (none) is asked for again, as for each row.
+class DurationTexts {
+public:
+    std::string of(std::optional<double> start, std::optional<double> end) {
+        const std::optional<int32_t> minutes = plannedMinutes(start, end);
+        if (!minutes) return {};
+        if (const auto found = known_.find(*minutes); found != known_.end()) return found->second;
+        std::string text = SetTimeFormat(*minutes);
+        if (!text.empty()) known_.emplace(*minutes, text);
+        return text;
+    }
+
+private:
+    std::unordered_map<int32_t, std::string> known_;
+};
+
 bool isChecked(const std::string& text) { return !text.empty() && text != "0" && text != "False"; }
 
 std::string trimmed(std::string s) {
@@ -111,9 +134,10 @@ void ScheduleGrid::initSked() {
         cursor_ = -1;
         return;
     }
-    const int32_t count = source_->GetRowCount();
     if (grid_.columnCount() == 0) InitializeLayout();
-    loadRows(count);
+    loadRows();
+    // The rows just read: the store is not asked to count them again.
+    const int32_t count = source_->GetRowCount();
     grid_.setCaption(fill(trn("Task Appointments: %1", "Task Appointments: %1", static_cast<unsigned long>(count)),
                          {std::to_string(count)}));
     setCount(count);
@@ -179,21 +203,23 @@ void ScheduleGrid::applyResizeWidths() {
 // the count-up reads at load, come from each row's start, end and time
 // spent; a row's other values and its texts wait until the row is first
 // shown, and are read from the set, which stands as loaded until then.
-void ScheduleGrid::loadRows(int32_t expected) {
+void ScheduleGrid::loadRows() {
     Loaded loaded;
-    const auto rows = static_cast<std::size_t>(std::max(expected, 0));
+    auto& rs = *rs_;
+    const bool any = !rs.EOF_();
+    const auto rows = static_cast<std::size_t>(std::max(rs.RecordCount(), 0));
     const auto bound = static_cast<std::size_t>(boundColumns_);
     loaded.values.reserve(rows * bound);
     loaded.durations.reserve(rows);
     loaded.minutes.reserve(rows);
     const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
-    auto& rs = *rs_;
     const auto read = [&rs, this](int32_t column, Value* row) {
         if (column < 0 || column >= boundColumns_) return false;
         row[column] = rs.FieldAt(column).value();
         return !row[column].isNull();
     };
-    if (!rs.EOF_()) rs.MoveFirst();
+    DurationTexts durations;
+    if (any) rs.MoveFirst();
     while (!rs.EOF_()) {
         const std::size_t first = loaded.values.size();
         loaded.values.resize(first + bound);
@@ -203,7 +229,7 @@ void ScheduleGrid::loadRows(int32_t expected) {
         if (read(start, row)) from = row[start].toDate().serial;
         if (read(end, row)) to = row[end].toDate().serial;
         if (read(minutes, row)) worked = row[minutes].toDouble();
-        loaded.durations.push_back(durationText(from, to));
+        loaded.durations.push_back(durations.of(from, to));
         loaded.minutes.push_back(worked);
         rs.MoveNext();
     }
@@ -261,8 +287,8 @@ const std::string& ScheduleGrid::plannedText(int32_t row) const {
 
 // The planned minutes, rounded half to even, as time text.
 std::string ScheduleGrid::durationText(std::optional<double> start, std::optional<double> end) {
-    if (!start || !end) return {};
-    return SetTimeFormat(roundLong((*end - *start) * 1440.0));
+    const std::optional<int32_t> minutes = plannedMinutes(start, end);
+    return minutes ? SetTimeFormat(*minutes) : std::string();
 }
 
 // InitializeRow: the planned duration; the button's text; the time spent
@@ -289,10 +315,16 @@ void ScheduleGrid::InitializeRow(int32_t row) {
 void ScheduleGrid::CountUpSked() {
     if (grid_.rowCount() == 0) return;
     std::unordered_map<std::string, int32_t> read;
-    const auto minutesOf = [&read](const std::string& text) {
+    // Neighbouring rows mostly share their duration: the last one is at hand.
+    const std::string* lastText = nullptr;
+    int32_t lastMinutes = 0;
+    const auto minutesOf = [&](const std::string& text) {
+        if (lastText && *lastText == text) return lastMinutes;
         auto [at, added] = read.try_emplace(text, 0);
         if (added) at->second = FormatCTasTime(text);
-        return at->second;
+        lastText = &text;
+        lastMinutes = at->second;
+        return lastMinutes;
     };
     int64_t sum = minutesOf(plannedText(0));
     int32_t count = 1;

@@ -67,7 +67,7 @@ private:
     [[nodiscard]] static std::string durationText(std::optional<double> start, std::optional<double> end);
     void fillUnbound(std::vector<std::string>& cells, std::optional<double> start, std::optional<double> end,
                      std::optional<double> minutes) const;
-    void loadRows(int32_t expected);
+    void loadRows();
     void fetchRow(int32_t row);
     void fetchAll();
     [[nodiscard]] std::vector<std::string> makeRow(int32_t row);
