@@ -125,6 +125,14 @@ private:
     };
     static constexpr size_t kMaxTextPlans = 512;
     const TextPlan& textPlan(const std::string& jetSource);
+    // The text that reads only the wanted columns of a plan (and its row
+    // identity), where the engine reads its rows the same way as the whole
+    // text's; else empty. Decided once per text, columns and schema.
+    const std::string& narrowed(const QueryPlan& plan, const std::vector<int>& wanted);
+    struct Narrowed {
+        std::string sql;
+        int64_t schema = -1;
+    };
     // The columns of a prepared text, and its one base table.
     static void describe(sqlite3_stmt* stmt, QueryPlan& p);
 
@@ -143,6 +151,7 @@ private:
     uint64_t tick_ = 0;
     std::unordered_map<std::string, std::unique_ptr<Entry>> cache_;
     std::unordered_map<std::string, TextPlan> texts_;
+    std::unordered_map<std::string, Narrowed> narrowed_;
 };
 
 }  // namespace qv

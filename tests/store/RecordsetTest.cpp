@@ -359,6 +359,45 @@ TEST_F(RecordsetTest, TheScheduleIndexKeepsTheOrderASortGave) {
               "SEARCH TASKAPPTS USING INDEX idxApptsTaskStart (taTaskGUIDID=?)");
 }
 
+// A set of a text whose earlier sets used a few of its columns has only those
+// read; its rows, their order (ties included) and their values stay as a
+// whole read gives them, whatever the text selects and sorts by.
+TEST_F(RecordsetTest, ASetThatReadsFewColumnsReadsTheSameRows) {
+    exec("WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i + 1 FROM n WHERE i + 1 < 3000) "
+         "INSERT INTO TASKS (tskGUIDID, tskDesc, tskProjectKey, tskImp, tskTimeSpent) SELECT 'K' || i, "
+         "printf('%0100d', i % 7), 'P' || (i % 3), i % 5, i FROM n");
+    const char* texts[] = {
+        "SELECT * from TASKS ORDER BY tskImp",
+        "SELECT tskGUIDID, tskImp, tskDesc from TASKS WHERE tskProjectKey = 'P1' ORDER BY tskDesc DESC",
+        "SELECT tskDesc, tskGUIDID, tskImp from TASKS ORDER BY 1, 3",
+        "SELECT tskImp AS tskDesc, tskGUIDID, tskDesc AS tskImp from TASKS ORDER BY tskDesc",
+        "SELECT tskGUIDID, tskImp * 2 AS twice, tskTimeSpent, tskImp from TASKS ORDER BY twice DESC",
+        "SELECT DISTINCT tskGUIDID, tskImp, tskDesc from TASKS ORDER BY tskImp",
+        "SELECT T.tskGUIDID, T.tskImp, tskDesc from TASKS T WHERE tskImp > 1 ORDER BY tskImp DESC LIMIT 900",
+    };
+    // The rows' key and importance in order, then, when asked, every value of
+    // the first row (read after the walk).
+    const auto walk = [&](const char* text, bool firstRow) {
+        auto rs = open(text, adLockReadOnly);
+        std::string out;
+        for (; !rs->EOF_(); rs->MoveNext())
+            out += rs->Fields("tskGUIDID").value().toText() + ":" + rs->Fields("tskImp").value().toText() + ";";
+        if (!firstRow) return out;
+        rs->MoveFirst();
+        for (int c = 0; c < rs->FieldCount() && !rs->EOF_(); ++c) out += rs->FieldAt(c).value().toText() + "|";
+        return out;
+    };
+    for (const char* text : texts) {
+        Connection::release(path_);
+        const std::string taught = walk(text, false);  // the first set reads every column
+        const std::string few = walk(text, true);      // the next reads two, then the rest of one row
+        Connection::release(path_);
+        const std::string whole = walk(text, true);
+        EXPECT_TRUE(few.starts_with(taught)) << text;
+        EXPECT_EQ(few, whole) << text;
+    }
+}
+
 TEST_F(RecordsetTest, AReadOnlySetRefusesWrites) {
     auto rs = open("SELECT * from TASKS WHERE tskGUIDID='T1'", adLockReadOnly);
     const Failure f = failureOf([&] { rs->Fields("tskDesc") = Value("no"); });
