@@ -68,24 +68,31 @@ bool isBlank(char c) {
 // long schedule holds thousands of them. Any other text is left to the
 // general reader.
 bool readStoreForm(std::string_view s, CivilTime& t, int32_t& ms) {
-    static constexpr size_t kDigits[] = {0, 1, 2, 3, 5, 6, 8, 9, 11, 12, 14, 15, 17, 18, 20, 21, 22};
     if (s.size() != 23 || s[4] != '-' || s[7] != '-' || (s[10] != 'T' && s[10] != ' ') || s[13] != ':' ||
         s[16] != ':' || s[19] != '.')
         return false;
-    for (size_t i : kDigits)
-        if (s[i] < '0' || s[i] > '9') return false;
-    const auto number = [s](size_t at, size_t n) {
-        int32_t v = 0;
-        for (size_t i = at; i < at + n; ++i) v = v * 10 + (s[i] - '0');
-        return v;
+    // Each number is read and its digits checked in the same pass.
+    uint32_t notDigit = 0;
+    const auto number = [s, &notDigit](size_t at, size_t n) {
+        uint32_t v = 0;
+        for (size_t i = at; i < at + n; ++i) {
+            const uint32_t d = static_cast<uint32_t>(static_cast<unsigned char>(s[i])) - '0';
+            notDigit |= static_cast<uint32_t>(d > 9);
+            v = v * 10 + d;
+        }
+        return static_cast<int32_t>(v);
     };
-    t.year = number(0, 4);
-    t.month = number(5, 2);
-    t.day = number(8, 2);
-    t.hour = number(11, 2);
-    t.minute = number(14, 2);
-    t.second = number(17, 2);
-    ms = number(20, 3);
+    CivilTime read;
+    read.year = number(0, 4);
+    read.month = number(5, 2);
+    read.day = number(8, 2);
+    read.hour = number(11, 2);
+    read.minute = number(14, 2);
+    read.second = number(17, 2);
+    const int32_t millisecond = number(20, 3);
+    if (notDigit != 0) return false;
+    t = read;
+    ms = millisecond;
     return true;
 }
 
