@@ -249,6 +249,13 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
         clear = store(qv::fill(tr("is missing a column (%1)"), {engine}));
     } else if (code == "25006" || code == "42501") {
         clear = store(qv::fill(tr("is read-only (%1)"), {engine}));
+    } else if (code == "0A000") {
+        // A kept statement whose tables another program changed: the
+        // server refuses it from now on, so it is prepared anew next time.
+        statements_.clear();
+        plans_.clear();
+        tables_.clear();
+        clear = store(tr("had its tables changed by another program: open it again"));
     }
     if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
     throw Failure(err::StoreFailure, cutForMessage(engine) + " (" + cutForMessage(context) + ")", "Store");
@@ -322,7 +329,7 @@ bool PgConnection::inTransaction() const {
 
 const std::string& PgConnection::prepared(const std::string& sql, std::string_view context) {
     if (const auto found = statements_.find(sql); found != statements_.end()) return found->second;
-    const std::string name = "qv" + std::to_string(statements_.size() + 1);
+    const std::string name = "qv" + std::to_string(++statementsMade_);
     Result r(PQprepare(conn_, name.c_str(), sql.c_str(), 0, nullptr));
     if (!r || PQresultStatus(r.get()) != PGRES_COMMAND_OK) fail(r.get(), context);
     return statements_.emplace(sql, name).first->second;

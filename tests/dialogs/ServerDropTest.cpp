@@ -54,4 +54,19 @@ TEST_F(ServerDrop, AConnectionLostMidSaveNamesTheServer) {
     EXPECT_EQ(d.find("writing the changes"), std::string::npos) << d;
 }
 
+// Another program adds a column while the session keeps its statements:
+// one open says so, the next one reads the new shape.
+TEST_F(ServerDrop, TablesChangedByAnotherProgramFailOnceThenOpenAgain) {
+    look([] {});
+    exec("ALTER TABLE TASKS ADD COLUMN tskExtra TEXT DEFAULT 'x'");
+    look([] {});
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    EXPECT_NE(reporter().faults()[0].description.find("had its tables changed by another program: open it again"),
+              std::string::npos)
+        << reporter().faults()[0].description;
+    reporter().clear();
+    look([this] { EXPECT_EQ(eform().fields().record().Desc, "Paint the fence"); });
+    EXPECT_TRUE(reporter().faults().empty());
+}
+
 }  // namespace qv
