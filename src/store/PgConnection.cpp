@@ -466,6 +466,10 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
                                       std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn + ", (" +
                                           p.countSql + ") AS qv_total") +
                      " LIMIT " + std::to_string(kProbeRows);
+    // Sets with row identities learn their columns, as on the file store:
+    // a later set asked for a column its load left out reads the rows again
+    // once, which is rarer than a walk that copies every column.
+    if (p.withIdentity) p.use = std::make_shared<ColumnUse>();
     if (shape.isSelect) plans_.emplace(jetSource, p);
     return p;
 }
