@@ -208,32 +208,25 @@ void ScheduleGrid::loadRows() {
     auto& rs = *rs_;
     const bool any = !rs.EOF_();
     const auto rows = static_cast<std::size_t>(std::max(rs.RecordCount(), 0));
-    const auto bound = static_cast<std::size_t>(boundColumns_);
-    loaded.values.reserve(rows * bound);
     loaded.durations.reserve(rows);
     loaded.minutes.reserve(rows);
     const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
-    const auto read = [&rs, this](int32_t column, Value* row) {
-        if (column < 0 || column >= boundColumns_) return false;
-        row[column] = rs.FieldAt(column).value();
-        return !row[column].isNull();
+    const auto read = [&rs, this](int32_t column) {
+        return column < 0 || column >= boundColumns_ ? Value() : rs.FieldAt(column).value();
     };
     DurationTexts durations;
     if (any) rs.MoveFirst();
     while (!rs.EOF_()) {
-        const std::size_t first = loaded.values.size();
-        loaded.values.resize(first + bound);
-        Value* row = loaded.values.data() + first;
         std::optional<double> from, to;
         double worked = 0.0;
-        if (read(start, row)) from = row[start].toDate().serial;
-        if (read(end, row)) to = row[end].toDate().serial;
-        if (read(minutes, row)) worked = row[minutes].toDouble();
+        if (const Value v = read(start); !v.isNull()) from = v.toDate().serial;
+        if (const Value v = read(end); !v.isNull()) to = v.toDate().serial;
+        if (const Value v = read(minutes); !v.isNull()) worked = v.toDouble();
         loaded.durations.push_back(durations.of(from, to));
         loaded.minutes.push_back(worked);
         rs.MoveNext();
     }
-    loaded.fetched.assign(loaded.minutes.size(), false);
+    loaded.values.resize(loaded.minutes.size());
     loaded_ = std::move(loaded);
     cursor_ = -1;
     // Made while a view paints: a fault goes down the error path as the
@@ -245,27 +238,25 @@ void ScheduleGrid::loadRows() {
     });
 }
 
-// The row's values not read at load, from the set's row of that place.
+// The row's values, from the set's row of that place.
 void ScheduleGrid::fetchRow(int32_t row) {
     const auto r = static_cast<std::size_t>(row);
-    if (r >= loaded_.fetched.size() || loaded_.fetched[r]) return;
+    if (r >= loaded_.values.size() || loaded_.values[r]) return;
     auto& rs = *rs_;
     if (cursor_ < 0 || cursor_ > row) {
         rs.MoveFirst();
         cursor_ = 0;
     }
     for (; cursor_ < row; ++cursor_) rs.MoveNext();
-    const int32_t start = col(kStart), end = col(kEnd), minutes = col(kMinutes);
-    Value* values = loaded_.values.data() + r * static_cast<std::size_t>(boundColumns_);
-    for (int32_t i = 0; i < boundColumns_; ++i)
-        if (i != start && i != end && i != minutes) values[i] = rs.FieldAt(i).value();
-    loaded_.fetched[r] = true;
+    auto values = std::make_unique<Value[]>(static_cast<std::size_t>(boundColumns_));
+    for (int32_t i = 0; i < boundColumns_; ++i) values[static_cast<std::size_t>(i)] = rs.FieldAt(i).value();
+    loaded_.values[r] = std::move(values);
 }
 
 // Before the set changes under the rows still to show, they take their
 // values as they were loaded.
 void ScheduleGrid::fetchAll() {
-    for (int32_t r = 0; r < static_cast<int32_t>(loaded_.fetched.size()); ++r) fetchRow(r);
+    for (int32_t r = 0; r < static_cast<int32_t>(loaded_.values.size()); ++r) fetchRow(r);
 }
 
 std::vector<std::string> ScheduleGrid::makeRow(int32_t row) {
@@ -273,7 +264,7 @@ std::vector<std::string> ScheduleGrid::makeRow(int32_t row) {
     std::vector<std::string> cells(static_cast<std::size_t>(grid_.columnCount()));
     const auto r = static_cast<std::size_t>(row);
     const auto bound = static_cast<std::size_t>(boundColumns_);
-    for (std::size_t i = 0; i < bound; ++i) cells[i] = cellText(loaded_.values[r * bound + i]);
+    for (std::size_t i = 0; i < bound; ++i) cells[i] = cellText(loaded_.values[r][i]);
     cells[static_cast<std::size_t>(unbound_.calc)] = loaded_.durations[r];
     cells[static_cast<std::size_t>(unbound_.button)] = kButtonText;
     cells[static_cast<std::size_t>(unbound_.fake)] = SetTimeFormat(loaded_.minutes[r]);

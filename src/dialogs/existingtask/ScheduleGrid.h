@@ -99,13 +99,13 @@ private:
         int32_t calc = -1, button = -1, fake = -1;
     } unbound_;
     bool laidOut_ = false;
-    // What the rows were loaded from, kept until each row is first shown:
-    // the query's values row after row (start, end and time spent at load,
-    // the others as the row is first made), the planned durations (which
-    // the count-up reads at load) and the minutes spent.
+    // What the rows were loaded from: the planned durations (which the
+    // count-up reads at load) and the minutes spent, from each row's start,
+    // end and time spent; a row's values as the query gives them are read
+    // from the set, which stands as loaded until then, when the row is
+    // first made.
     struct Loaded {
-        std::vector<Value> values;
-        std::vector<bool> fetched;  // the row's other values are read
+        std::vector<std::unique_ptr<Value[]>> values;  // null: not read yet
         std::vector<std::string> durations;
         std::vector<double> minutes;
     } loaded_;
