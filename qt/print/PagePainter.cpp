@@ -40,8 +40,7 @@ bool plainBlock(const QTextBlock& block) {
            !block.layout()->text().contains(QChar::ObjectReplacementCharacter);
 }
 
-bool plainCell(const QTextTableCell& cell) {
-    const QTextTableCellFormat f = cell.format().toTableCellFormat();
+bool plainCell(const QTextTableCellFormat& f) {
     if (f.tableCellRowSpan() > 1 || f.tableCellColumnSpan() > 1) return false;
     for (int p = QTextFormat::TableCellTopBorder; p <= QTextFormat::TableCellRightBorderBrush; ++p)
         if (f.hasProperty(p)) return false;
@@ -104,8 +103,9 @@ bool PagePainter::gather(QTextDocument& doc, QTextTable& table, double scale, Ta
         double bottom = 0;
         for (int c = 0; c < columns; ++c) {
             const QTextTableCell cell = table.cellAt(r, c);
-            if (!cell.isValid() || !plainCell(cell)) return false;
+            if (!cell.isValid()) return false;
             const QTextTableCellFormat cf = cell.format().toTableCellFormat();
+            if (!plainCell(cf)) return false;
             Cell painted{0, 0, cf.background(), out.texts.size()};
             double cellTop = 0;
             double cellBottom = 0;
@@ -234,6 +234,8 @@ void PagePainter::paintTable(QPainter& painter, const Table& t, const QRectF& vi
     }
     painter.save();
     painter.setPen(Qt::NoPen);
+    // Each rectangle a fill of its own: a viewer puts a lone rectangle's
+    // edges on whole pixels, as it did the document's.
     const auto fill = [&painter](const QBrush& brush, const std::vector<QRectF>& rects) {
         if (rects.empty()) return;
         painter.setBrush(brush);
