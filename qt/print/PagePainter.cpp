@@ -214,7 +214,7 @@ void PagePainter::paintTable(QPainter& painter, const Table& t, const QRectF& vi
     std::vector<QRectF> dark;
     std::vector<std::pair<QBrush, std::vector<QRectF>>> backgrounds;
     const QPointF shift(0, -view.top());
-    addEdges(t.frame.translated(shift), t.border, frameLight, frameDark);
+    if (t.border > 0) addEdges(t.frame.translated(shift), t.border, frameLight, frameDark);
     auto first = std::lower_bound(t.rows.begin(), t.rows.end(), view.top(),
                                   [&t](const Row& row, double y) { return row.bottom + t.cellBorder < y; });
     auto last = first;
@@ -223,8 +223,9 @@ void PagePainter::paintTable(QPainter& painter, const Table& t, const QRectF& vi
         for (std::size_t c = last->firstCell; c < end; ++c) {
             const Cell& cell = t.cells[c];
             const QRectF inner(cell.left, last->top + shift.y(), cell.right - cell.left, last->bottom - last->top);
-            addEdges(inner.adjusted(-t.cellBorder, -t.cellBorder, t.cellBorder, t.cellBorder), t.cellBorder, dark,
-                     light);
+            if (t.cellBorder > 0)
+                addEdges(inner.adjusted(-t.cellBorder, -t.cellBorder, t.cellBorder, t.cellBorder), t.cellBorder,
+                         dark, light);
             if (cell.background.style() == Qt::NoBrush) continue;
             auto same = std::find_if(backgrounds.begin(), backgrounds.end(),
                                      [&cell](const auto& b) { return b.first == cell.background; });

@@ -53,6 +53,9 @@ const Case kCases[] = {
     {"paragraphs in a cell",
      "<table border=1><tr><td><p>one</p><p>two</p></td><td>x</td></tr><tr><td>y</td><td>z</td></tr></table>", 0},
     {"thick borders", schedule(20, "3"), 1},
+    {"no border, narrower and centred",
+     "<table width=\"50%\" align=center cellpadding=3>" + scheduleRows(25) + "</table>", 1},
+    {"a table with a background", "<table border=1 bgcolor=\"#FFFF00\">" + scheduleRows(25) + "</table>", 0},
     {"a table within a cell", "<table border=1><tr><td>outer</td><td>" + schedule(20) + "</td></tr></table>", 0},
 };
 
