@@ -20,6 +20,7 @@
 #include "kit/Shades.h"
 #include "kit/SheetWidget.h"
 #include "kit/ToolIcons.h"
+#include "kit/WrapLabel.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
 
@@ -248,9 +249,8 @@ QWidget* ToolCell::makeSeparator() {
 }
 
 QWidget* ToolCell::makeLabel() {
-    auto* l = new QLabel(this);
+    auto* l = toolbar_ ? new QLabel(this) : new WrapLabel(this);
     l->setTextFormat(Qt::PlainText);
-    l->setWordWrap(!toolbar_);
     return l;
 }
 
