@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The template is current, and every catalogue of po/LINGUAS translates all
-# of it (no entry missing, untranslated or fuzzy). Prints the counts.
+# of it (no entry missing, untranslated or fuzzy), and its help pages name
+# the controls as it does. Prints the counts.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/update-translations.sh --check
@@ -17,5 +18,6 @@ for lang in $(grep -v '^#' po/LINGUAS); do
     status=1
   fi
   case "$stats" in *untranslated*|*fuzzy*) status=1 ;; esac
+  if [ -d "share/help/$lang" ]; then scripts/check-help-terms.py "$lang" || status=1; fi
 done
 exit $status

@@ -7,7 +7,7 @@ pkgs=(cmake ninja-build g++ pkg-config libsqlite3-dev googletest libgtest-dev li
       clang libclang-rt-14-dev debhelper dpkg-dev lintian desktop-file-utils appstream
       postgresql libpq-dev libical-dev
       openbox xdotool x11-utils imagemagick sqlite3  # the keyboard walk under Xvfb
-      gettext locales qt6-translations-l10n)  # catalogues, and the German locale their tests run in
+      gettext python3 locales qt6-translations-l10n)  # catalogues, their help check, and the German locale their tests run in
 # Test tools that read the exported calendar files: their tests skip where
 # these are missing, and a failed install of them stops nothing.
 optional=(python3-icalendar todoman)

@@ -4,6 +4,9 @@
 
 #if defined(__GNUC__) || defined(__clang__)
 #define QV_EXPORT __attribute__((visibility("default")))
+// A nested class of an exported class is exported too unless marked.
+#define QV_HIDDEN __attribute__((visibility("hidden")))
 #else
 #define QV_EXPORT
+#define QV_HIDDEN
 #endif

@@ -249,6 +249,13 @@ void PgConnection::fail(const PGresult* result, std::string_view context) {
         clear = store(qv::fill(tr("is missing a column (%1)"), {engine}));
     } else if (code == "25006" || code == "42501") {
         clear = store(qv::fill(tr("is read-only (%1)"), {engine}));
+    } else if (code == "0A000") {
+        // A kept statement whose tables another program changed: the
+        // server refuses it from now on, so it is prepared anew next time.
+        statements_.clear();
+        plans_.clear();
+        tables_.clear();
+        clear = store(tr("had its tables changed by another program: open it again"));
     }
     if (!clear.empty()) throw Failure(err::StoreFailure, clear + ".", "Store");
     throw Failure(err::StoreFailure, cutForMessage(engine) + " (" + cutForMessage(context) + ")", "Store");
@@ -322,7 +329,7 @@ bool PgConnection::inTransaction() const {
 
 const std::string& PgConnection::prepared(const std::string& sql, std::string_view context) {
     if (const auto found = statements_.find(sql); found != statements_.end()) return found->second;
-    const std::string name = "qv" + std::to_string(statements_.size() + 1);
+    const std::string name = "qv" + std::to_string(++statementsMade_);
     Result r(PQprepare(conn_, name.c_str(), sql.c_str(), 0, nullptr));
     if (!r || PQresultStatus(r.get()) != PGRES_COMMAND_OK) fail(r.get(), context);
     return statements_.emplace(sql, name).first->second;
@@ -459,6 +466,10 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
                                       std::string(jet::kIdentityColumn) + " AS " + jet::kRowidColumn + ", (" +
                                           p.countSql + ") AS qv_total") +
                      " LIMIT " + std::to_string(kProbeRows);
+    // Sets with row identities learn their columns, as on the file store:
+    // a later set asked for a column its load left out reads the rows again
+    // once, which is rarer than a walk that copies every column.
+    if (p.withIdentity) p.use = std::make_shared<ColumnUse>();
     if (shape.isSelect) plans_.emplace(jetSource, p);
     return p;
 }

@@ -100,6 +100,8 @@ private:
     PGconn* conn_ = nullptr;
     bool beginPending_ = false;
     std::unordered_map<std::string, std::string> statements_;
+    // Names are never reused: statements forgotten here stay on the server.
+    int64_t statementsMade_ = 0;
     std::unordered_map<std::string, QueryPlan> plans_;
     std::map<Oid, TableColumns> tables_;
 };

@@ -77,7 +77,7 @@ struct Row {
     [[nodiscard]] bool anyDirty() const;
 };
 
-struct Recordset::Impl {
+struct QV_HIDDEN Recordset::Impl {
     Impl() = default;
     Impl(const Impl&) = delete;
     Impl& operator=(const Impl&) = delete;

@@ -147,7 +147,7 @@ void DraftKeeper::formChanged() {
 void DraftKeeper::offer(int32_t mode, const std::string& taskKey) {
     if (armed_) return;
     key_ = keyOf(mode, taskKey);
-    base_ = snapshot();
+    base_ = snapshot(Picks::ticked);
     armed_ = true;
     const auto draft = DraftFile::read(key_);
     if (!draft) return;
@@ -166,7 +166,7 @@ void DraftKeeper::saved() {
     if (!armed_) return;
     delay_.setEnabled(false);
     DraftFile::remove(key_);
-    base_ = snapshot();
+    base_ = snapshot(Picks::ticked);
 }
 
 // At most a moment after the first change not yet written: steady typing
@@ -200,15 +200,17 @@ void DraftKeeper::closed() {
     armed_ = false;
 }
 
-DraftKeeper::Values DraftKeeper::snapshot() const {
+// A pick left out reads as not ticked, so the base of a sheet of thousands
+// of ticks holds only the few that are.
+DraftKeeper::Values DraftKeeper::snapshot(Picks which) const {
     Values v;
     for (TextEditor* e : inputs_.editors) v.emplace_back(kEditor + e->name(), e->text());
-    // A sheet of thousands of ticks: each field named in one allocation.
     for (Sheet* s : inputs_.picks) {
         const std::string sheetField = kPick + s->name() + ".";
-        v.reserve(v.size() + s->tools().size());
+        if (which == Picks::all) v.reserve(v.size() + s->tools().size());
         for (const auto& t : s->tools()) {
             if (!isPick(*t) || t->key().empty()) continue;
+            if (which == Picks::ticked && !t->checked()) continue;
             std::string field;
             field.reserve(sheetField.size() + t->key().size());
             field.append(sheetField).append(t->key());
@@ -227,9 +229,9 @@ DraftKeeper::Values DraftKeeper::snapshot() const {
 std::vector<DraftChange> DraftKeeper::changes() const {
     const std::unordered_map<std::string, std::string> base(base_.begin(), base_.end());
     std::vector<DraftChange> out;
-    for (const auto& [field, value] : snapshot()) {
+    for (const auto& [field, value] : snapshot(Picks::all)) {
         const auto it = base.find(field);
-        const std::string loaded = it == base.end() ? std::string() : it->second;
+        const std::string loaded = it != base.end() ? it->second : startsWith(field, kPick) ? "0" : "";
         if (loaded != value && !(loaded.empty() && value == "0")) out.push_back({field, loaded, value});
     }
     return out;

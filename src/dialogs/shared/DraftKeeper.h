@@ -71,6 +71,7 @@ public:
 
 private:
     using Values = std::vector<std::pair<std::string, std::string>>;
+    enum class Picks { all, ticked };
 
     void watch();
     void formChanged();
@@ -78,7 +79,7 @@ private:
     void userChanged();
     void writeNow();
     void closed();
-    [[nodiscard]] Values snapshot() const;
+    [[nodiscard]] Values snapshot(Picks which) const;
     [[nodiscard]] std::vector<DraftChange> changes() const;
     [[nodiscard]] bool differs(const Draft& draft) const;
     [[nodiscard]] bool ask(const Draft& draft) const;

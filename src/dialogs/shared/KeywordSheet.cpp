@@ -9,9 +9,6 @@
 
 namespace qv {
 
-namespace {
-}  // namespace
-
 bool KeywordSheet::build(Sheet& sheet) {
     clsKeywords keywords;
     RecordsetPtr rs;

@@ -230,6 +230,34 @@ TEST_F(DraftsTest, OfferedOnlyForItsOwnTaskAndOnlyWhereItChangesSomething) {
     EXPECT_FALSE(kept(d)) << "a damaged draft is removed";
 }
 
+// The base keeps only the ticked keywords: a stored one unticked and
+// another ticked both come back.
+TEST_F(DraftsTest, KeywordTicksAndUnticksComeBack) {
+    const Dialog d = dialogs()[1];
+    linkKeyword(kKeyBlue);
+    refuseWrites(d.table, d.event);
+    click("smtKeywords", kKeyBlue);
+    click("smtKeywords", kKeyRed);
+    pause();
+    d.save(*this);
+    d.open(*this);
+    ASSERT_EQ(reporter().faults().size(), 1u);
+    allowWrites(d.table);
+    reporter().clear();
+    scriptedUi().queueAnswer(vbYes);
+    then([this] {
+        EXPECT_FALSE(tool("smtKeywords", kKeyBlue).checked());
+        EXPECT_TRUE(tool("smtKeywords", kKeyRed).checked());
+    });
+    d.save(*this);
+    d.open(*this);
+    EXPECT_TRUE(reporter().faults().empty());
+    const std::string linked = std::string(" FROM TaskKeywords WHERE ktTASKGUID='") + kTask + "'";
+    EXPECT_EQ(readOne("SELECT COUNT(*)" + linked), "1");
+    EXPECT_EQ(readOne("SELECT ktKEYGUID" + linked), kKeyRed);
+    EXPECT_FALSE(kept(d));
+}
+
 // "1D 1:00" in Time Spent is the duration checker's own failure: replayed,
 // it would fail again at every open. It is left out; the rest comes back.
 TEST_F(DraftsTest, AChangeWhoseReplayFailsIsLeftOutAndTheRestComesBack) {
