@@ -76,31 +76,71 @@ const QTextTable* innermostTable(QTextDocument& doc, int position) {
 
 }  // namespace
 
-std::vector<PageCuts::Span> PageCuts::keepTogether(QTextDocument& doc) {
-    auto* layout = doc.documentLayout();
-    std::vector<Span> out;
-    std::map<RowKey, Span> rows;
-    std::map<const QTextTable*, RowStarts> starts;
-    for (QTextBlock block = doc.begin(); block.isValid(); block = block.next()) {
-        const QRectF rect = layout->blockBoundingRect(block);
-        if (const QTextTable* table = innermostTable(doc, block.position())) {
-            auto found = starts.find(table);
-            if (found == starts.end()) found = starts.emplace(table, rowStarts(*table)).first;
+namespace {
+
+// Each line of text outside tables, each row's extent within them.
+class Spans {
+public:
+    Spans(QTextDocument& doc, const PageCuts::TableRows& known)
+        : doc_(doc), layout_(*doc.documentLayout()), known_(known) {}
+
+    // The frame's blocks one by one, a known table's rows at once.
+    void walk(QTextFrame& frame) {
+        for (auto it = frame.begin(); !it.atEnd(); ++it) {
+            QTextFrame* child = it.currentFrame();
+            if (!child) {
+                block(it.currentBlock());
+                continue;
+            }
+            auto* table = qobject_cast<QTextTable*>(child);
+            const auto found = table ? known_.find(table) : known_.end();
+            if (found == known_.end()) {
+                walk(*child);
+                continue;
+            }
+            for (std::size_t r = 0; r < found->second.size(); ++r)
+                rows_[{table, static_cast<int>(r)}] = found->second[r];
+        }
+    }
+
+    std::vector<PageCuts::Span> spans() {
+        addRows(rows_, out_);
+        return std::move(out_);
+    }
+
+private:
+    void block(const QTextBlock& block) {
+        const QRectF rect = layout_.blockBoundingRect(block);
+        if (const QTextTable* table = innermostTable(doc_, block.position())) {
+            auto found = starts_.find(table);
+            if (found == starts_.end()) found = starts_.emplace(table, rowStarts(*table)).first;
             const RowKey key{table, found->second.rowAt(block.position())};
-            auto [it, fresh] = rows.try_emplace(key, Span{rect.top(), rect.bottom()});
+            auto [it, fresh] = rows_.try_emplace(key, PageCuts::Span{rect.top(), rect.bottom()});
             if (!fresh)
-                it->second = {std::min(it->second.top, rect.top()),
-                              std::max(it->second.bottom, rect.bottom())};
-            continue;
+                it->second = {std::min(it->second.top, rect.top()), std::max(it->second.bottom, rect.bottom())};
+            return;
         }
         const QTextLayout* lines = block.layout();
         for (int i = 0; lines && i < lines->lineCount(); ++i) {
             const QRectF line = lines->lineAt(i).rect();
-            out.push_back({rect.top() + line.top(), rect.top() + line.bottom()});
+            out_.push_back({rect.top() + line.top(), rect.top() + line.bottom()});
         }
     }
-    addRows(rows, out);
-    return out;
+
+    QTextDocument& doc_;
+    QAbstractTextDocumentLayout& layout_;
+    const PageCuts::TableRows& known_;
+    std::vector<PageCuts::Span> out_;
+    std::map<RowKey, PageCuts::Span> rows_;
+    std::map<const QTextTable*, RowStarts> starts_;
+};
+
+}  // namespace
+
+std::vector<PageCuts::Span> PageCuts::keepTogether(QTextDocument& doc, const TableRows& known) {
+    Spans spans(doc, known);
+    spans.walk(*doc.rootFrame());
+    return spans.spans();
 }
 
 std::vector<double> PageCuts::cuts(std::vector<Span> spans, double documentHeight, double pageHeight) {

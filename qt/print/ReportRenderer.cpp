@@ -12,6 +12,7 @@
 
 #include "kit/QtText.h"
 #include "print/PageCuts.h"
+#include "print/PagePainter.h"
 #include "toolkit/Failure.h"
 
 namespace qv {
@@ -65,7 +66,8 @@ void ReportRenderer::layout(QPrinter& printer) {
     if (laidOutFor(printer)) return;
     // Laid out as one long page, then cut between rows and lines.
     layOutOnce(printer, body_.width());
-    tops_ = PageCuts::cuts(PageCuts::keepTogether(*doc_), doc_->size().height(), body_.height());
+    pages_ = std::make_unique<PagePainter>(*doc_, printer.logicalDpiY());
+    tops_ = PageCuts::cuts(PageCuts::keepTogether(*doc_, pages_->rows()), doc_->size().height(), body_.height());
 }
 
 // The document's layout lays the whole text out as it is made and again at
@@ -97,11 +99,8 @@ void ReportRenderer::render(QPrinter& printer) {
         if (i > 0) printer.newPage();
         painter.save();
         const QRectF view(0, tops_[i], body_.width(), tops_[i + 1] - tops_[i]);
-        painter.translate(0, -view.top());
-        painter.setClipRect(view);
-        QAbstractTextDocumentLayout::PaintContext ctx;
-        ctx.clip = view;
-        doc_->documentLayout()->draw(&painter, ctx);
+        painter.setClipRect(view.translated(0, -view.top()));
+        pages_->paint(painter, view);
         painter.restore();
         paintFooter(painter, i + 1);
     }

@@ -19,6 +19,8 @@ class QTextDocument;
 
 namespace qv {
 
+class PagePainter;
+
 class ReportRenderer {
 public:
     // Reads the job's file; throws Failure when it can't be read.
@@ -48,6 +50,7 @@ private:
 
     PrintJob job_;
     std::unique_ptr<QTextDocument> doc_;
+    std::unique_ptr<PagePainter> pages_;
     QRectF page_;
     QRectF body_;
     QFont font_;
