@@ -15,10 +15,12 @@
 #include <QToolButton>
 
 #include "kit/AccessibleText.h"
+#include "kit/ListBox.h"
 #include "kit/MenuButtonAccessible.h"
 #include "kit/Shades.h"
 #include "kit/SheetWidget.h"
 #include "kit/ToolIcons.h"
+#include "kit/WrapLabel.h"
 #include "toolkit/Sheet.h"
 #include "toolkit/Tool.h"
 
@@ -32,6 +34,13 @@ bool hasOptionItems(const Tool& t) {
     for (const auto& i : t.items())
         if (i->type() == ttOption) return true;
     return false;
+}
+
+// A widget that shows with its window once that shows is left to it:
+// showing it now would polish it and lay it out before the window does.
+void showAs(QWidget* w, bool visible) {
+    if (visible && !w->isHidden() && !w->testAttribute(Qt::WA_WState_ExplicitShowHide)) return;
+    w->setVisible(visible);
 }
 
 // A colour as the model keeps it: red in the low byte.
@@ -82,9 +91,8 @@ void ToolCell::build() {
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(toolbar_ ? 1 : 4, 1, 4, 1);
     row->setSpacing(4);
-    icon_ = new QLabel(this);
-    icon_->setObjectName(objectName() + ".image");
-    row->addWidget(icon_);
+    // Most tools show no picture of their own: the label comes when one does.
+    if (kind_ == Kind::Icon) makeImage();
     if (kind_ == Kind::TextBox) {
         // A text tool with a picture (the stopwatch) is clicked through it,
         // by mouse or by Space.
@@ -117,6 +125,13 @@ void ToolCell::build() {
         main_->installEventFilter(this);
     }
     if (kind_ == Kind::Spacer || (natural && !toolbar_)) row->addStretch(1);
+}
+
+// First in the row.
+void ToolCell::makeImage() {
+    icon_ = new QLabel(this);
+    icon_->setObjectName(objectName() + ".image");
+    static_cast<QBoxLayout*>(layout())->insertWidget(0, icon_);
 }
 
 QWidget* ToolCell::makeButton() {
@@ -170,15 +185,8 @@ QWidget* ToolCell::makeOption() {
 }
 
 QWidget* ToolCell::makeList() {
-    auto* box = new QComboBox(this);
-    // Editable through its own line edit: setEditable would make the
-    // pop-up list now, which the box makes anyway when first opened.
-    box->setLineEdit(new QLineEdit(box));
-    box->setInsertPolicy(QComboBox::NoInsert);
+    auto* box = new ListBox(this);
     box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    // Sized by a few characters, not by measuring every entry of a long list.
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(12);
     connect(box, &QComboBox::activated, this, [this](int index) {
         const auto& items = tool_->items();
         if (index < 0 || index >= static_cast<int>(items.size())) return;
@@ -241,9 +249,8 @@ QWidget* ToolCell::makeSeparator() {
 }
 
 QWidget* ToolCell::makeLabel() {
-    auto* l = new QLabel(this);
+    auto* l = toolbar_ ? new QLabel(this) : new WrapLabel(this);
     l->setTextFormat(Qt::PlainText);
-    l->setWordWrap(!toolbar_);
     return l;
 }
 
@@ -274,16 +281,20 @@ bool ToolCell::arrowAsTab(int key) {
 
 void ToolCell::refresh() {
     const Tool& t = *tool_;
-    setVisible(t.visible());
+    showAs(this, t.visible());
     setEnabled(t.enabled());
     setToolTip(qs(t.tip()));
     const QPixmap pm = ToolIcons::pixmap(t.image());
-    icon_->setPixmap(pm);
-    icon_->setVisible(!pm.isNull() && kind_ != Kind::Button && kind_ != Kind::MenuButton && !press_);
+    const bool pictured = !pm.isNull() && kind_ != Kind::Button && kind_ != Kind::MenuButton && !press_;
+    if (pictured && !icon_) makeImage();
+    if (icon_) {
+        icon_->setPixmap(pm);
+        showAs(icon_, pictured);
+    }
     if (press_) {
         press_->setIcon(ToolIcons::icon(t.image()));
         press_->setToolTip(qs(t.tip()));
-        press_->setVisible(!pm.isNull());
+        showAs(press_, !pm.isNull());
     }
     const QString caption = qs(t.caption());
     if (caption_) caption_->setText(caption);

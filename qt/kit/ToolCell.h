@@ -43,6 +43,7 @@ protected:
 
 private:
     void build();
+    void makeImage();
     QWidget* makeButton();
     QWidget* makeMenuButton();
     QWidget* makeCheck();
