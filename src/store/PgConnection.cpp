@@ -1,5 +1,6 @@
 #include "store/PgConnection.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstring>
 
@@ -422,12 +423,13 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
     QueryPlan p;
     bool planned = false;
     // Rows that the order leaves equal come in the order they were added,
-    // as from the file store.
+    // as from the file store. A text of no order is put in that order as it
+    // is read: the server's sort of whole rows costs more than ours of keys.
     jet::SelectShape ordered = shape;
     std::string orderedSql = sql.substr(0, shape.end);
-    if (shape.singleTable && !shape.aggregate && !shape.hasLimit) {
-        orderedSql +=
-            std::string(shape.orderPos == std::string::npos ? " ORDER BY " : ", ") + jet::kIdentityColumn;
+    const bool tieBreak = shape.singleTable && !shape.aggregate && !shape.hasLimit;
+    if (tieBreak && shape.orderPos != std::string::npos) {
+        orderedSql += std::string(", ") + jet::kIdentityColumn;
         ordered.end = orderedSql.size();
     }
     const std::string idSql =
@@ -457,6 +459,7 @@ QueryPlan PgConnection::plan(const std::string& jetSource) {
         }
     }
     p.isSelect = shape.isSelect;
+    p.identityOrder = tieBreak && shape.orderPos == std::string::npos && p.withIdentity;
     p.countSql = shape.isSelect ? jet::countQuery(sql, shape) : std::string();
     // The first rows with the count beside each, in one question: a small
     // set comes whole. The count is a subquery run once, so a large set is
@@ -493,8 +496,12 @@ void PgConnection::fill(const QueryPlan& plan, const std::vector<uint8_t>* only,
                         std::string_view context) const {
     const int rows = PQntuples(res);
     const size_t n = plan.cols.size();
-    for (int row = 0; row < rows; ++row) {
-        const int64_t id = plan.withIdentity ? numberFrom(PQgetvalue(res, row, idField), context) : 0;
+    std::vector<std::pair<int64_t, int>> order(static_cast<size_t>(rows));
+    for (int row = 0; row < rows; ++row)
+        order[static_cast<size_t>(row)] = {
+            plan.withIdentity ? numberFrom(PQgetvalue(res, row, idField), context) : 0, row};
+    if (plan.identityOrder) std::sort(order.begin(), order.end());
+    for (const auto& [id, row] : order) {
         Cell* cells = newRow(id);
         if (!cells) continue;
         for (size_t c = 0; c < n; ++c)

@@ -43,6 +43,9 @@ struct QueryPlan {
     std::vector<int> fields;  // the engine's field of each column, where it isn't the same position
     std::string probeSql;     // counts and reads the first rows in one go, where the engine offers it
     std::vector<Value> params;  // the values of the text's ? placeholders, in order
+    // The engine sends the rows of a text of no order as they lie: the
+    // reader puts them in the order they were added (their identity).
+    bool identityOrder = false;
     // Where the engine can read some columns of rows it has read before
     // (by their identity); null where a load reads every column.
     std::shared_ptr<ColumnUse> use;

@@ -97,4 +97,21 @@ TEST_F(ServerStore, AColumnALoadLeftOutIsReadWhenFirstAsked) {
     EXPECT_THROW(rs->UpdateBatch(), Failure) << "another user's change since the read";
 }
 
+// The server keeps rows where it likes (an update moves one to the end);
+// a set gives them in the order they were added, with an order or without.
+TEST_F(ServerStore, RowsComeInTheOrderTheyWereAddedAfterAnUpdate) {
+    for (const char* key : {"T2", "T3"})
+        exec(std::string("INSERT INTO TASKS (tskGUIDID, tskDesc, tskImp) VALUES ('") + key + "', 'x', 2)");
+    exec(std::string("UPDATE TASKS SET tskNotes='moved', tskImp=2 WHERE tskGUIDID='") + kTask + "'");
+    const std::string conn = "Provider=Microsoft.Jet.OLEDB.4.0;Data Source=" + storeLocationOf(folder()) + ";";
+    for (const char* text : {"SELECT tskGUIDID from TASKS", "SELECT * from TASKS ORDER BY tskImp"}) {
+        SCOPED_TRACE(text);
+        Recordset rs;
+        rs.Open(Query(text), conn, adOpenStatic, adLockBatchOptimistic);
+        std::vector<std::string> keys;
+        for (; !rs.EOF_(); rs.MoveNext()) keys.push_back(rs.Fields("tskGUIDID").value().toText());
+        EXPECT_EQ(keys, (std::vector<std::string>{kTask, "T2", "T3"}));
+    }
+}
+
 }  // namespace qv
