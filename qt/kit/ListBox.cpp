@@ -1,8 +1,10 @@
 #include "kit/ListBox.h"
 
 #include <QCompleter>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QStyle>
 #include <QStyleOptionComboBox>
 #include <QtMath>
@@ -29,19 +31,27 @@ bool reaches(QEvent::Type t) {
     }
 }
 
+// Shown to the box in place of the completer it would make with its list
+// when it gets its line edit, and taken back at once: one for the program,
+// not one for every list of every window.
+QCompleter* standIn() {
+    static QPointer<QCompleter> completer;
+    if (!completer) {
+        completer = new QCompleter(QCoreApplication::instance());
+        completer->setCompletionMode(QCompleter::InlineCompletion);
+    }
+    return completer;
+}
+
 }  // namespace
 
-// The line edit gets a completer before the box sees it, so the box makes
-// none of its own (with its list) now: this one, told the same, gets the
-// list in wake(). Until then it answers for the box's case-insensitive
-// matching.
+// Until wake() the edit has no completer; the box matches typed text
+// without regard to case then as it does with the completer wake() gives.
 ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
     auto* edit = new QLineEdit(this);
-    auto* completer = new QCompleter(edit);
-    completer->setCaseSensitivity(Qt::CaseInsensitive);
-    completer->setCompletionMode(QCompleter::InlineCompletion);
-    edit->setCompleter(completer);
+    edit->setCompleter(standIn());
     setLineEdit(edit);
+    edit->setCompleter(nullptr);
     edit->installEventFilter(this);
     setInsertPolicy(QComboBox::NoInsert);
     setMinimumContentsLength(kCharacters);
@@ -50,8 +60,10 @@ ListBox::ListBox(QWidget* parent) : QComboBox(parent) {
 void ListBox::wake() {
     if (awake_) return;
     awake_ = true;
-    QCompleter* completer = lineEdit()->completer();
-    completer->setModel(model());
+    // Told as the box tells the completer it makes itself.
+    auto* completer = new QCompleter(model(), lineEdit());
+    completer->setCaseSensitivity(Qt::CaseInsensitive);
+    completer->setCompletionMode(QCompleter::InlineCompletion);
     completer->setCompletionColumn(modelColumn());
     setCompleter(completer);
     // Makes the pop-up; the hint it gives is the one shown until now.

@@ -1,5 +1,5 @@
 #pragma once
-// An editable drop-down list that makes its completer's list and its pop-up
+// An editable drop-down list that makes its completer and its pop-up
 // only when the user first reaches it (focus, typing, a click, opening it):
 // a window of many lists shows sooner and works the same. Sized by a few
 // characters, not by measuring every entry of a long list.
@@ -13,7 +13,7 @@ class ListBox : public QComboBox {
 public:
     explicit ListBox(QWidget* parent = nullptr);
 
-    // Gives the completer the list and makes the pop-up; once.
+    // Makes the completer, with the list, and the pop-up; once.
     void wake();
     [[nodiscard]] bool awake() const { return awake_; }
 

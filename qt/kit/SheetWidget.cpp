@@ -143,11 +143,10 @@ void SheetWidget::rebuild() {
         showList();
     } else {
         dropList();
-        body_ = buildBody();
-        if (scroll_) scroll_->setWidget(body_);
-        else layout()->addWidget(body_);
+        buildBody();
     }
-    refresh();
+    // Each new cell has just shown its tool.
+    refreshFrame();
     keepTabPlace();
 }
 
@@ -211,20 +210,21 @@ void SheetWidget::openHostedEditors() {
     }
 }
 
-QWidget* SheetWidget::buildBody() {
-    auto* body = new QWidget;
-    body->setObjectName(objectName() + ".body");
+void SheetWidget::buildBody() {
+    body_ = new QWidget;
+    body_->setObjectName(objectName() + ".body");
     const bool toolbar = style_ == Style::Toolbar;
-    column_ = toolbar ? static_cast<QBoxLayout*>(new QHBoxLayout(body)) : new QVBoxLayout(body);
+    column_ = toolbar ? static_cast<QBoxLayout*>(new QHBoxLayout(body_)) : new QVBoxLayout(body_);
     column_->setContentsMargins(2, 2, 2, 2);
     column_->setSpacing(toolbar ? 2 : 0);
     iconRow_ = nullptr;
     if (!toolbar) column_->addStretch(1);
-    buildCells(body);
+    buildCells(body_);
     if (toolbar && std::none_of(cells_.begin(), cells_.end(),
                                 [](const ToolCell* c) { return c->kind() == ToolCell::Kind::Spacer; }))
         column_->addStretch(1);
-    return body;
+    if (scroll_) scroll_->setWidget(body_);
+    else layout()->addWidget(body_);
 }
 
 void SheetWidget::buildCells(QWidget* body) {
@@ -264,6 +264,11 @@ int SheetWidget::insertAt(QBoxLayout* column) const {
 }
 
 void SheetWidget::refresh() {
+    for (ToolCell* c : cells_) c->refresh();
+    refreshFrame();
+}
+
+void SheetWidget::refreshFrame() {
     listMinimum_ = QSize();
     if (title_) {
         title_->setText(QString::fromStdString(sheet_.title()));
@@ -274,7 +279,6 @@ void SheetWidget::refresh() {
     if (scroll_) AccessibleText::set(scroll_, name);
     if (list_) AccessibleText::set(list_, name);
     if (body_) body_->setEnabled(sheet_.enabled());
-    for (ToolCell* c : cells_) c->refresh();
     options_->follow(cells_);
     if (model_) model_->follow();
 }

@@ -83,9 +83,11 @@ private:
     // the sheet stands.
     void keepTabPlace();
     void refresh();
+    // All but the cells: the title, the names, the options, the long list.
+    void refreshFrame();
     void buildTitle(QBoxLayout* outer);
     void paintTitle();
-    QWidget* buildBody();
+    void buildBody();
     void buildCells(QWidget* body);
     void showList();
     void dropList();
